@@ -1,0 +1,29 @@
+# Compiler settings that hold for every target of the project.
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+
+if(NOT CMAKE_BUILD_TYPE)
+    set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
+endif()
+
+find_program(ZV_CCACHE ccache)
+mark_as_advanced(ZV_CCACHE)
+if(ZV_CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${ZV_CCACHE})
+endif()
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wconversion)
+if(ZV_WARNINGS_AS_ERRORS)
+    add_compile_options(-Werror)
+endif()
+if(ZV_SANITIZE)
+    add_compile_options(-fsanitize=${ZV_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${ZV_SANITIZE})
+endif()
+
+# Programs of the build tree find the build tree's libraries; installed ones find those beside them.
+set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")

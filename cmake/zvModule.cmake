@@ -1,0 +1,48 @@
+# Helpers with which a module's CMakeLists.txt describes itself.
+
+# zv_add_layer(NAME SOURCES ... PUBLIC_HEADERS ... DIRECTORIES ... DEPENDS ... LIBRARIES ...)
+#
+# Adds the object library NAME, a part of zvCommonUtilsExport. It sees only the headers in its own
+# DIRECTORIES and in those of the layers under DEPENDS, so that an include that points upward does not compile.
+# PUBLIC_HEADERS are installed; LIBRARIES are what it calls outside the project.
+function(zv_add_layer NAME)
+    cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC_HEADERS;DIRECTORIES;DEPENDS;LIBRARIES" ${ARGN})
+    add_library(${NAME} OBJECT ${ARG_SOURCES})
+    target_compile_definitions(${NAME} PRIVATE zvCommonUtilsExport_EXPORTS)
+    foreach(directory IN LISTS ARG_DIRECTORIES)
+        target_include_directories(${NAME} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR}/${directory})
+    endforeach()
+    foreach(layer IN LISTS ARG_DEPENDS)
+        target_include_directories(${NAME} PUBLIC $<TARGET_PROPERTY:${layer},INTERFACE_INCLUDE_DIRECTORIES>)
+    endforeach()
+    target_link_libraries(${NAME} PUBLIC ${ARG_LIBRARIES})
+    list(TRANSFORM ARG_PUBLIC_HEADERS PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
+    set_property(GLOBAL APPEND PROPERTY ZV_LAYERS ${NAME})
+    set_property(GLOBAL APPEND PROPERTY ZV_PUBLIC_HEADERS ${ARG_PUBLIC_HEADERS})
+endfunction()
+
+# zv_add_tests(NAME SOURCES ... LIBRARIES ...)
+#
+# Registers a GoogleTest program over the library's own objects and the recording logger; every test in it is
+# a CTest test of its own.
+function(zv_add_tests NAME)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+    list(TRANSFORM ARG_SOURCES PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
+    set_property(GLOBAL APPEND PROPERTY ZV_TEST_PROGRAMS ${NAME})
+    set_property(GLOBAL PROPERTY ZV_TEST_SOURCES_${NAME} ${ARG_SOURCES})
+    set_property(GLOBAL PROPERTY ZV_TEST_LIBRARIES_${NAME} ${ARG_LIBRARIES})
+endfunction()
+
+# Adds the registered test programs. Called once, after every module, since each program links all of them.
+function(zv_add_module_tests)
+    find_package(GTest REQUIRED)
+    include(GoogleTest)
+    get_property(programs GLOBAL PROPERTY ZV_TEST_PROGRAMS)
+    foreach(program IN LISTS programs)
+        get_property(sources GLOBAL PROPERTY ZV_TEST_SOURCES_${program})
+        get_property(libraries GLOBAL PROPERTY ZV_TEST_LIBRARIES_${program})
+        add_executable(${program} ${sources})
+        target_link_libraries(${program} PRIVATE zvTestSupport zvAllObjects GTest::gtest ${libraries})
+        gtest_discover_tests(${program} TEST_PREFIX ${program}. PROPERTIES TIMEOUT 300 DISCOVERY_TIMEOUT 60)
+    endforeach()
+endfunction()

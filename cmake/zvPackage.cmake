@@ -1,0 +1,50 @@
+# What `cmake --install` puts where, and the test of an installed tree.
+include(CMakePackageConfigHelpers)
+
+set(header_folder ${CMAKE_INSTALL_INCLUDEDIR}/zvCommonUtilsExport)
+set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/zvCommonUtilsExport)
+set(generated_folder ${PROJECT_BINARY_DIR}/package)
+
+# The umbrella header names every public header.
+get_property(public_headers GLOBAL PROPERTY ZV_PUBLIC_HEADERS)
+set(umbrella_includes "")
+foreach(header IN LISTS public_headers)
+    get_filename_component(name ${header} NAME)
+    list(APPEND umbrella_includes "#include \"${name}\"")
+endforeach()
+list(SORT umbrella_includes)
+list(JOIN umbrella_includes "\n" umbrella_includes)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/zvCommonUtilsExport.h.in ${generated_folder}/zvCommonUtilsExport.h @ONLY)
+
+target_include_directories(zvCommonUtilsExport PUBLIC $<INSTALL_INTERFACE:${header_folder}>)
+target_link_libraries(zvCommonUtilsExport PUBLIC $<INSTALL_INTERFACE:XercesC::XercesC>)
+
+install(FILES ${public_headers} ${generated_folder}/zvCommonUtilsExport.h DESTINATION ${header_folder})
+install(TARGETS zvCommonUtilsExport zvLogger
+    EXPORT zvCommonUtilsExportTargets
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(EXPORT zvCommonUtilsExportTargets NAMESPACE zvCommonUtilsExport:: DESTINATION ${package_folder})
+
+configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/zvCommonUtilsExportConfig.cmake.in
+    ${generated_folder}/zvCommonUtilsExportConfig.cmake
+    INSTALL_DESTINATION ${package_folder})
+write_basic_package_version_file(${generated_folder}/zvCommonUtilsExportConfigVersion.cmake
+    COMPATIBILITY SameMajorVersion)
+install(FILES
+    ${generated_folder}/zvCommonUtilsExportConfig.cmake
+    ${generated_folder}/zvCommonUtilsExportConfigVersion.cmake
+    DESTINATION ${package_folder})
+
+# Relative paths, so that an installed tree can be moved.
+file(RELATIVE_PATH ZV_LIBDIR_TO_PREFIX ${CMAKE_INSTALL_FULL_LIBDIR} ${CMAKE_INSTALL_PREFIX})
+configure_file(${CMAKE_CURRENT_LIST_DIR}/zvCommonUtilsExport.pc.in ${generated_folder}/zvCommonUtilsExport.pc @ONLY)
+install(FILES ${generated_folder}/zvCommonUtilsExport.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+# A consumer is built without the sanitizers, which a sanitized library needs in its program.
+if(ZV_BUILD_TESTS AND NOT ZV_SANITIZE)
+    add_test(NAME package.consumers COMMAND ${CMAKE_CURRENT_LIST_DIR}/consumers/test-consumers
+        ${PROJECT_BINARY_DIR} ${CMAKE_CXX_COMPILER})
+    set_tests_properties(package.consumers PROPERTIES TIMEOUT 600)
+endif()

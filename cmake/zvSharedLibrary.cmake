@@ -1,0 +1,21 @@
+# The shared library out of the layers' objects, and the same objects as a static library for the tests, which
+# reach what is hidden and bring a logging library of their own.
+get_property(layers GLOBAL PROPERTY ZV_LAYERS)
+
+add_library(zvCommonUtilsExport SHARED)
+add_library(zvCommonUtilsExport::zvCommonUtilsExport ALIAS zvCommonUtilsExport)
+add_library(zvAllObjects STATIC)
+foreach(layer IN LISTS layers)
+    target_sources(zvCommonUtilsExport PRIVATE $<TARGET_OBJECTS:${layer}>)
+    target_sources(zvAllObjects PRIVATE $<TARGET_OBJECTS:${layer}>)
+    foreach(library zvCommonUtilsExport zvAllObjects)
+        target_include_directories(${library} PUBLIC $<BUILD_INTERFACE:$<TARGET_PROPERTY:${layer},INTERFACE_INCLUDE_DIRECTORIES>>)
+        target_link_libraries(${library} PUBLIC $<BUILD_INTERFACE:$<TARGET_PROPERTY:${layer},INTERFACE_LINK_LIBRARIES>>)
+    endforeach()
+endforeach()
+set_target_properties(zvAllObjects zvCommonUtilsExport PROPERTIES LINKER_LANGUAGE CXX)
+set_target_properties(zvCommonUtilsExport PROPERTIES
+    VERSION ${PROJECT_VERSION}
+    SOVERSION ${PROJECT_VERSION_MAJOR})
+target_link_libraries(zvCommonUtilsExport PRIVATE zvLogger)
+target_link_options(zvCommonUtilsExport PRIVATE LINKER:--no-undefined)
