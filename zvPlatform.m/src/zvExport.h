@@ -1,0 +1,24 @@
+#ifndef ZV_EXPORT_H
+#define ZV_EXPORT_H
+
+/// ZV_EXPORT marks what zvCommonUtilsExport offers to other programs; everything else stays hidden.
+/// ZV_LOGGER_API does the same for the logging library.
+#if defined(_WIN32)
+#if defined(ZV_STATIC)
+#define ZV_EXPORT
+#elif defined(zvCommonUtilsExport_EXPORTS)
+#define ZV_EXPORT __declspec(dllexport)
+#else
+#define ZV_EXPORT __declspec(dllimport)
+#endif
+#if defined(zvLogger_EXPORTS)
+#define ZV_LOGGER_API __declspec(dllexport)
+#else
+#define ZV_LOGGER_API
+#endif
+#else
+#define ZV_EXPORT [[gnu::visibility("default")]]
+#define ZV_LOGGER_API [[gnu::visibility("default")]]
+#endif
+
+#endif

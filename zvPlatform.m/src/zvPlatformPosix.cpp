@@ -1,0 +1,214 @@
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <langinfo.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <clocale>
+#include <cstdlib>
+#include <cstring>
+#include <cwchar>
+#include <filesystem>
+#include <system_error>
+#include <thread>
+#include <vector>
+
+#include "zvPlatform.h"
+#include "zvPlatformCommon.h"
+#include "zvTextCodec.h"
+
+namespace zvPlatform {
+namespace {
+
+// Kept apart from errno, which a log line written in between would change.
+thread_local int lastFailure = 0;
+
+bool succeeded(bool success) {
+    if (!success) {
+        lastFailure = errno;
+    }
+    return success;
+}
+
+constexpr mode_t directoryMode = 0777;
+constexpr mode_t fileMode = 0666;
+
+// Empty, with errno set, for a path that has no narrow form: no system call takes an empty path.
+std::string nativePath(const wchar16* path) {
+    std::size_t length = 0;
+    while (path[length] != 0) {
+        ++length;
+    }
+    const std::size_t bytes = zvTextCodec::narrowLength(path, length);
+    if (bytes == zvTextCodec::unconvertible) {
+        errno = EILSEQ;
+        return {};
+    }
+    std::string narrow(bytes, '\0');
+    zvTextCodec::narrow(path, length, narrow.data());
+    std::replace(narrow.begin(), narrow.end(), '\\', '/');
+    return narrow;
+}
+
+// Splits as the home platform's shell does: at blanks outside double quotes.
+std::vector<std::string> splitArguments(const char* arguments) {
+    std::vector<std::string> paths;
+    bool quoted = false;
+    bool open = false;
+    for (const char* c = arguments; *c != '\0'; ++c) {
+        if (!quoted && (*c == ' ' || *c == '\t')) {
+            open = false;
+            continue;
+        }
+        if (!open) {
+            paths.emplace_back();
+            open = true;
+        }
+        if (*c == '"') {
+            quoted = !quoted;
+        } else {
+            paths.back() += *c;
+        }
+    }
+    return paths;
+}
+
+// A link to a directory is removed itself; what it points to stays.
+bool removeDirectory(const std::string& path) {
+    std::error_code error;
+    if (!std::filesystem::is_directory(path, error)) {
+        return false;
+    }
+    std::filesystem::path directory(path);
+    if (!directory.has_filename()) {
+        directory = directory.parent_path();
+    }
+    std::filesystem::remove_all(directory, error);
+    return !error;
+}
+
+}  // namespace
+
+std::string nativePath(const char* path) {
+    std::string native(path);
+    std::replace(native.begin(), native.end(), '\\', '/');
+    return native;
+}
+
+unsigned long lastError() { return static_cast<unsigned long>(lastFailure); }
+
+std::string errorText(unsigned long error) {
+    return std::generic_category().message(static_cast<int>(error));
+}
+
+bool createDirectory(const wchar16* path) {
+    const std::string native = nativePath(path);
+    return succeeded(!native.empty() && ::mkdir(native.c_str(), directoryMode) == 0);
+}
+
+Handle createFile(const wchar16* path) {
+    const std::string native = nativePath(path);
+    const int descriptor =
+        native.empty() ? -1 : ::open(native.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, fileMode);
+    // Descriptor 0 is a good one, handle 0 is not.
+    return succeeded(descriptor >= 0) ? static_cast<Handle>(descriptor) + 1 : refusedHandle;
+}
+
+bool closeHandle(Handle handle) {
+    return handle != refusedHandle && succeeded(::close(static_cast<int>(handle - 1)) == 0);
+}
+
+bool isAccessible(const char* path, int mode) { return accessError(path, mode) == 0; }
+
+unsigned long accessError(const char* path, int mode) {
+    constexpr int readAndWrite = R_OK | W_OK;
+    if ((mode & ~readAndWrite) != 0) {
+        return EINVAL;
+    }
+    return ::access(nativePath(path).c_str(), mode) == 0 ? 0 : static_cast<unsigned long>(errno);
+}
+
+std::FILE* openForReading(const char* path) {
+    std::FILE* const file = std::fopen(nativePath(path).c_str(), "re");
+    if (file == nullptr) {
+        return nullptr;
+    }
+    struct stat status {};
+    if (::fstat(::fileno(file), &status) == 0 && S_ISDIR(status.st_mode)) {
+        static_cast<void>(std::fclose(file));
+        errno = EISDIR;
+        return nullptr;
+    }
+    return file;
+}
+
+bool removeFile(const char* path) { return std::remove(nativePath(path).c_str()) == 0; }
+
+bool removeTree(const char* arguments) {
+    if (*arguments != ' ' && *arguments != '\t') {
+        return false;
+    }
+    const std::vector<std::string> paths = splitArguments(arguments);
+    bool removed = !paths.empty();
+    for (const std::string& path : paths) {
+        removed = removeDirectory(nativePath(path.c_str())) && removed;
+    }
+    return removed;
+}
+
+void* loadLibrary(const char* name) {
+    const std::string path = nativePath(name);
+    if (path.empty()) {
+        return nullptr;
+    }
+    void* const library = ::dlopen(path.c_str(), RTLD_NOW);
+    if (library != nullptr || path.find('/') != std::string::npos) {
+        return library;
+    }
+    // A bare name, as in "jvm", goes by this system's file name for it.
+    return ::dlopen(("lib" + path + ".so").c_str(), RTLD_NOW);
+}
+
+void* findFunction(void* library, const char* name) {
+    return library == nullptr ? nullptr : ::dlsym(library, name);
+}
+
+void setEnvironment(const char* name, const char* value) { ::setenv(name, value, 1); }
+
+void adoptUserLocale() {
+    std::setlocale(LC_ALL, "");
+    if (std::strcmp(::nl_langinfo(CODESET), "UTF-8") != 0) {
+        std::setlocale(LC_ALL, "C.UTF-8");
+    }
+}
+
+unsigned long processId() { return static_cast<unsigned long>(::getpid()); }
+
+void sleep(unsigned long milliseconds) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+}
+
+zvInt64 currentTime() { return std::time(nullptr); }
+
+bool toLocalTime(zvInt64 seconds, std::tm& out) {
+    const auto time = static_cast<std::time_t>(seconds);
+    return isTellable(seconds) && ::localtime_r(&time, &out) != nullptr;
+}
+
+zvInt64 fromLocalTime(std::tm local) {
+    local.tm_isdst = -1;
+    const zvInt64 seconds = std::mktime(&local);
+    return isTellable(seconds) ? seconds : -1;
+}
+
+std::string timeText(zvInt64 seconds) {
+    constexpr std::size_t longestText = 26;
+    char text[longestText + 1] = {};
+    const auto time = static_cast<std::time_t>(seconds);
+    return ::ctime_r(&time, text) != nullptr ? text : "";
+}
+
+}  // namespace zvPlatform

@@ -1,0 +1,106 @@
+#include <io.h>
+#include <process.h>
+#include <windows.h>
+
+#include <clocale>
+#include <cstdlib>
+#include <ctime>
+#include <string>
+#include <system_error>
+
+#include "zvPlatform.h"
+#include "zvPlatformCommon.h"
+
+namespace zvPlatform {
+namespace {
+
+static_assert(sizeof(wchar_t) == sizeof(wchar16), "wide characters are UTF-16 code units here");
+
+// Kept apart from the system's own, which a log line written in between would change.
+thread_local unsigned long lastFailure = 0;
+
+bool succeeded(bool success) {
+    if (!success) {
+        lastFailure = ::GetLastError();
+    }
+    return success;
+}
+
+const wchar_t* wide(const wchar16* text) { return reinterpret_cast<const wchar_t*>(text); }
+
+}  // namespace
+
+std::string nativePath(const char* path) { return path; }
+
+unsigned long lastError() { return lastFailure; }
+
+std::string errorText(unsigned long error) { return std::system_category().message(static_cast<int>(error)); }
+
+bool createDirectory(const wchar16* path) { return succeeded(::CreateDirectoryW(wide(path), nullptr) != 0); }
+
+Handle createFile(const wchar16* path) {
+    const HANDLE handle = ::CreateFileW(wide(path), FILE_ALL_ACCESS, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                        nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+    return succeeded(handle != INVALID_HANDLE_VALUE) ? reinterpret_cast<Handle>(handle) : refusedHandle;
+}
+
+bool closeHandle(Handle handle) {
+    return handle != refusedHandle && succeeded(::CloseHandle(reinterpret_cast<HANDLE>(handle)) != 0);
+}
+
+bool isAccessible(const char* path, int mode) { return accessError(path, mode) == 0; }
+
+unsigned long accessError(const char* path, int mode) {
+    constexpr int readAndWrite = 6;
+    if ((mode & ~readAndWrite) != 0) {
+        return ERROR_INVALID_PARAMETER;
+    }
+    return ::_access(path, mode) == 0 ? 0 : _doserrno;
+}
+
+std::FILE* openForReading(const char* path) { return std::fopen(path, "r"); }
+
+bool removeFile(const char* path) { return std::remove(path) == 0; }
+
+bool removeTree(const char* arguments) {
+    return std::system((std::string("rmdir /s/q") + arguments).c_str()) == 0;
+}
+
+void* loadLibrary(const char* name) { return reinterpret_cast<void*>(::LoadLibraryA(name)); }
+
+void* findFunction(void* library, const char* name) {
+    return library == nullptr
+               ? nullptr
+               : reinterpret_cast<void*>(::GetProcAddress(reinterpret_cast<HMODULE>(library), name));
+}
+
+void setEnvironment(const char* name, const char* value) {
+    ::_putenv((std::string(name) + "=" + value).c_str());
+}
+
+void adoptUserLocale() { std::setlocale(LC_ALL, ""); }
+
+unsigned long processId() { return ::GetCurrentProcessId(); }
+
+void sleep(unsigned long milliseconds) { ::Sleep(milliseconds); }
+
+zvInt64 currentTime() { return ::_time64(nullptr); }
+
+bool toLocalTime(zvInt64 seconds, std::tm& out) {
+    const __time64_t time = seconds;
+    return isTellable(seconds) && ::_localtime64_s(&out, &time) == 0;
+}
+
+zvInt64 fromLocalTime(std::tm local) {
+    local.tm_isdst = -1;
+    const zvInt64 seconds = ::_mktime64(&local);
+    return isTellable(seconds) ? seconds : -1;
+}
+
+std::string timeText(zvInt64 seconds) {
+    const __time64_t time = seconds;
+    const char* const text = ::_ctime64(&time);
+    return text != nullptr ? text : "";
+}
+
+}  // namespace zvPlatform

@@ -1,0 +1,32 @@
+#ifndef ZV_TEXT_CODEC_H
+#define ZV_TEXT_CODEC_H
+
+#include <cstddef>
+
+#include "zvTypes.h"
+
+/// Conversion between narrow text (multibyte, in the process's locale) and wide text (UTF-16 code units).
+///
+/// Callers measure, allocate and then convert, so that nothing in here allocates. Where the runtime's wide
+/// character is larger than a code unit, surrogate pairs are joined and split on the way.
+namespace zvTextCodec {
+
+/// What a measurement answers for a text that has no counterpart on the other side.
+constexpr std::size_t unconvertible = static_cast<std::size_t>(-1);
+
+/// Code units that `text` needs, terminator excluded.
+std::size_t wideLength(const char* text);
+
+/// Writes at most `capacity` code units, no terminator, never half a surrogate pair.
+/// @return the number of units written; 0 for a text that cannot be converted.
+std::size_t widen(const char* text, wchar16* out, std::size_t capacity);
+
+/// Bytes that the `length` code units of `text` need, terminator excluded.
+std::size_t narrowLength(const wchar16* text, std::size_t length);
+
+/// Writes the bytes that narrowLength counted, no terminator.
+void narrow(const wchar16* text, std::size_t length, char* out);
+
+}  // namespace zvTextCodec
+
+#endif

@@ -1,0 +1,59 @@
+#include "zvPlatform.h"
+
+#include <cstdlib>
+
+#include "zvString.h"
+#include "zvTestSupport.h"
+
+namespace {
+
+TEST(zvPlatform, TranslatesPathsAtTheLastMoment) {
+    const zvTemporaryFolder folder;
+    const std::string path = folder.path().string() + "\\a\\b";
+    EXPECT_EQ(zvPlatform::nativePath("\\a/b\\"), "/a/b/");
+    EXPECT_TRUE(zvPlatform::createDirectory(zvString((folder.path().string() + "\\a").c_str()).data()));
+    const zvPlatform::Handle handle = zvPlatform::createFile(zvString(path.c_str()).data());
+    EXPECT_NE(handle, zvPlatform::refusedHandle);
+    EXPECT_TRUE(zvPlatform::closeHandle(handle));
+    EXPECT_TRUE(zvPlatform::isAccessible(path.c_str(), 6));
+    EXPECT_TRUE(zvPlatform::removeFile(path.c_str()));
+    EXPECT_FALSE(zvPlatform::isAccessible(path.c_str(), 0));
+}
+
+TEST(zvPlatform, TheReasonOfARefusalOutlivesWhatFollows) {
+    const zvTemporaryFolder folder;
+    const zvString existing(folder.write("file", "").c_str());
+    EXPECT_EQ(zvPlatform::createFile(existing.data()), zvPlatform::refusedHandle);
+    EXPECT_FALSE(zvPlatform::closeHandle(zvPlatform::refusedHandle));
+    EXPECT_FALSE(zvPlatform::isAccessible(folder.file("missing").c_str(), 0));
+    EXPECT_EQ(zvPlatform::errorText(zvPlatform::lastError()), "File exists");
+    EXPECT_FALSE(zvPlatform::createDirectory(zvString(u"a\xD83D").data()));
+    EXPECT_EQ(zvPlatform::lastError(), static_cast<unsigned long>(EILSEQ)) << "a path without a narrow form";
+    EXPECT_EQ(zvPlatform::errorText(zvPlatform::accessError(folder.file("missing").c_str(), 4)),
+              "No such file or directory");
+    EXPECT_EQ(zvPlatform::accessError(folder.path().string().c_str(), 6), 0UL);
+}
+
+// A program that was started without a standard input gets descriptor 0 for its first file.
+TEST(zvPlatform, NoOpenedFileHasTheHandle0) {
+    EXPECT_EXIT(
+        {
+            const zvTemporaryFolder folder;
+            std::fclose(stdin);
+            const zvPlatform::Handle handle =
+                zvPlatform::createFile(zvString(folder.file("new").c_str()).data());
+            std::exit(handle != 0 && zvPlatform::closeHandle(handle) ? 0 : 1);
+        },
+        testing::ExitedWithCode(0), "");
+}
+
+TEST(zvPlatform, OpensNoDirectoryForReading) {
+    const zvTemporaryFolder folder;
+    EXPECT_EQ(zvPlatform::openForReading(folder.path().string().c_str()), nullptr);
+    std::FILE* const file = zvPlatform::openForReading(folder.write("file", "x").c_str());
+    ASSERT_NE(file, nullptr);
+    EXPECT_EQ(std::fgetc(file), 'x');
+    EXPECT_EQ(std::fclose(file), 0);
+}
+
+}  // namespace
