@@ -1,0 +1,32 @@
+#ifndef ZV_ATTRIBUTE_H
+#define ZV_ATTRIBUTE_H
+
+#include "zvString.h"
+#include "zvValue.h"
+
+/// A named typed value.
+class ZV_EXPORT zvAttribute {
+public:
+    zvAttribute();
+    zvAttribute(const zvString& name, const zvValue& value);
+    zvAttribute(const zvAttribute& other);
+    virtual ~zvAttribute();
+
+    zvAttribute& operator=(const zvAttribute& other);
+
+    zvString getName() const;
+    void setName(const zvString& name);
+    zvValue getValue() const;
+    void setValue(const zvValue& value);
+    /// The value itself, owned by the attribute.
+    const zvValue& value() const { return m_value; }
+
+protected:
+    void copy(const zvAttribute& other);
+
+private:
+    zvString m_strName;
+    zvValue m_value;
+};
+
+#endif

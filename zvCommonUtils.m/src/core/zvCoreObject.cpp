@@ -1,0 +1,3 @@
+#include "zvCoreObject.h"
+
+zvCoreObject::~zvCoreObject() = default;

@@ -1,0 +1,199 @@
+#include "zvDateTime.h"
+
+#include "zvLogSource.h"
+#include "zvPlatform.h"
+
+namespace {
+
+constexpr zvLogSource logger("zvCommonUtils.m/src/zvDateTime");
+
+constexpr char defaultFormat[] = "DD/MM/YYYY::hh-mm-ss";
+constexpr int fieldCount = 6;
+constexpr int longestFieldText = 5;
+
+bool isSeparator(wchar16 unit) { return unit == u':' || unit == u'/' || unit == u'-'; }
+
+// Reads one number at `valueAt`, and moves both positions behind the field and its separator. The two move
+// separately: the second ":" of "::" is passed over in the value here, in the format by the caller.
+int extractField(const zvString& value, int& valueAt, const zvString& format, int& formatAt) {
+    const int begin = valueAt;
+    while (valueAt < value.size() && valueAt - begin < longestFieldText) {
+        if (isSeparator(value[valueAt++])) {
+            break;
+        }
+    }
+    const wchar16 last = value[valueAt - 1];
+    int length = valueAt - begin;
+    if (valueAt < value.size()) {
+        --length;  // the separator, or the fifth digit
+    }
+    if (last == u':') {
+        ++valueAt;
+    }
+    while (formatAt < format.size() && !isSeparator(format[formatAt++])) {
+    }
+    return zvString::convertUnicodeToInt(value.substr(begin, length));
+}
+
+}  // namespace
+
+struct zvDateTime::Field {
+    wchar16 letter;
+    int width;  // of the field and its separator in a pattern
+    short zvDateTime::*number;
+};
+
+const zvDateTime::Field* zvDateTime::fieldOf(wchar16 letter) {
+    static constexpr Field fields[fieldCount] = {
+        {u'D', 3, &zvDateTime::m_sDay},  {u'M', 3, &zvDateTime::m_sMonth},  {u'Y', 5, &zvDateTime::m_sYear},
+        {u'h', 3, &zvDateTime::m_sHour}, {u'm', 3, &zvDateTime::m_sMinute}, {u's', 3, &zvDateTime::m_sSecond},
+    };
+    for (const Field& field : fields) {
+        if (field.letter == letter) {
+            return &field;
+        }
+    }
+    return nullptr;
+}
+
+zvDateTime::zvDateTime() = default;
+
+zvDateTime::zvDateTime(const zvString& format) : m_bHasOwnFormat(true), m_strFormat(format) {}
+
+zvDateTime::zvDateTime(short year, short month, short day, short hour, short minute, short second)
+    : m_sYear(year), m_sMonth(month), m_sDay(day), m_sHour(hour), m_sMinute(minute), m_sSecond(second) {}
+
+zvDateTime::zvDateTime(zvInt64 seconds) : zvDateTime() { setDateTimeInSeconds(seconds); }
+
+zvDateTime::zvDateTime(const zvDateTime& other) = default;
+
+zvDateTime::~zvDateTime() = default;
+
+zvDateTime& zvDateTime::operator=(const zvDateTime& other) {
+    copy(other);
+    return *this;
+}
+
+void zvDateTime::copy(const zvDateTime& other) {
+    m_sYear = other.m_sYear;
+    m_sMonth = other.m_sMonth;
+    m_sDay = other.m_sDay;
+    m_sHour = other.m_sHour;
+    m_sMinute = other.m_sMinute;
+    m_sSecond = other.m_sSecond;
+    m_bHasOwnFormat = other.m_bHasOwnFormat;
+    m_strFormat = other.m_strFormat;
+}
+
+zvString zvDateTime::getDateFormat() const { return m_bHasOwnFormat ? m_strFormat : zvString(defaultFormat); }
+
+bool zvDateTime::isInitialized() const {
+    return (m_sYear | m_sMonth | m_sDay | m_sHour | m_sMinute | m_sSecond) != 0;
+}
+
+void zvDateTime::setDate(const zvString& value, const zvString& format) {
+    if (value.empty() || format.empty()) {
+        logger.error("Date cannot be extracted from the input string. The input string is \"", value,
+                     "\" and the format is \"", format, "\"");
+        return;
+    }
+    m_bHasOwnFormat = true;
+    m_strFormat = format;
+    int valueAt = 0;
+    int formatAt = 0;
+    while (valueAt < value.size() && formatAt < format.size()) {
+        const Field* const field = fieldOf(format[formatAt]);
+        if (field == nullptr) {
+            ++formatAt;
+        } else {
+            this->*field->number = static_cast<short>(extractField(value, valueAt, format, formatAt));
+        }
+    }
+}
+
+zvString zvDateTime::getDateTime(const zvString& format, const zvString& dateSeparator,
+                                 const zvString& timeSeparator) const {
+    int numbers[fieldCount] = {};
+    int count = 0;
+    bool hasDate = false;
+    bool hasTime = false;
+    for (int at = 0; at < format.size() && count < fieldCount;) {
+        const Field* const field = fieldOf(format[at]);
+        if (field == nullptr) {
+            ++at;
+            continue;
+        }
+        numbers[count++] = this->*field->number;
+        hasDate = hasDate || field->letter == u'D';
+        hasTime = hasTime || field->letter == u'h';
+        at += field->width;
+    }
+    zvTextBuilder text;
+    const auto appendThree = [&text](const int* three, const zvString& separator) {
+        text.append(three[0]).append(separator).append(three[1]).append(separator).append(three[2]);
+    };
+    if (hasDate || hasTime) {
+        appendThree(numbers, hasDate ? dateSeparator : timeSeparator);
+    }
+    if (hasDate && hasTime) {
+        text.append("::");
+        appendThree(numbers + 3, timeSeparator);
+    }
+    return text.toString();
+}
+
+zvString zvDateTime::getDate(const zvString& format, const zvString& separator) const {
+    return getDateTime(format, separator, "-");
+}
+
+zvString zvDateTime::getTime(const zvString& format, const zvString& separator) const {
+    return getDateTime(format, "/", separator);
+}
+
+zvString zvDateTime::toString() const {
+    if (!isInitialized()) {
+        return "zvDateTime object not initialized";
+    }
+    return zvTextBuilder::concat("Day: |", getDate("DD/MM/YYYY", "/"), "| Time: |", getTime("hh-mm-ss", "-"),
+                                 "|");
+}
+
+zvInt64 zvDateTime::getDateTimeInSeconds() const {
+    std::tm local{};
+    local.tm_sec = m_sSecond;
+    local.tm_min = m_sMinute;
+    local.tm_hour = m_sHour;
+    local.tm_mday = m_sDay;
+    local.tm_mon = m_sMonth - 1;
+    local.tm_year = m_sYear - 1900;
+    return zvPlatform::fromLocalTime(local);
+}
+
+void zvDateTime::setDateTimeInSeconds(zvInt64 seconds) {
+    std::tm local{};
+    if (!zvPlatform::toLocalTime(seconds, local)) {
+        return;
+    }
+    m_sYear = static_cast<short>(local.tm_year + 1900);
+    m_sMonth = static_cast<short>(local.tm_mon + 1);
+    m_sDay = static_cast<short>(local.tm_mday);
+    m_sHour = static_cast<short>(local.tm_hour);
+    m_sMinute = static_cast<short>(local.tm_min);
+    m_sSecond = static_cast<short>(local.tm_sec);
+}
+
+void zvDateTime::setCurrentDateTime() { setDateTimeInSeconds(zvPlatform::currentTime()); }
+
+bool zvDateTime::operator==(const zvDateTime& other) const {
+    return getDateTimeInSeconds() == other.getDateTimeInSeconds();
+}
+
+bool zvDateTime::operator!=(const zvDateTime& other) const { return !(*this == other); }
+
+bool zvDateTime::operator<(const zvDateTime& other) const {
+    return getDateTimeInSeconds() < other.getDateTimeInSeconds();
+}
+
+bool zvDateTime::operator<=(const zvDateTime& other) const { return !(other < *this); }
+bool zvDateTime::operator>(const zvDateTime& other) const { return other < *this; }
+bool zvDateTime::operator>=(const zvDateTime& other) const { return !(*this < other); }

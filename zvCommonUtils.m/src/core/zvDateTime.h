@@ -1,0 +1,82 @@
+#ifndef ZV_DATE_TIME_H
+#define ZV_DATE_TIME_H
+
+#include "zvCoreObject.h"
+#include "zvString.h"
+
+/// A date and a time of day as six numbers, none of them checked, with the pattern in which they are written.
+///
+/// A pattern is made of the fields "DD", "MM", "YYYY", "hh", "mm" and "ss", between separators "/", "-" and
+/// ":"; "::" stands between date and time. Seconds are counted from 1970 and the numbers are local time.
+class ZV_EXPORT zvDateTime : public zvCoreObject {
+public:
+    /// Six zeros with the pattern "DD/MM/YYYY::hh-mm-ss".
+    zvDateTime();
+    explicit zvDateTime(const zvString& format);
+    zvDateTime(short year, short month, short day, short hour, short minute, short second);
+    explicit zvDateTime(zvInt64 seconds);
+    zvDateTime(const zvDateTime& other);
+    ~zvDateTime() override;
+
+    zvDateTime& operator=(const zvDateTime& other);
+
+    short getYear() const { return m_sYear; }
+    short getMonth() const { return m_sMonth; }
+    short getDay() const { return m_sDay; }
+    short getHour() const { return m_sHour; }
+    short getMinute() const { return m_sMinute; }
+    short getSecond() const { return m_sSecond; }
+    void setYear(short year) { m_sYear = year; }
+    void setMonth(short month) { m_sMonth = month; }
+    void setDay(short day) { m_sDay = day; }
+    void setHour(short hour) { m_sHour = hour; }
+    void setMinute(short minute) { m_sMinute = minute; }
+    void setSecond(short second) { m_sSecond = second; }
+    zvString getDateFormat() const;
+    /// Whether any of the six numbers is not 0.
+    bool isInitialized() const;
+
+    /// Reads `value` by the pattern `format`, which becomes the value's own. Fields that the value or the
+    /// pattern lacks keep their numbers; failures are logged and leave the fields read until then.
+    void setDate(const zvString& value, const zvString& format);
+    /// Writes the value by the pattern `format`, without leading zeros. A pattern without "D" has no date in
+    /// the result, one without "h" no time.
+    zvString getDateTime(const zvString& format, const zvString& dateSeparator,
+                         const zvString& timeSeparator) const;
+    zvString getDate(const zvString& format, const zvString& separator) const;
+    zvString getTime(const zvString& format, const zvString& separator) const;
+    /// As in "Day: |21/5/2011| Time: |11-12-22|".
+    zvString toString() const;
+
+    /// -1 for an instant before 1970 or after 3000.
+    zvInt64 getDateTimeInSeconds() const;
+    /// Seconds before 1970 or after 3000 change nothing.
+    void setDateTimeInSeconds(zvInt64 seconds);
+    void setCurrentDateTime();
+
+    /// Compared are the seconds: 31 April equals 1 May.
+    bool operator==(const zvDateTime& other) const;
+    bool operator!=(const zvDateTime& other) const;
+    bool operator<(const zvDateTime& other) const;
+    bool operator<=(const zvDateTime& other) const;
+    bool operator>(const zvDateTime& other) const;
+    bool operator>=(const zvDateTime& other) const;
+
+protected:
+    void copy(const zvDateTime& other);
+
+private:
+    struct Field;
+    static const Field* fieldOf(wchar16 letter);
+
+    short m_sYear = 0;
+    short m_sMonth = 0;
+    short m_sDay = 0;
+    short m_sHour = 0;
+    short m_sMinute = 0;
+    short m_sSecond = 0;
+    bool m_bHasOwnFormat = false;
+    zvString m_strFormat;  // the default pattern is not kept: most dates have it, and never write it
+};
+
+#endif

@@ -1,0 +1,12 @@
+#ifndef ZV_MAP_INDEX_H
+#define ZV_MAP_INDEX_H
+
+#include <iterator>
+
+/// The entry that an index names in an ordered map; null when it names none.
+template <typename Map>
+const typename Map::value_type* zvMapEntryAt(const Map& map, int i) {
+    return i >= 0 && i < static_cast<int>(map.size()) ? &*std::next(map.begin(), i) : nullptr;
+}
+
+#endif

@@ -1,0 +1,64 @@
+#include "zvResult.h"
+
+namespace {
+
+constexpr int success = 0;
+constexpr int failure = -1;
+constexpr int businessFailure = 0;
+constexpr int fileTransferFailure = 1;
+
+}  // namespace
+
+zvResult::zvResult() : zvResult(failure) {}
+
+zvResult::zvResult(int code) : m_iResult(code), m_iFailureType(businessFailure) {}
+
+zvResult::zvResult(const zvResult& other) = default;
+
+zvResult::~zvResult() = default;
+
+zvResult& zvResult::operator=(const zvResult& other) {
+    copy(other);
+    return *this;
+}
+
+zvResult& zvResult::operator=(int code) {
+    m_iResult = code;
+    return *this;
+}
+
+void zvResult::setResult(int code) { m_iResult = code; }
+int zvResult::getResult() const { return m_iResult; }
+bool zvResult::isOk() const { return m_iResult == success; }
+void zvResult::setOk() { m_iResult = success; }
+
+void zvResult::setMessage(const zvString& message) { m_strMessage = message; }
+zvString zvResult::getMessage() const { return m_strMessage; }
+void zvResult::setAdditionalInformation(const zvString& information) {
+    m_strAdditionalInformation = information;
+}
+zvString zvResult::getAdditionalInformation() const { return m_strAdditionalInformation; }
+
+int zvResult::getFailureType() const { return m_iFailureType; }
+void zvResult::setBusinessFailure() { m_iFailureType = businessFailure; }
+void zvResult::setFileTransferFailure() { m_iFailureType = fileTransferFailure; }
+bool zvResult::isBusinessFailure(int type) { return type == businessFailure; }
+bool zvResult::isFileTransferFailure(int type) { return type == fileTransferFailure; }
+
+bool zvResult::operator==(const zvResult& other) const {
+    return m_iResult == other.m_iResult && m_iFailureType == other.m_iFailureType;
+}
+
+bool zvResult::operator!=(const zvResult& other) const { return !(*this == other); }
+
+void zvResult::initialize() {
+    m_iResult = failure;
+    m_iFailureType = businessFailure;
+}
+
+void zvResult::copy(const zvResult& other) {
+    m_iResult = other.m_iResult;
+    m_strMessage = other.m_strMessage;
+    m_iFailureType = other.m_iFailureType;
+    m_strAdditionalInformation = other.m_strAdditionalInformation;
+}

@@ -1,0 +1,51 @@
+#include "zvStringList.h"
+
+#include <algorithm>
+#include <vector>
+
+class zvStringListImpl {
+public:
+    std::vector<zvString> strings;
+};
+
+zvStringList::zvStringList() : m_pImpl(new zvStringListImpl) {}
+
+zvStringList::zvStringList(const zvStringList& other)
+    : zvCoreObject(other), m_pImpl(new zvStringListImpl(*other.m_pImpl)) {}
+
+zvStringList& zvStringList::operator=(const zvStringList& other) {
+    if (this != &other) {
+        *m_pImpl = *other.m_pImpl;
+    }
+    return *this;
+}
+
+zvStringList::~zvStringList() { delete m_pImpl; }
+
+void zvStringList::addString(const zvString& text) { m_pImpl->strings.push_back(text); }
+
+int zvStringList::numStrings() const { return static_cast<int>(m_pImpl->strings.size()); }
+
+zvString zvStringList::getString(int i) const {
+    return i >= 0 && i < numStrings() ? m_pImpl->strings[static_cast<std::size_t>(i)] : zvString();
+}
+
+int zvStringList::getStringIndex(const zvString& text) const {
+    const auto& strings = m_pImpl->strings;
+    const auto found = std::find(strings.begin(), strings.end(), text);
+    return found == strings.end() ? -1 : static_cast<int>(found - strings.begin());
+}
+
+bool zvStringList::empty() const { return m_pImpl->strings.empty(); }
+
+zvString zvStringList::back() const { return empty() ? zvString() : m_pImpl->strings.back(); }
+
+const zvString& zvStringList::top() const { return m_pImpl->strings.back(); }
+
+void zvStringList::pop() {
+    if (!empty()) {
+        m_pImpl->strings.pop_back();
+    }
+}
+
+void zvStringList::clear() { m_pImpl->strings.clear(); }

@@ -1,0 +1,40 @@
+#include "zvStringToStringMap.h"
+
+#include "zvMapIndex.h"
+
+zvStringToStringMap::zvStringToStringMap() = default;
+
+zvStringToStringMap::zvStringToStringMap(const zvStringToStringMap& other) = default;
+
+zvStringToStringMap& zvStringToStringMap::operator=(const zvStringToStringMap& other) = default;
+
+zvStringToStringMap::~zvStringToStringMap() = default;
+
+bool zvStringToStringMap::add(const zvString& key, const zvString& value) {
+    return m_map.emplace(key, value).second;
+}
+
+void zvStringToStringMap::setValue(const zvString& key, const zvString& value) {
+    m_map.insert_or_assign(key, value);
+}
+
+zvString zvStringToStringMap::getValue(const zvString& key) const {
+    const auto found = m_map.find(key);
+    return found == m_map.end() ? zvString() : found->second;
+}
+
+zvString zvStringToStringMap::getKey(int i) const {
+    const auto* const entry = zvMapEntryAt(m_map, i);
+    return entry == nullptr ? zvString() : entry->first;
+}
+
+zvString zvStringToStringMap::getValue(int i) const {
+    const auto* const entry = zvMapEntryAt(m_map, i);
+    return entry == nullptr ? zvString() : entry->second;
+}
+
+int zvStringToStringMap::size() const { return static_cast<int>(m_map.size()); }
+
+void zvStringToStringMap::clear() { m_map.clear(); }
+
+void zvStringToStringMap::copy(const zvStringToStringMap& other) { m_map = other.m_map; }

@@ -1,0 +1,42 @@
+#ifndef ZV_STRING_TO_STRING_MAP_H
+#define ZV_STRING_TO_STRING_MAP_H
+
+#include <map>
+
+#include "zvString.h"
+
+/// An ordered map from text to text. Keys are unique and in zvString's order, which the indices follow;
+/// reaching entry `i` takes `i` steps.
+class ZV_EXPORT zvStringToStringMap {
+public:
+    zvStringToStringMap();
+    zvStringToStringMap(const zvStringToStringMap& other);
+    zvStringToStringMap& operator=(const zvStringToStringMap& other);
+    virtual ~zvStringToStringMap();
+
+    /// False, with nothing changed, when the key is there already.
+    bool add(const zvString& key, const zvString& value);
+    /// Adds or replaces.
+    void setValue(const zvString& key, const zvString& value);
+    /// The value; empty for an absent key as for an empty value.
+    zvString getValue(const zvString& key) const;
+    /// Key and value of entry `i` in key order; empty for any other index.
+    zvString getKey(int i) const;
+    zvString getValue(int i) const;
+    int size() const;
+    /// Calls `visit(key, value)` for every entry in key order, in one walk.
+    template <typename Visit>
+    void forEach(Visit visit) const {
+        for (const auto& entry : m_map) {
+            visit(entry.first, entry.second);
+        }
+    }
+    void clear();
+    /// Replaces the content by a copy of the other's.
+    void copy(const zvStringToStringMap& other);
+
+private:
+    std::map<zvString, zvString> m_map;
+};
+
+#endif

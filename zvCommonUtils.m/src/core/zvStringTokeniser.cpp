@@ -1,0 +1,85 @@
+#include "zvStringTokeniser.h"
+
+#include <string_view>
+
+namespace {
+
+using View = std::basic_string_view<wchar16>;
+
+constexpr std::size_t npos = View::npos;
+
+View viewOf(const zvString& text) { return {text.data(), static_cast<std::size_t>(text.size())}; }
+
+void addToken(zvStringList& tokens, View text, std::size_t begin, std::size_t end) {
+    const View token = text.substr(begin, end == npos ? npos : end - begin);
+    tokens.addString(zvString(token.data(), static_cast<int>(token.size())));
+}
+
+}  // namespace
+
+zvStringTokeniser::zvStringTokeniser(zvString source, char delimiter)
+    : m_cDelimiter(delimiter), m_strSource(std::move(source)), m_bCharDelimiter(true) {}
+
+zvStringTokeniser::zvStringTokeniser(zvString source, const char* delimiters, bool wholeString)
+    : m_strDelimiters(delimiters), m_strSource(std::move(source)), m_bWholeString(wholeString) {}
+
+zvStringTokeniser::~zvStringTokeniser() = default;
+
+void zvStringTokeniser::tokenise() {
+    if (m_strSource.empty()) {
+        return;
+    }
+    if (m_bCharDelimiter) {
+        tokeniseWithCharDelimiter();
+    } else if (m_bWholeString) {
+        tokeniseWithStringAsWholeDelimiter();
+    } else {
+        tokeniseWithStringDelimiter();
+    }
+}
+
+int zvStringTokeniser::getNumTokens() const { return m_tokens.numStrings(); }
+
+zvString zvStringTokeniser::getToken(int i) const { return m_tokens.getString(i); }
+
+void zvStringTokeniser::tokeniseWithCharDelimiter() {
+    const View text = viewOf(m_strSource);
+    // A byte beyond ASCII stays the negative number that it is as a signed char, and matches no text.
+    const auto delimiter = static_cast<wchar16>(static_cast<signed char>(m_cDelimiter));
+    std::size_t start = text.find_first_not_of(delimiter);
+    while (start != npos) {
+        std::size_t end = text.find(delimiter, start);
+        addToken(m_tokens, text, start, end);
+        if (end == npos) {
+            return;
+        }
+        for (; end + 1 < text.size() && text[end + 1] == delimiter; ++end) {
+            m_tokens.addString(zvString());
+        }
+        start = text.find_first_not_of(delimiter, end);
+    }
+}
+
+void zvStringTokeniser::tokeniseWithStringDelimiter() {
+    const View text = viewOf(m_strSource);
+    const View delimiters = viewOf(m_strDelimiters);
+    std::size_t end = 0;
+    for (std::size_t start = text.find_first_not_of(delimiters); start != npos;
+         start = end == npos ? npos : text.find_first_not_of(delimiters, end)) {
+        end = text.find_first_of(delimiters, start);
+        addToken(m_tokens, text, start, end);
+    }
+}
+
+void zvStringTokeniser::tokeniseWithStringAsWholeDelimiter() {
+    const View text = viewOf(m_strSource);
+    const View delimiter = viewOf(m_strDelimiters);
+    std::size_t start = 0;
+    while (start != npos && start < text.size()) {
+        const std::size_t end = delimiter.empty() ? npos : text.find(delimiter, start);
+        if (end != start) {
+            addToken(m_tokens, text, start, end);
+        }
+        start = end == npos ? npos : end + delimiter.size();
+    }
+}

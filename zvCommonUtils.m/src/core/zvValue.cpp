@@ -1,0 +1,267 @@
+#include "zvValue.h"
+
+#include <cfloat>
+#include <climits>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+namespace {
+
+constexpr char dateFormat[] = "DD/MM/YYYY::hh-mm-ss";
+constexpr char noOrderOfBooleans[] = "On boolean datatype only equal to and not equal to action happens";
+
+// What is too large for a float is infinite; a plain conversion of it would be undefined.
+float toFloat(double value) {
+    if (std::fabs(value) > static_cast<double>(FLT_MAX)) {
+        return std::copysign(std::numeric_limits<float>::infinity(), value > 0 ? 1.0F : -1.0F);
+    }
+    return static_cast<float>(value);
+}
+
+int toInt(float value) {
+    constexpr float limit = 2147483648.0F;
+    return value > -limit && value < limit ? static_cast<int>(value) : INT_MIN;
+}
+
+zvDateTime toDate(const zvString& text) {
+    zvDateTime date;
+    date.setDate(text, dateFormat);
+    return date;
+}
+
+// The text is in the exception and in its result: callers read either.
+[[noreturn]] void fail(const char* message) {
+    zvResult result;
+    result.setMessage(message);
+    zvException exception(result);
+    exception.setMessage(message);
+    throw zvException(exception);
+}
+
+}  // namespace
+
+zvValue::zvValue() { initialize(); }
+
+zvValue::zvValue(bool value) : zvValue() { setBoolValue(value); }
+
+zvValue::zvValue(int value) : zvValue() { setIntValue(value); }
+
+zvValue::zvValue(float value) : zvValue() { setFloatValue(value, m_iPrecision); }
+
+zvValue::zvValue(const zvString& value) : zvValue() { setStrValue(value); }
+
+zvValue::zvValue(zvString&& value) : m_strValue(std::move(value)), m_eDataType(zvDataTypeString) {}
+
+zvValue::zvValue(const zvDateTime& value) : zvValue() { setDateValue(value); }
+
+zvValue::zvValue(const zvString& text, zvDataTypeEnum type, int precision) : zvValue() {
+    setValue(text, type, precision);
+}
+
+zvValue::zvValue(const zvValue& other) = default;
+
+zvValue::~zvValue() = default;
+
+zvValue& zvValue::operator=(const zvValue& other) {
+    copy(other);
+    return *this;
+}
+
+void zvValue::initialize() {
+    m_bValue = false;
+    m_iValue = -1;
+    m_fValue = -1.0F;
+    m_iPrecision = 3;
+    m_eDataType = zvDataTypeNone;
+}
+
+void zvValue::copy(const zvValue& other) {
+    m_bValue = other.m_bValue;
+    m_iValue = other.m_iValue;
+    m_fValue = other.m_fValue;
+    m_iPrecision = other.m_iPrecision;
+    m_strValue = other.m_strValue;
+    m_dateValue = other.m_dateValue;
+    m_eDataType = other.m_eDataType;
+}
+
+void zvValue::setBoolValue(bool value) {
+    m_bValue = value;
+    m_eDataType = zvDataTypeBoolean;
+}
+
+void zvValue::setIntValue(int value) {
+    m_iValue = value;
+    m_eDataType = zvDataTypeInteger;
+}
+
+void zvValue::setFloatValue(float value, int precision) {
+    m_fValue = value;
+    m_iPrecision = precision;
+    m_eDataType = zvDataTypeFloat;
+}
+
+void zvValue::setStrValue(const zvString& value) {
+    m_strValue = value;
+    m_eDataType = zvDataTypeString;
+}
+
+void zvValue::setDateValue(const zvDateTime& value) {
+    m_dateValue = value;
+    m_eDataType = zvDataTypeDate;
+}
+
+void zvValue::setDataType(zvDataTypeEnum type) { m_eDataType = type; }
+
+void zvValue::setValue(const zvString& text, zvDataTypeEnum type, int precision) {
+    initialize();
+    switch (type) {
+        case zvDataTypeInteger:
+            setIntValue(zvString::convertUnicodeToInt(text));
+            break;
+        case zvDataTypeFloat:
+            setFloatValue(toFloat(zvString::convertUnicodeToDouble(text)), precision);
+            break;
+        case zvDataTypeDate:
+            setDateValue(toDate(text));
+            break;
+        case zvDataTypeBoolean:
+            setBoolValue(zvString::convertUnicodeToBool(text));
+            break;
+        case zvDataTypeString:
+        case zvDataTypeNone:
+        default:
+            setStrValue(text);
+            break;
+    }
+}
+
+bool zvValue::getBoolValue() const {
+    switch (m_eDataType) {
+        case zvDataTypeBoolean:
+            return m_bValue;
+        case zvDataTypeString:
+            return zvString::convertUnicodeToBool(m_strValue);
+        default:
+            fail("Data cannot be converted to boolean datatype");
+    }
+}
+
+int zvValue::getIntValue() const {
+    switch (m_eDataType) {
+        case zvDataTypeInteger:
+            return m_iValue;
+        case zvDataTypeString:
+            return zvString::convertUnicodeToInt(m_strValue);
+        case zvDataTypeFloat:
+            return toInt(m_fValue);
+        default:
+            fail("Data cannot be converted to integer datatype");
+    }
+}
+
+float zvValue::getFloatValue() const {
+    switch (m_eDataType) {
+        case zvDataTypeFloat:
+            return m_fValue;
+        case zvDataTypeString:
+            return toFloat(zvString::convertUnicodeToDouble(m_strValue));
+        case zvDataTypeInteger:
+            return static_cast<float>(m_iValue);
+        default:
+            fail("Data cannot be converted to float datatype");
+    }
+}
+
+zvDateTime zvValue::getDateValue() const {
+    switch (m_eDataType) {
+        case zvDataTypeDate:
+            return m_dateValue;
+        case zvDataTypeString:
+            return toDate(m_strValue);
+        default:
+            fail("Data cannot be converted to date datatype");
+    }
+}
+
+zvString zvValue::getStrValue() const { return getValue(); }
+
+zvString zvValue::getValue() const {
+    switch (m_eDataType) {
+        case zvDataTypeString:
+            return m_strValue;
+        case zvDataTypeInteger:
+            return zvString(m_iValue);
+        case zvDataTypeFloat:
+            return zvString(static_cast<double>(m_fValue));
+        case zvDataTypeDate:
+            return m_dateValue.getDateTime(dateFormat, "/", "-");
+        case zvDataTypeBoolean:
+            return zvString(m_bValue);
+        case zvDataTypeNone:
+        default:
+            return {};
+    }
+}
+
+// Compares the text forms; two Strings, the usual case, are not copied for it.
+template <typename Compare>
+bool zvValue::compareText(const zvValue& other, Compare compare) const {
+    if (m_eDataType == zvDataTypeString && other.m_eDataType == zvDataTypeString) {
+        return compare(m_strValue, other.m_strValue);
+    }
+    return compare(getValue(), other.getValue());
+}
+
+bool zvValue::operator==(const zvValue& other) const {
+    switch (m_eDataType) {
+        case zvDataTypeInteger:
+            return m_iValue == other.getIntValue();
+        case zvDataTypeFloat:
+            return m_fValue == other.getFloatValue();
+        case zvDataTypeDate:
+            return m_dateValue == other.getDateValue();
+        case zvDataTypeBoolean:
+            return m_bValue == other.getBoolValue();
+        default:
+            return compareText(other,
+                               [](const zvString& left, const zvString& right) { return left == right; });
+    }
+}
+
+bool zvValue::operator<=(const zvValue& other) const {
+    switch (m_eDataType) {
+        case zvDataTypeInteger:
+            return m_iValue <= other.getIntValue();
+        case zvDataTypeFloat:
+            return m_fValue <= other.getFloatValue();
+        case zvDataTypeDate:
+            return m_dateValue < other.getDateValue();
+        case zvDataTypeBoolean:
+            fail(noOrderOfBooleans);
+        default:
+            return compareText(other,
+                               [](const zvString& left, const zvString& right) { return left < right; });
+    }
+}
+
+bool zvValue::operator>=(const zvValue& other) const {
+    switch (m_eDataType) {
+        case zvDataTypeInteger:
+            return m_iValue >= other.getIntValue();
+        case zvDataTypeFloat:
+            return m_fValue >= other.getFloatValue();
+        case zvDataTypeDate:
+            return m_dateValue >= other.getDateValue();
+        case zvDataTypeBoolean:
+            fail(noOrderOfBooleans);
+        default:
+            return compareText(other,
+                               [](const zvString& left, const zvString& right) { return left > right; });
+    }
+}
+
+bool zvValue::operator!=(const zvValue& other) const { return !(*this == other); }
+bool zvValue::operator>(const zvValue& other) const { return !(*this <= other); }
+bool zvValue::operator<(const zvValue& other) const { return !(*this >= other); }

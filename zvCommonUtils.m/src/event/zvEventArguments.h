@@ -1,0 +1,139 @@
+#ifndef ZV_EVENT_ARGUMENTS_H
+#define ZV_EVENT_ARGUMENTS_H
+
+#include <memory>
+
+#include "zvCoreObject.h"
+#include "zvResult.h"
+#include "zvString.h"
+#include "zvStringToStringMap.h"
+
+/// The events; getStringForEventNameEnum gives the texts that receiving programs match on.
+enum zvEventNameEnum {
+    zvEventMirror = 0,
+    zvEventPublishKpdmPart = 1,
+    zvEventPublishLkPart = 2,
+    zvEventTransferLOCFromKpdm = 3,
+    zvEventRefreshKpdmPartLOC = 4,
+    zvEventTransferLocFromLk = 5,
+    zvEventPublishKpdmCR = 6,
+    zvEventPublishKpdmCRFeedback = 7,
+    zvEventApproveKpdmCR = 8,
+    zvEventKpdmCRApproved = 9,
+    zvEventKpdmCRRejected = 10,
+    zvEventRefreshKpdmCRApprovalStatus = 11,
+    zvEventPublishLkCR = 12,
+    zvEventLkCRApproved = 13,
+    zvEventLkCRRejected = 14,
+    zvEventRefreshLkCRApprovalStatus = 15,
+    zvEventReleaseKpdmPart = 16,
+    zvEventRefreshKpdmPartReleaseStatus = 17,
+    zvEventLkPublishAction = 18,
+    zvEventLkWeldReportIntrospection = 19,
+    zvEventLkUiPromoteAction = 20,
+    zvEventLkUiTransferAction = 21,
+    zvEventLkUiShowActionData = 22,
+    zvEventLkUiDemoteAction = 23,
+    zvEventLkUiCreateAction = 24,
+    zvEventLkUiPromotePart = 25,
+    zvEventLkUiWeldReportGen = 26,
+    zvEventLkUiConfigurePRC = 27,
+    zvEventSendReplPkgToKpdm = 28,
+    zvEventDistributeReplPkgToLk = 29,
+    zvEventSendAckToKpdm = 30,
+    zvEventForwardAckToLk = 31,
+    zvEventSendEnggPkgToKpdm = 32,
+    zvEventSendEnggPkgToLk = 33,
+    zvEventGetBulkDataFromKpdm = 34,
+    zvEventRefreshAndImportPdmData = 35,
+    zvEventPartPublishFeedback = 36,
+    zvEventApproveCRFeedback = 37,
+    zvEventSyncLkDocumentFeedback = 38,
+    zvEventSyncLkDocument = 39,
+    zvEventPublishFeatures = 40,
+    zvEventRefreshLkPartLoc = 41,
+    zvEventPushPartsToLk = 42,
+    zvEventPushPartsToLkRemote = 43,
+    zvEventPublishLkPartToTz = 44,
+    zvEventPublishProductConfigurationsToLk = 45,
+    zvEventMirrorEBOM = 46,
+    zvEventDemoteKpdmCR = 47,
+    zvEventRequestLkPartVersion = 48,
+    zvEventPartVersionFeedback = 49,
+    zvEventCancelKpdmCR = 50,
+    zvEventDemoteKpdmPart = 51,
+    zvEventDemoteLKPart = 52,
+    zvEventLkRejectAction = 53,
+    zvEventDemotePartFeedback = 54,
+    zvEventApplyStatusForPromote = 55,
+    zvEventPublishLkWorkpackage = 56,
+    zvEventDemoteLKWorkpackage = 57,
+    zvEventExportLKWorkpackage = 58,
+    zvEventPublishLkWpAssembly = 59,
+    zvEventBroadcastTransferLOCFromKpdm = 60,
+    zvEventBomExchangeMain = 61,
+    zvEventBomExchangeSub = 62,
+    zvEventBomExchangeFeedback = 63,
+    zvEventBroadcastTransferLOCFromLk = 64,
+    zvEventMirrorFromLK = 65
+};
+
+/// The arguments of one event: keys with their values, in key order.
+///
+/// A copy is a copy of the arguments. The values of "LoginPassword" and "KPDMPasswd" never reach the log.
+class ZV_EXPORT zvEventArguments : public zvCoreObject {
+public:
+    /// The arguments "EventName" and "EventTriggeredByUser".
+    zvEventArguments(zvEventNameEnum event, const zvString& user);
+    zvEventArguments(const zvEventArguments& other);
+    zvEventArguments& operator=(const zvEventArguments& other);
+    ~zvEventArguments() override;
+
+    /// False, with nothing changed, when the key is there already.
+    bool addEventArgument(const zvString& key, const zvString& value) const;
+    /// Adds or replaces.
+    void setEventArgument(const zvString& key, const zvString& value) const;
+    /// The value; empty for an absent key.
+    zvString getEventArgumentValue(const zvString& key) const;
+    /// Key and value of argument `index` in key order; empty for any other index.
+    zvString getEventArgumentNameAt(int index) const;
+    zvString getEventArgumentValueAt(int index) const;
+    int numEventArguments() const;
+    /// Calls `visit(key, value)` for every argument in key order, in one walk.
+    template <typename Visit>
+    void forEach(Visit visit) const {
+        m_pArguments->forEach(visit);
+    }
+    /// Deletes this object, one that a parse operation made.
+    void destroy();
+
+    /// The event's text; empty for a value outside the enumeration.
+    static zvString getStringForEventNameEnum(zvEventNameEnum event);
+
+    /// Reads a process's arguments, the first of which is the program's name. `key=value` is split at the
+    /// first
+    /// "=" without a backslash before it; `\=` puts a "=" into the key. What has no "=" is skipped; an empty
+    /// key and a repeated one are refused, with a warning.
+    /// @return a new set, to be released with destroy().
+    static zvEventArguments* parseEventArguments(int argc, char** argv);
+    /// The same from one text of the form `"A=1" "B=2" "C=3"`.
+    static zvEventArguments* parseEventArguments(const zvString& line);
+
+    /// Makes a new directory for the event in `rootShadowDir`, named by the time in seconds or the next free
+    /// number, with an empty data file and an empty attachments file in it, and sets "EventShadowDir"
+    /// (relative to the root), "DataFileName" and "AttachmentsFileName".
+    /// @return the outcome of the last file's creation, which is 0 also for a file that the system refused.
+    static zvResult populateEventArguments(const zvString& rootShadowDir, zvEventArguments& args);
+    /// Sets "EventShadowDir" of `out` to that of `in` without its "RootShadowDir", with which it has to
+    /// begin.
+    static zvResult populateEventArguments(const zvEventArguments& in, zvEventArguments& out);
+
+private:
+    zvEventArguments();
+
+    static bool addKeyValueToEventArgument(zvString& arg, zvEventArguments* args);
+
+    std::unique_ptr<zvStringToStringMap> m_pArguments;
+};
+
+#endif

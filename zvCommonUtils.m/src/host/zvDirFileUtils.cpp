@@ -1,0 +1,171 @@
+#include "zvDirFileUtils.h"
+
+#include <cstring>
+#include <memory>
+#include <string>
+
+#include "zvCharString.h"
+#include "zvLogSource.h"
+#include "zvPath.h"
+#include "zvPlatform.h"
+
+namespace {
+
+constexpr zvLogSource logger("zvCommonUtils.m/src/zvDirFileUtils");
+
+constexpr int existence = 0;
+
+zvString lastErrorCode() { return zvString(static_cast<long>(zvPlatform::lastError())); }
+
+struct CloseFile {
+    void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
+};
+using File = std::unique_ptr<std::FILE, CloseFile>;
+
+// Reads up to a line feed, in pieces of 1023 characters; a zero byte ends the line as it ends a text.
+void readLine(std::FILE* file, std::string& line) {
+    constexpr std::size_t pieceCapacity = 1024;
+    char piece[pieceCapacity];
+    std::size_t length = 0;
+    line.clear();
+    do {
+        piece[0] = '\0';
+        if (std::fgets(piece, pieceCapacity, file) == nullptr) {
+            return;
+        }
+        length = std::strlen(piece);
+        if (length > 0 && piece[length - 1] == '\n') {
+            --length;
+        }
+        line.append(piece, length);
+    } while (length == pieceCapacity - 1);
+}
+
+}  // namespace
+
+zvDirFileUtils::zvDirFileUtils() = default;
+zvDirFileUtils::zvDirFileUtils(const zvDirFileUtils&) = default;
+zvDirFileUtils& zvDirFileUtils::operator=(const zvDirFileUtils&) = default;
+zvDirFileUtils::~zvDirFileUtils() = default;
+
+void zvDirFileUtils::appendPathDelimiter(zvString& path) { path += '\\'; }
+
+zvResult zvDirFileUtils::createDirectory(const zvString& path) {
+    zvResult result;
+    if (path.empty()) {
+        logger.error("Empty directory path received in zvDirFileUtils::createDirectory.");
+        return result;
+    }
+    if (isAccessible(path, existence)) {
+        logger.warn("Directory \"", path, "\" already exist");
+        return result;
+    }
+    if (zvPlatform::createDirectory(path.data())) {
+        result.setOk();
+    } else {
+        const zvString code = lastErrorCode();
+        logger.error("Error occured while creating directory :", path, " ErrorCode :", code);
+    }
+    return result;
+}
+
+zvResult zvDirFileUtils::createFile(const zvString& path) {
+    zvResult result;
+    if (path.empty()) {
+        logger.error("Empty file path received in zvDirFileUtils::createDirectory.");
+        return result;
+    }
+    if (isAccessible(path, existence)) {
+        logger.warn("File \"", path, "\" already exist");
+        return result;
+    }
+    // A refused creation gives a handle too, which then cannot be closed: callers rely on the success it
+    // reads as. No system answers 0.
+    const zvPlatform::Handle handle = zvPlatform::createFile(path.data());
+    result.setOk();
+    if (!zvPlatform::closeHandle(handle)) {
+        const zvString code = lastErrorCode();
+        logger.error("Error occured while closing file handle :", path, " ErrorCode :", code);
+    }
+    return result;
+}
+
+bool zvDirFileUtils::deleteFile(const zvString& path) {
+    logger.info("Inside function zvDirFileUtils::deleteDirectory(zvString)");
+    const bool deleted = zvPlatform::removeFile(zvCharString(path).data());
+    if (deleted) {
+        logger.info("Successfully Deleted :", path);
+    } else {
+        logger.warn("Failed to Delete :", path);
+    }
+    return deleted;
+}
+
+bool zvDirFileUtils::deleteDir(const zvString& path) {
+    logger.info("Inside function zvDirFileUtils::deleteDir(zvString)");
+    if (path.empty()) {
+        return false;
+    }
+    const bool deleted = zvPlatform::removeTree(zvCharString(path).data());
+    if (deleted) {
+        logger.info("Successfully Deleted Dir:", path);
+    } else {
+        logger.warn("Failed to Delete Dir :", path);
+    }
+    return deleted;
+}
+
+bool zvDirFileUtils::isAccessible(const zvString& path, int mode) {
+    if (path.empty()) {
+        logger.warn("Empty directory/file name passed.");
+        return false;
+    }
+    return zvPlatform::isAccessible(zvCharString(path).data(), mode);
+}
+
+zvResult zvDirFileUtils::readFile(const zvString& path, zvStringList& lines) {
+    zvResult result;
+    if (path.empty()) {
+        logger.error("Empty file path.");
+        lines.clear();
+        return result;
+    }
+    const File file(zvPlatform::openForReading(zvCharString(path).data()));
+    if (file == nullptr) {
+        logger.error("Error in opening file : \"", path, "\"");
+        lines.clear();
+        return result;
+    }
+    logger.info("\"", path, "\" opened for reading.");
+    std::string line;
+    while (std::feof(file.get()) == 0 && std::ferror(file.get()) == 0) {
+        readLine(file.get(), line);
+        const zvString text(line.c_str());
+        if (!text.empty()) {
+            lines.addString(text);
+        } else if (!line.empty()) {
+            logger.warn("A line of the file \"", path, "\" cannot be converted and is left out.");
+        }
+    }
+    result.setOk();
+    return result;
+}
+
+zvString zvDirFileUtils::extractDirName(const zvString& path) {
+    if (path.empty()) {
+        logger.warn("Function zvDirFileUtils::extractDirName(zvString) received empty file name.");
+        return {};
+    }
+    if (path.reverseFind(".") == -1) {
+        logger.warn("\".\" not found in the absolute file path.");
+        return {};
+    }
+    const int delimiter = path.reverseFind("\\");
+    if (delimiter == -1) {
+        logger.warn("\"\\\" not found in the absolute file path.");
+        return {};
+    }
+    return path.substr(0, delimiter);
+}
+
+zvString zvDirFileUtils::extractFileName(const zvString& path) { return zvPath::fileName(path); }

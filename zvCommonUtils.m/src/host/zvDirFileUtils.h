@@ -1,0 +1,42 @@
+#ifndef ZV_DIR_FILE_UTILS_H
+#define ZV_DIR_FILE_UTILS_H
+
+#include "zvResult.h"
+#include "zvString.h"
+#include "zvStringList.h"
+
+/// Directories, files and paths. Failures are told by the result (-1) or by false, and logged.
+///
+/// The path delimiter is the backslash; on a system with another one, paths are translated when they reach
+/// it.
+class ZV_EXPORT zvDirFileUtils {
+public:
+    zvDirFileUtils();
+    zvDirFileUtils(const zvDirFileUtils& other);
+    zvDirFileUtils& operator=(const zvDirFileUtils& other);
+    virtual ~zvDirFileUtils();
+
+    /// Appends one backslash, also behind another one.
+    static void appendPathDelimiter(zvString& path);
+    /// Creates one directory, not its parents. An existing one is a failure.
+    static zvResult createDirectory(const zvString& path);
+    /// Creates a new, empty file; an existing one is a failure. A file that the system refuses to create is
+    /// logged and yet answered with 0: who needs the file tests for it with isAccessible().
+    static zvResult createFile(const zvString& path);
+    /// Removes one file.
+    static bool deleteFile(const zvString& path);
+    /// Removes directory trees through the command "rmdir /s/q", which `path` follows at once: it begins with
+    /// a blank, and a path with blanks stands in double quotes.
+    static bool deleteDir(const zvString& path);
+    /// `mode` is 0 for existence, 2 for write, 4 for read, 6 for both.
+    static bool isAccessible(const zvString& path, int mode);
+    /// Appends the file's lines, without their line feeds and without the empty ones, to `lines`, which a
+    /// failure empties.
+    static zvResult readFile(const zvString& path, zvStringList& lines);
+    /// The part before the last backslash; empty for a path without a dot or a backslash.
+    static zvString extractDirName(const zvString& path);
+    /// The part behind the last backslash or slash; empty for a bare name.
+    static zvString extractFileName(const zvString& path);
+};
+
+#endif

@@ -1,0 +1,232 @@
+#include "zvC2JBridge.h"
+
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include "zvCharString.h"
+#include "zvJvmLibrary.h"
+#include "zvJvmOptionList.h"
+#include "zvLogSource.h"
+#include "zvPlatform.h"
+
+namespace {
+
+constexpr zvLogSource logger("zvCommonUtils.m/src/zvC2JBridge");
+
+constexpr jint jniVersion = JNI_VERSION_1_2;
+
+constexpr const char* searchPathHints[] = {
+    "For Windows add to PATH variable.", "For Solaris/Linux add to LD_LIBRARY_PATH variable.",
+    "For AIX add to LIBPATH variable.", "For HP-UX add to SHLIB_PATH variable."};
+
+constexpr const char* versionProperties[] = {"java.runtime.name", "java.runtime.version", "java.vm.name",
+                                             "java.vm.version"};
+
+std::string environment(const char* variable) {
+    const char* const value = std::getenv(variable);
+    return value == nullptr ? "" : value;
+}
+
+// A starting machine takes the encoding of file names from the environment's locale, which it makes that of the
+// whole process. It is shown the process's own instead, unless that was never chosen, and the process keeps it.
+class LocaleKeeper {
+public:
+    LocaleKeeper()
+        : m_locale(std::setlocale(LC_ALL, nullptr)),
+          m_variable(environment("LC_ALL").empty() ? "LC_CTYPE" : "LC_ALL"),
+          m_value(environment(m_variable)) {
+        const std::string characters = std::setlocale(LC_CTYPE, nullptr);
+        if (characters != "C" && characters != "POSIX") {
+            zvPlatform::setEnvironment(m_variable, characters.c_str());
+        }
+    }
+    LocaleKeeper(const LocaleKeeper&) = delete;
+    LocaleKeeper& operator=(const LocaleKeeper&) = delete;
+    ~LocaleKeeper() {
+        zvPlatform::setEnvironment(m_variable, m_value.c_str());
+        std::setlocale(LC_ALL, m_locale.c_str());
+    }
+
+private:
+    const std::string m_locale;
+    const char* const m_variable;
+    const std::string m_value;
+};
+
+// Java has to forget a thread that it was told of before the thread ends.
+struct AttachedThread {
+    ~AttachedThread() {
+        if (machine != nullptr) {
+            machine->DetachCurrentThread();
+        }
+    }
+    JavaVM* machine = nullptr;
+};
+
+template <typename Function>
+bool findFunction(void* library, const char* name, Function& function) {
+    function = reinterpret_cast<Function>(zvPlatform::findFunction(library, name));
+    return function != nullptr;
+}
+
+// What the class of that name prints. Java 9 and its successors do not have it.
+zvString printedVersion(const zvJniFrame& frame) {
+    jobject const buffer = frame.create("java.io.ByteArrayOutputStream", "()V");
+    jobject const stream = frame.create("java.io.PrintStream", "(Ljava/io/OutputStream;)V", buffer);
+    frame.callStatic<void>("sun.misc.Version", "print", "(Ljava/io/PrintStream;)V", stream);
+    return frame.describe(buffer);
+}
+
+zvString versionFromProperties(const zvJniFrame& frame) {
+    zvTextBuilder text;
+    for (const char* const property : versionProperties) {
+        jobject const value =
+            frame.callStatic<jobject>("java.lang.System", "getProperty",
+                                      "(Ljava/lang/String;)Ljava/lang/String;", frame.toJava(property));
+        text.append(text.empty() ? "" : "\n").append(property).append("=").append(frame.toText(value));
+    }
+    return text.toString();
+}
+
+// An exception may throw when it is asked for its texts: it then has none.
+template <typename Ask>
+zvString textOrNone(Ask ask) {
+    try {
+        return ask();
+    } catch (const zvJavaThrown&) {
+        return {};
+    }
+}
+
+}  // namespace
+
+std::unique_ptr<zvC2JBridge> zvC2JBridge::m_pBridge;
+
+zvC2JBridge* zvC2JBridge::getInstance() {
+    if (m_pBridge == nullptr) {
+        std::unique_ptr<zvC2JBridge> bridge(new zvC2JBridge);
+        if (bridge->initialize()) {
+            m_pBridge = std::move(bridge);
+        }
+    }
+    return m_pBridge.get();
+}
+
+JNIEnv* zvC2JBridge::getEnv() const {
+    void* env = nullptr;
+    if (m_pMachine->GetEnv(&env, jniVersion) == JNI_EDETACHED &&
+        m_pMachine->AttachCurrentThread(&env, nullptr) == JNI_OK) {
+        thread_local AttachedThread thread;
+        thread.machine = m_pMachine;
+    }
+    return static_cast<JNIEnv*>(env);
+}
+
+bool zvC2JBridge::initialize() {
+    logger.info("Started initializing C2JBridge");
+    if (!loadLibrary()) {
+        logger.fatal("Failed to load the Java virtual machine");
+        return false;
+    }
+    std::string classPath = environment("CLASSPATH");
+    if (classPath.empty()) {
+        classPath = ".";
+    }
+    logger.debug("classpath=[", classPath.c_str(), "]");
+    zvJvmOptionList options;
+    options.addClassPath(classPath.c_str());
+    if (!startMachine(options)) {
+        logger.fatal("Failed to initialize the Java virtual machine");
+        return false;
+    }
+    logger.info("Successfully initialized the Java virtual machine");
+    logVersion();
+    logger.info("Finished initializing C2JBridge");
+    return true;
+}
+
+bool zvC2JBridge::loadLibrary() {
+    logger.info("Started loading Java virtual machine");
+    const zvJvmLibrary library = zvJvmLibrary::load();
+    if (library.handle == nullptr) {
+        logger.error("Error loading [", zvJvmLibrary::name, "]");
+        for (const char* const hint : searchPathHints) {
+            logger.error(hint);
+        }
+        logger.error("It was looked for in ", library.tried.c_str());
+        return false;
+    }
+    logger.debug("The library was looked for in ", library.tried.c_str());
+    m_pLibrary = library.handle;
+    if (!findFunction(m_pLibrary, "JNI_CreateJavaVM", m_pCreateJavaVM) ||
+        !findFunction(m_pLibrary, "JNI_GetDefaultJavaVMInitArgs", m_pGetDefaultJavaVMInitArgs)) {
+        logger.error("Can't find JNI interfaces in [", zvJvmLibrary::name,
+                     "]. Please note the information about JRE being used while reporting this error.");
+        return false;
+    }
+    findFunction(m_pLibrary, "JNI_GetCreatedJavaVMs", m_pGetCreatedJavaVMs);
+    logger.info("Successfully loaded Java virtual machine");
+    return true;
+}
+
+bool zvC2JBridge::startMachine(zvJvmOptionList& options) {
+    logger.info("Started initializing Java virtual machine");
+    if (adoptMachine()) {
+        return true;
+    }
+    const LocaleKeeper keeper;
+    JavaVMInitArgs arguments{};
+    arguments.version = jniVersion;
+    arguments.nOptions = options.count();
+    arguments.options = options.data();
+    arguments.ignoreUnrecognized = JNI_FALSE;
+    void* env = nullptr;
+    return m_pCreateJavaVM(&m_pMachine, &env, &arguments) == JNI_OK;
+}
+
+bool zvC2JBridge::adoptMachine() {
+    jsize machines = 0;
+    if (m_pGetCreatedJavaVMs == nullptr || m_pGetCreatedJavaVMs(&m_pMachine, 1, &machines) != JNI_OK ||
+        machines == 0 || getEnv() == nullptr) {
+        return false;
+    }
+    logger.info("Using the Java virtual machine that already runs in this process, with its own class path");
+    return true;
+}
+
+void zvC2JBridge::logVersion() const {
+    const zvJniFrame frame(*getEnv());
+    zvString version = textOrNone([&] { return printedVersion(frame); });
+    if (version.empty()) {
+        version = textOrNone([&] { return versionFromProperties(frame); });
+    }
+    logger.info("\n", version, "\n");
+}
+
+zvException zvC2JBridge::toException(const zvJniFrame& frame, jthrowable exception) {
+    zvException converted(exceptionMessage(frame, exception));
+    const zvString trace = exceptionStackTrace(frame, exception);
+    zvResult result;
+    result.setMessage(trace.empty() ? converted.getMessage() : trace);
+    converted.setResult(result);
+    return converted;
+}
+
+zvString zvC2JBridge::exceptionMessage(const zvJniFrame& frame, jthrowable exception) {
+    return textOrNone([&] {
+        const zvString type = frame.describe(frame.env().GetObjectClass(exception));
+        std::printf("Exception [%s]", zvCharString(type).data());
+        return frame.toText(frame.call<jobject>(exception, "getMessage", "()Ljava/lang/String;"));
+    });
+}
+
+zvString zvC2JBridge::exceptionStackTrace(const zvJniFrame& frame, jthrowable exception) {
+    return textOrNone([&] {
+        jobject const text = frame.create("java.io.StringWriter", "()V");
+        jobject const writer = frame.create("java.io.PrintWriter", "(Ljava/io/Writer;)V", text);
+        frame.call<void>(exception, "printStackTrace", "(Ljava/io/PrintWriter;)V", writer);
+        return frame.describe(text);
+    });
+}

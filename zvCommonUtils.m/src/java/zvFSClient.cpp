@@ -1,0 +1,259 @@
+#include "zvFSClient.h"
+
+#include "zvC2JBridge.h"
+#include "zvLogSource.h"
+#include "zvPlatform.h"
+
+namespace {
+
+constexpr zvLogSource logger("zvCommonUtils.m/src/zvFSClient");
+
+constexpr char factoryClass[] = "com.vantorel.ep.products.fsclient.FileServerClientFactory";
+
+// A method of the Java client, and what the operation behind it is called.
+struct Operation {
+    const char* name;
+    const char* method;
+    const char* signature;
+};
+
+constexpr Operation getFile{"get", "get", "(Ljava/lang/String;Ljava/lang/String;)V"};
+constexpr Operation getListed{"get", "get", "(Ljava/lang/String;Ljava/lang/String;Ljava/util/List;)V"};
+constexpr Operation getFiltered{"get", "get", "(Ljava/lang/String;Ljava/lang/String;Ljava/lang/String;)V"};
+constexpr Operation putFile{"put", "put", "(Ljava/lang/String;Ljava/lang/String;)V"};
+constexpr Operation putListed{"put", "put", "(Ljava/lang/String;Ljava/lang/String;Ljava/util/List;)V"};
+constexpr Operation putFiltered{"put", "put", "(Ljava/lang/String;Ljava/lang/String;Ljava/lang/String;)V"};
+constexpr Operation makeDirectory{"mkDir", "mkDir", "(Ljava/lang/String;)V"};
+constexpr Operation testExistence{"exists", "exists", "(Ljava/lang/String;)Z"};
+constexpr Operation listDirectory{"list", "list", "(Ljava/lang/String;)[Ljava/lang/String;"};
+constexpr Operation setTransferMode{"setFileType", "setFileTransferMode", "(I)V"};
+
+// The path as Java's classes for files expect it here; its characters need no narrow form.
+zvString native(const zvString& path) {
+    zvString translated(path);
+    translated.replace("\\", zvPlatform::nativePath("\\").c_str());
+    return translated;
+}
+
+}  // namespace
+
+struct zvFSClient::Impl {
+    Impl() = default;
+    Impl(const Impl&) = delete;
+    Impl& operator=(const Impl&) = delete;
+    ~Impl() {
+        JNIEnv* const environment = bridge == nullptr ? nullptr : bridge->getEnv();
+        if (environment != nullptr) {
+            environment->DeleteGlobalRef(client);
+            environment->DeleteGlobalRef(factory);
+        }
+    }
+
+    JNIEnv& env() const {
+        JNIEnv* const environment = bridge->getEnv();
+        if (environment == nullptr) {
+            logger.raiseFatal("Failed to get the JNI Environment");
+        }
+        return *environment;
+    }
+
+    // Runs `action` on a frame of local references and throws what Java throws in it as a zvException.
+    template <typename Action>
+    auto run(Action action) const {
+        const zvJniFrame frame(env());
+        try {
+            return action(frame);
+        } catch (const zvJavaThrown& thrown) {
+            const zvException exception = zvC2JBridge::toException(frame, thrown.exception);
+            logger.error("", exception.getResult().getMessage());
+            throw zvException(exception);
+        }
+    }
+
+    // Calls the operation's method on the connected client and hands the answer, if there is one, to `receive`.
+    template <typename Result, typename Receive, typename... Arguments>
+    auto invokeAndReceive(const Operation& operation, Receive receive, const Arguments&... arguments) const {
+        if (!connected) {
+            logger.raise("FSClient is not initialized. Unable to invoke FSClient.", operation.name,
+                         "() operation");
+        }
+        return run([&](const zvJniFrame& frame) {
+            jmethodID const method = frame.method(client, operation.method, operation.signature);
+            if constexpr (std::is_void_v<Result>) {
+                frame.call<void>(client, method, frame.toJava(arguments)...);
+            } else {
+                return receive(frame, frame.call<Result>(client, method, frame.toJava(arguments)...));
+            }
+        });
+    }
+    template <typename... Arguments>
+    void invoke(const Operation& operation, const Arguments&... arguments) const {
+        invokeAndReceive<void>(operation, nullptr, arguments...);
+    }
+
+    void createFactory(const zvString& configPath) {
+        run([&](const zvJniFrame& frame) {
+            logger.info("Getting instance of FileServerClientFactory");
+            jobject const instance = frame.callStatic<jobject>(
+                factoryClass, "getInstance", "()Lcom/vantorel/ep/products/fsclient/FileServerClientFactory;");
+            factory = frame.env().NewGlobalRef(instance);
+            logger.info("Got instance of [", describe(frame, factory), "]");
+            logger.info("Initializing FileServerClientFactory");
+            logger.info("Config file path [", configPath, "]");
+            frame.call<void>(factory, "initialize", "(Ljava/lang/String;)V", frame.toJava(native(configPath)));
+            logger.info("Successfully initialized FileServerClientFactory");
+        });
+    }
+
+    void createClient() {
+        run([&](const zvJniFrame& frame) {
+            logger.info("Creating an instance of FileServerCLient");
+            jobject const created =
+                frame.call<jobject>(factory, "getFileServerClient",
+                                    "()Lcom/vantorel/ep/products/fsclient/FileServerClient;");
+            client = frame.env().NewGlobalRef(created);
+            logger.info("Created instance of FileServerClient[", describe(frame, client), "]");
+        });
+    }
+
+    // The object's own text, for the log; empty when nobody reads that or the object has none.
+    static zvString describe(const zvJniFrame& frame, jobject object) {
+        try {
+            return zvLogSink::isReady() && object != nullptr ? frame.describe(object) : zvString();
+        } catch (const zvJavaThrown&) {
+            return {};
+        }
+    }
+
+    zvC2JBridge* bridge = nullptr;
+    jobject factory = nullptr;
+    jobject client = nullptr;
+    bool connected = false;
+};
+
+zvFSClient* zvFSClient::m_pFSClient = nullptr;
+
+zvFSClient::zvFSClient() : m_pImpl(std::make_unique<Impl>()) {}
+
+zvFSClient::~zvFSClient() = default;
+
+zvFSClient* zvFSClient::getInstance(const zvString& configPath) {
+    logger.info("Inside zvFSClient::getInstance");
+    if (m_pFSClient == nullptr) {
+        m_pFSClient = new zvFSClient;
+        logger.info("Calling zvFSClient::initialize");
+        m_pFSClient->initialize(configPath);
+    }
+    logger.info("Finished zvFSClient::getInstance");
+    return m_pFSClient;
+}
+
+zvFSClient* zvFSClient::getInstance() {
+    return m_pFSClient;
+}
+
+void zvFSClient::destroyInstance() {
+    if (m_pFSClient == nullptr) {
+        return;
+    }
+    try {
+        m_pFSClient->disconnect();
+    } catch (const zvException&) {
+        // It has been logged, and there is nothing left that could be disconnected.
+    }
+    delete m_pFSClient;
+    m_pFSClient = nullptr;
+}
+
+void zvFSClient::initialize(const zvString& configPath) {
+    logger.info("Initializing FSClient started");
+    m_pImpl->bridge = zvC2JBridge::getInstance();
+    if (m_pImpl->bridge == nullptr) {
+        logger.raiseFatal("Failed to get the C++ to Java bridge instance");
+    }
+    m_pImpl->env();
+    m_pImpl->createFactory(configPath);
+    m_pImpl->createClient();
+    connect();
+    logger.info("Initializing FSClient finished");
+}
+
+void zvFSClient::connect() {
+    logger.info("Connecting to the FileServer");
+    m_pImpl->run([&](const zvJniFrame& frame) { frame.call<void>(m_pImpl->client, "connect", "()V"); });
+    m_pImpl->connected = true;
+    logger.info("Successfully connected to the FileServer");
+}
+
+void zvFSClient::disconnect() {
+    if (m_pImpl->connected) {
+        logger.info("Disconnecting to the FileServer");
+        m_pImpl->connected = false;
+        m_pImpl->run([&](const zvJniFrame& frame) { frame.call<void>(m_pImpl->client, "disconnect", "()V"); });
+        logger.info("Successfully disconnected from the FileServer");
+    }
+}
+
+void zvFSClient::get(const zvString& remote, const zvString& local) {
+    logger.info("Downloading remote file [", remote, "] to local file [", local, "]");
+    m_pImpl->invoke(getFile, remote, native(local));
+    logger.info("Successfully downloaded file [", local, "]");
+}
+
+void zvFSClient::get(const zvString& remoteDir, const zvString& localDir, const zvStringList* files) {
+    logger.info("Downloading files specified in the list");
+    m_pImpl->invoke(getListed, remoteDir, native(localDir), files);
+    logger.info("Successfully downloaded file(s) specified in the list");
+}
+
+void zvFSClient::get(const zvString& remoteDir, const zvString& localDir, const zvString& filter) {
+    logger.info("Downloading files specified by the filter [", filter, "]");
+    m_pImpl->invoke(getFiltered, remoteDir, native(localDir), filter);
+    logger.info("Successfully downloaded file(s) specified by the filter");
+}
+
+void zvFSClient::put(const zvString& local, const zvString& remote) {
+    logger.info("Uploading local file [", local, "] to remote file [", remote, "]");
+    m_pImpl->invoke(putFile, native(local), remote);
+    logger.info("Successfully uploaded file to [", remote, "]");
+}
+
+void zvFSClient::put(const zvString& localDir, const zvString& remoteDir, const zvStringList* files) {
+    logger.info("Uploading files specified in the list");
+    m_pImpl->invoke(putListed, native(localDir), remoteDir, files);
+    logger.info("Successfully uploaded file(s) specified in the list");
+}
+
+void zvFSClient::put(const zvString& localDir, const zvString& remoteDir, const zvString& filter) {
+    logger.info("Uploading files specified by the filter [", filter, "]");
+    m_pImpl->invoke(putFiltered, native(localDir), remoteDir, filter);
+    logger.info("Successfully uploaded file(s) specified by the filter");
+}
+
+void zvFSClient::mkDir(const zvString& dir) {
+    logger.info("Creating directory [", dir, "] on FileServer");
+    m_pImpl->invoke(makeDirectory, dir);
+    logger.info("Successfully created directory [", dir, "]");
+}
+
+bool zvFSClient::exists(const zvString& path) {
+    logger.info("Checking if file [", path, "] exists on FileServer");
+    const bool found = m_pImpl->invokeAndReceive<jboolean>(
+        testExistence, [](const zvJniFrame&, jboolean answer) { return answer == JNI_TRUE; }, path);
+    logger.info("File [", path, found ? "] exists on FileServer" : "] does not exists on FileServer");
+    return found;
+}
+
+void zvFSClient::list(const zvString& dir, zvStringList& out) {
+    logger.info("Getting list of files in FileServer directory [", dir, "]");
+    m_pImpl->invokeAndReceive<jobjectArray>(
+        listDirectory,
+        [&](const zvJniFrame& frame, jobjectArray names) { frame.appendTexts(names, out); }, dir);
+    logger.info("Successfully got the list of files in FileServer directory");
+}
+
+void zvFSClient::setFileType(int mode) {
+    logger.info("Inside zvFSClient::setFileType Type:[", mode, "]");
+    m_pImpl->invoke(setTransferMode, mode);
+    logger.info("Finished zvFSClient::setFileType Type");
+}

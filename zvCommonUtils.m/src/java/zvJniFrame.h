@@ -1,0 +1,120 @@
+#ifndef ZV_JNI_FRAME_H
+#define ZV_JNI_FRAME_H
+
+#include <jni.h>
+
+#include <type_traits>
+
+#include "zvMalloc.h"
+#include "zvString.h"
+#include "zvStringList.h"
+
+/// A Java exception on its way through native code: no longer pending, and valid as long as the frame in which
+/// it came up.
+struct zvJavaThrown {
+    jthrowable exception;
+};
+
+/// The one way into Java. A frame stands for some calls that belong together: the local references that they
+/// make are freed with it. Every lookup and call is checked, and a Java exception comes out as a zvJavaThrown.
+///
+/// Names of classes are dotted, signatures of methods are those of JNI. To call a method on a null object is a
+/// NullPointerException, as in Java.
+class zvJniFrame {
+public:
+    explicit zvJniFrame(JNIEnv& env);
+    zvJniFrame(const zvJniFrame&) = delete;
+    zvJniFrame& operator=(const zvJniFrame&) = delete;
+    ~zvJniFrame();
+
+    JNIEnv& env() const { return m_env; }
+
+    /// A class's dotted name as JNI writes it, as in "java/util/List". A failed allocation ends the process.
+    static zvMalloc::Array<char> jniClassName(const char* name);
+
+    jclass findClass(const char* name) const;
+    jmethodID method(jobject object, const char* name, const char* signature) const;
+
+    /// `Result` is void, jboolean or a reference type; an argument is a reference or a jint.
+    template <typename Result, typename... Arguments>
+    Result call(jobject object, jmethodID method, Arguments... arguments) const {
+        const jvalue values[] = {toValue(arguments)..., jvalue{}};
+        return checked([&] {
+            if constexpr (std::is_void_v<Result>) {
+                m_env.CallVoidMethodA(object, method, values);
+            } else if constexpr (std::is_same_v<Result, jboolean>) {
+                return m_env.CallBooleanMethodA(object, method, values);
+            } else {
+                return static_cast<Result>(m_env.CallObjectMethodA(object, method, values));
+            }
+        });
+    }
+    template <typename Result, typename... Arguments>
+    Result call(jobject object, const char* name, const char* signature, Arguments... arguments) const {
+        return call<Result>(object, method(object, name, signature), arguments...);
+    }
+    template <typename Result, typename... Arguments>
+    Result callStatic(const char* className, const char* name, const char* signature,
+                      Arguments... arguments) const {
+        jclass const type = findClass(className);
+        jmethodID const method = checked([&] { return m_env.GetStaticMethodID(type, name, signature); });
+        const jvalue values[] = {toValue(arguments)..., jvalue{}};
+        return checked([&] {
+            if constexpr (std::is_void_v<Result>) {
+                m_env.CallStaticVoidMethodA(type, method, values);
+            } else {
+                return static_cast<Result>(m_env.CallStaticObjectMethodA(type, method, values));
+            }
+        });
+    }
+    template <typename... Arguments>
+    jobject create(const char* className, const char* signature, Arguments... arguments) const {
+        jclass const type = findClass(className);
+        jmethodID const constructor = checked([&] { return m_env.GetMethodID(type, "<init>", signature); });
+        const jvalue values[] = {toValue(arguments)..., jvalue{}};
+        return checked([&] { return m_env.NewObjectA(type, constructor, values); });
+    }
+
+    /// The same characters in a Java string.
+    jstring toJava(const zvString& text) const;
+    /// An "ArrayList" of the texts; a null list gives null.
+    jobject toJava(const zvStringList* texts) const;
+    jint toJava(int number) const { return number; }
+    /// The characters of a Java string, up to a U+0000; empty for null.
+    zvString toText(jobject string) const;
+    /// What "toString" answers.
+    zvString describe(jobject object) const;
+    /// Appends the elements of an array of strings, which may be null.
+    void appendTexts(jobjectArray strings, zvStringList& out) const;
+
+private:
+    static jvalue toValue(jobject object) {
+        jvalue value;
+        value.l = object;
+        return value;
+    }
+    static jvalue toValue(jint number) {
+        jvalue value;
+        value.i = number;
+        return value;
+    }
+
+    void check() const;
+
+    template <typename Action>
+    auto checked(Action action) const {
+        if constexpr (std::is_void_v<decltype(action())>) {
+            action();
+            check();
+        } else {
+            const auto result = action();
+            check();
+            return result;
+        }
+    }
+
+    JNIEnv& m_env;
+    const bool m_bPushed;
+};
+
+#endif

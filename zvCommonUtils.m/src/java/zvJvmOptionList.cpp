@@ -1,0 +1,33 @@
+#include "zvJvmOptionList.h"
+
+#include <algorithm>
+#include <cstring>
+
+zvJvmOptionList::~zvJvmOptionList() {
+    for (int i = 0; i < m_iCount; ++i) {
+        zvMalloc::Free()(m_pOptions[static_cast<std::size_t>(i)].optionString);
+    }
+}
+
+void zvJvmOptionList::add(zvMalloc::Array<char> option, void* extraInformation) {
+    if (m_iCount == m_iCapacity) {
+        grow();
+    }
+    m_pOptions[static_cast<std::size_t>(m_iCount++)] = {option.release(), extraInformation};
+}
+
+void zvJvmOptionList::addClassPath(const char* classPath) {
+    constexpr std::size_t roomForName = 40;
+    const std::size_t size = std::strlen(classPath) + roomForName;
+    zvMalloc::Array<char> option = zvMalloc::allocate<char>(size);
+    std::snprintf(option.get(), size, "-Djava.class.path=%s", classPath);
+    add(std::move(option));
+}
+
+void zvJvmOptionList::grow() {
+    constexpr int firstCapacity = 4;
+    m_iCapacity = m_iCapacity == 0 ? firstCapacity : 2 * m_iCapacity;
+    zvMalloc::Array<JavaVMOption> larger = zvMalloc::allocate<JavaVMOption>(static_cast<std::size_t>(m_iCapacity));
+    std::copy_n(m_pOptions.get(), m_iCount, larger.get());
+    m_pOptions = std::move(larger);
+}

@@ -1,0 +1,48 @@
+#ifndef ZV_LOGGER_H
+#define ZV_LOGGER_H
+
+#include <memory>
+
+#include "zvCoreObject.h"
+#include "zvString.h"
+
+class zvLogChannel;
+
+/// The process's log: a singleton that hands messages to the logging library, under one fixed logger name.
+///
+/// The logging library is configured on first use from "log4cxx.xml" in the folder "config" of the gateway
+/// home; without it messages disappear. Logging never fails towards the caller. There is no locking: the
+/// first getInstance() belongs before the first thread.
+///
+/// `file` is the source file of the call and `line` its line; both go to the logging library, and the file's
+/// name also in front of the message. A copy shares its original's channel.
+class ZV_EXPORT zvLogger : public zvCoreObjectCommon {
+public:
+    /// The instance, owned by the class and created on first use; null while it is being created.
+    static zvLogger* getInstance();
+    /// Deletes the instance, if any; a later getInstance() creates a new one.
+    static void destroyInstance();
+
+    void logDebug(const zvString& message, const char* file, int line);
+    void logInfo(const zvString& message, const char* file, int line);
+    void logWarn(const zvString& message, const char* file, int line);
+    void logError(const zvString& message, const char* file, int line);
+    void logFatal(const zvString& message, const char* file, int line);
+    /// Written whatever the configured threshold.
+    void logAlways(const zvString& message, const char* file, int line);
+
+    /// Whether messages reach the logging library: callers need not compose them otherwise.
+    bool isReady() const;
+
+protected:
+    zvLogger();
+    ~zvLogger() override;
+
+private:
+    static zvLogger* m_pzvLogger;
+    static bool m_bInitializing;
+
+    std::shared_ptr<zvLogChannel> m_pChannel;
+};
+
+#endif

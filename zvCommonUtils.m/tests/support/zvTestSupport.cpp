@@ -1,0 +1,48 @@
+#include "zvTestSupport.h"
+
+#include <fstream>
+#include <iterator>
+#include <random>
+
+#include "zvCharString.h"
+#include "zvLogger.h"
+#include "zvPlatform.h"
+#include "zvRecordingLogger.h"
+
+void PrintTo(const zvString& text, std::ostream* out) { *out << '"' << narrow(text) << '"'; }
+
+std::string narrow(const zvString& text) { return zvCharString(text).data(); }
+
+zvTemporaryFolder::zvTemporaryFolder() {
+    std::random_device random;
+    do {
+        m_path = std::filesystem::temp_directory_path() / ("zvTest-" + std::to_string(random()));
+    } while (!std::filesystem::create_directory(m_path));
+}
+
+zvTemporaryFolder::~zvTemporaryFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(m_path, ignored);
+}
+
+std::string zvTemporaryFolder::file(const std::string& name) const { return (m_path / name).string(); }
+
+std::string zvTemporaryFolder::write(const std::string& name, const std::string& content) const {
+    const std::filesystem::path path = m_path / name;
+    std::filesystem::create_directories(path.parent_path());
+    std::ofstream(path, std::ios::binary) << content;
+    return path.string();
+}
+
+std::string readAll(const std::filesystem::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+zvLoggedTest::zvLoggedTest() {
+    zvPlatform::setEnvironment("GATEWAY_HOME", m_folder.path().string().c_str());
+    zvLogger::destroyInstance();
+    zvRecordingLogger::reset();
+}
+
+zvLoggedTest::~zvLoggedTest() { zvLogger::destroyInstance(); }

@@ -1,0 +1,276 @@
+#include "zvString.h"
+
+#include <climits>
+#include <clocale>
+#include <string>
+
+#include "zvCharString.h"
+#include "zvTestSupport.h"
+
+namespace {
+
+// The buffer's address tells whether an operation kept it or took a new one.
+zvString withRoom(const char* text, int room) {
+    zvString wide(std::string(static_cast<std::size_t>(room), 'x').c_str());
+    wide = zvString(text);
+    return wide;
+}
+
+TEST(zvString, WhatHoldsNoTextHasNoBuffer) {
+    const zvString none[] = {zvString(),
+                             zvString(""),
+                             zvString("abc", 0),
+                             zvString(static_cast<const char*>(nullptr)),
+                             zvString(static_cast<const wchar16*>(nullptr)),
+                             zvString(u"abc", 0),
+                             zvString('\0'),
+                             zvString(wchar16{0}),
+                             zvString(1e60)};
+    for (const zvString& text : none) {
+        EXPECT_EQ(text.data(), nullptr);
+        EXPECT_EQ(text.size(), 0);
+        EXPECT_EQ(text.getChars(), nullptr);
+        EXPECT_EQ(text.getCharAt(3), '\0');
+        EXPECT_STREQ(zvCharString(text).data(), "");
+        zvString assigned;
+        assigned = text;
+        EXPECT_EQ(assigned.data(), nullptr);
+    }
+}
+
+TEST(zvString, IsMadeFromTextsAndNumbers) {
+    const wchar16 units[] = {'a', 'b', 0, 'c', 0};
+    EXPECT_EQ(zvString("abcdef", 3), "abc");
+    EXPECT_EQ(zvString("ab", 100), "ab");
+    EXPECT_EQ(zvString(units, 4), "ab");
+    EXPECT_EQ(zvString(u"ab\0c", 4), "ab");
+    EXPECT_EQ(zvString(true), "True");
+    EXPECT_EQ(zvString(-7), "-7");
+    EXPECT_EQ(zvString(2147483647L), "2147483647");
+    EXPECT_EQ(zvString(3.0), "3.000000");
+    EXPECT_EQ(zvString(1e55).size(), 63);
+    EXPECT_EQ(zvString('x') + 'y' + "z", "xyz");
+    EXPECT_TRUE("ab" == zvString("ab"));
+    EXPECT_TRUE("ab" != zvString("aB"));
+}
+
+TEST(zvString, GrowsToAnExactFitAndKeepsALargerBuffer) {
+    zvString text("abcdef");
+    const wchar16* const buffer = text.data();
+    text = "xyz";
+    EXPECT_EQ(text.data(), buffer);
+    text += "123";
+    EXPECT_EQ(text.data(), buffer);
+    EXPECT_EQ(text, "xyz123");
+    text += '4';
+    EXPECT_NE(text.data(), buffer);
+    text.reset();
+    EXPECT_NE(text.data(), nullptr);
+    EXPECT_EQ(text.getChars(), nullptr);
+    text.clear();
+    EXPECT_EQ(text.data(), nullptr);
+    zvString doubled("ab");
+    doubled += doubled;
+    EXPECT_EQ(doubled, "abab");
+}
+
+TEST(zvString, EveryChangeDiscardsTheNarrowCopy) {
+    using Change = void (*)(zvString&);
+    const Change changes[] = {
+        [](zvString& s) { s += "!"; },         [](zvString& s) { s = "new"; },
+        [](zvString& s) { s.toUpper(); },      [](zvString& s) { s.reverse(); },
+        [](zvString& s) { s.trim(); },         [](zvString& s) { s.replace("b", "c"); },
+        [](zvString& s) { s.insert("i", 1); }, [](zvString& s) { s += u'\u00e4'; },
+        [](zvString& s) { s.toLower(); },
+    };
+    for (const Change change : changes) {
+        zvString text(" aBb ");
+        ASSERT_STREQ(text.getChars(), " aBb ");
+        change(text);
+        EXPECT_STREQ(text.getChars(), zvCharString(text).data());
+        EXPECT_STRNE(text.getChars(), " aBb ");
+    }
+}
+
+TEST(zvString, Searches) {
+    struct Case {
+        const char* text;
+        const char* pattern;
+        int start, end, expected;
+    };
+    const Case forward[] = {
+        {"abcdef", "cd", 0, -1, 2},  {"abcdef", "cd", 0, 2, -1}, {"abcdef", "cd", 0, 3, 2},
+        {"abcdef", "ab", 1, -1, -1}, {"abc", "c", 3, -1, -1},    {"abc", "c", 2, 99, 2},
+        {"abc", "a", -1, -1, -1},    {"abc", "", 0, -1, -1},     {"", "a", 0, -1, -1},
+        {"ab", "abc", 0, -1, -1},    {"abab", "ab", 1, -1, 2},   {"abc", "a", 0, -2, -1}};
+    for (const Case& c : forward) {
+        EXPECT_EQ(zvString(c.text).find(c.pattern, c.start, c.end), c.expected) << c.text << ' ' << c.pattern;
+    }
+    const Case backward[] = {{"abca", "a", -1, 0, 3}, {"abc", "a", -1, 1, -1},  {"abab", "ab", 2, 0, 0},
+                             {"abab", "ab", 3, 0, 2}, {"abab", "ab", 3, 3, -1}, {"abc", "c", 3, 0, -1},
+                             {"abc", "b", 2, -5, 1},  {"", "a", -1, 0, -1},     {"abc", "", -1, 0, -1}};
+    for (const Case& c : backward) {
+        EXPECT_EQ(zvString(c.text).reverseFind(c.pattern, c.start, c.end), c.expected)
+            << c.text << ' ' << c.pattern;
+    }
+    EXPECT_EQ(zvString(u"xÄÖ").findNoCase(u"äö"), 1);
+    EXPECT_EQ(zvString("aAbA").reverseFindNoCase("a", 2), 1);
+    EXPECT_EQ(zvString("aaaa").count("aa"), 2);
+    EXPECT_EQ(zvString("aXaxA").countNoCase("AX"), 2);
+}
+
+TEST(zvString, Replaces) {
+    struct Case {
+        const char *text, *from, *to, *expected;
+        int start, end, matches;
+        bool ignoreCase;
+    };
+    const Case cases[] = {
+        {"aaaa", "aa", "b", "bb", 0, -1, 2, false},        {"aXbX", "X", "", "ab", 0, -1, 2, false},
+        {"abc", "b", "12345", "a12345c", 0, -1, 1, false}, {"aaa", "a", "a", "aaa", 0, -1, 0, false},
+        {"AaA", "A", "a", "aaa", 0, -1, 3, true},          {"abab", "ab", "x", "abx", 1, -1, 1, false},
+        {"abab", "ab", "x", "xab", 0, 2, 1, false},        {"abc", "z", "x", "abc", 0, -1, 0, false},
+        {"aBc", "b", "B", "aBc", 0, -1, 1, true},
+    };
+    for (const Case& c : cases) {
+        zvString text(c.text);
+        const int matches = c.ignoreCase ? text.replaceNoCase(c.from, c.to, c.start, c.end)
+                                         : text.replace(c.from, c.to, c.start, c.end);
+        EXPECT_EQ(matches, c.matches) << c.text;
+        EXPECT_EQ(text, c.expected);
+    }
+    zvString self("aa");
+    EXPECT_EQ(self.replace(self, "b"), 0);
+    EXPECT_EQ(self.replace("a", self), 0);
+}
+
+TEST(zvString, InsertsAndRepeatsTheTailInABufferWithRoom) {
+    zvString exact("abcdef");
+    EXPECT_TRUE(exact.insert("X", 1));
+    EXPECT_EQ(exact, "aXbcdef");
+    zvString roomy = withRoom("abcdef", 20);
+    EXPECT_TRUE(roomy.insert("X", 1));
+    EXPECT_EQ(roomy, "aXbbbbb");
+    zvString longInsert = withRoom("abc", 20);
+    EXPECT_TRUE(longInsert.insert("12345", 1));
+    EXPECT_EQ(longInsert, "a12345bc");
+    zvString text("ab");
+    EXPECT_TRUE(text.insert("c", 2));
+    EXPECT_FALSE(text.insert("x", 4) || text.insert("x", -1) || text.insert("", 0) || text.insert(text, 0));
+    EXPECT_EQ(text, "abc");
+}
+
+TEST(zvString, CutsAndTrims) {
+    const zvString text("abcdef");
+    EXPECT_EQ(text.substr(2, 100), "cdef");
+    EXPECT_EQ(text.substr(2, INT_MAX), "cdef");
+    EXPECT_EQ(text.substr(1, 2), "bc");
+    EXPECT_TRUE(text.substr(6, 1).empty() && text.substr(-1, 2).empty() && text.substr(1, -1).empty());
+    for (const char* const blank : {"  a b \t", "a b", "\n\r a b"}) {
+        zvString trimmed(blank);
+        trimmed.trim();
+        EXPECT_EQ(trimmed, "a b");
+    }
+    zvString spaces(" \t ");
+    spaces.trim();
+    EXPECT_TRUE(spaces.empty());
+    zvString reversed("abc");
+    reversed.reverse();
+    EXPECT_EQ(reversed, "cba");
+}
+
+TEST(zvString, IsOrderedByCodeUnits) {
+    const zvString null;
+    const zvString empty = withRoom("", 3);
+    EXPECT_TRUE(zvString("abc") < zvString("abd") && zvString("ab") < zvString("abc"));
+    EXPECT_TRUE(zvString("B") < zvString("a") && zvString("a") > zvString("B"));
+    EXPECT_TRUE(zvString(u"\uFFFD") > zvString(u"\U0001F600"));
+    EXPECT_TRUE(null < zvString("a") && zvString("a") > null && empty < zvString("a"));
+    EXPECT_FALSE(null < empty || empty < null || null > empty || zvString("a") < zvString("a"));
+    EXPECT_TRUE(null == empty);
+    EXPECT_TRUE(zvString(u"stra\u00DFE \u00C4").equalsIgnoreCase(u"STRA\u00DFe \u00E4"));
+}
+
+TEST(zvString, ReadsNumbers) {
+    struct Case {
+        const char* text;
+        int expected;
+    };
+    const Case cases[] = {{"12", 12},
+                          {"  -7x", -7},
+                          {"+3", 3},
+                          {"abc", 0},
+                          {"", 0},
+                          {"- 1", 0},
+                          {"2147483647", INT_MAX},
+                          {"2147483648", INT_MAX},
+                          {"99999999999999999999999", INT_MAX},
+                          {"-2147483648", INT_MIN},
+                          {"-2147483649", INT_MIN},
+                          {"0x10", 0}};
+    for (const Case& c : cases) {
+        EXPECT_EQ(zvString::convertUnicodeToInt(c.text), c.expected) << c.text;
+        EXPECT_EQ(zvString::convertUnicodeToLong(c.text), c.expected) << c.text;
+        EXPECT_EQ(zvString::convertUnicodeToBool(c.text), c.expected != 0) << c.text;
+    }
+    EXPECT_DOUBLE_EQ(zvString::convertUnicodeToDouble(" -2.5e1 9"), -25.0);
+    EXPECT_DOUBLE_EQ(zvString::convertUnicodeToDouble((std::string(300, '0') + "1.5").c_str()), 1.5);
+    EXPECT_DOUBLE_EQ(zvString::convertUnicodeToDouble("x"), 0.0);
+    EXPECT_TRUE(zvString("TRUE").toBoolean() && zvString("1").toBoolean());
+    EXPECT_FALSE(zvString("yes").toBoolean() || zvString("2").toBoolean() || zvString().toBoolean());
+}
+
+TEST(zvString, KeepsTextBeyondAsciiBothWays) {
+    const char* const mixed =
+        "\xC3\xA4 \xE2\x82\xAC \xF0\x9F\x98\x80!";  // one, two and three units' characters
+    const zvString text(mixed);
+    EXPECT_EQ(text, u"\u00E4 \u20AC \U0001F600!");
+    EXPECT_EQ(text.size(), 7);
+    EXPECT_STREQ(text.getChars(), mixed);
+    EXPECT_STREQ(zvCharString(text).data(), mixed);
+    EXPECT_EQ(zvString(u"\xD83D"), zvString(wchar16{0xD83D}));
+    EXPECT_EQ(zvString(wchar16{0xD83D}).getChars(), nullptr) << "half a pair has no narrow form";
+    EXPECT_TRUE(zvString("a\xFF").empty()) << "invalid text";
+    EXPECT_TRUE(zvString(mixed, 1).empty()) << "a character cut in two";
+    EXPECT_EQ(zvString(mixed, 2), u"\u00E4");
+
+    wchar16* wide = nullptr;
+    EXPECT_EQ(zvString::convertStringToUnicode(mixed, 5, wide), 4) << "a pair is not cut in two";
+    EXPECT_EQ(zvString(wide), u"\u00E4 \u20AC ");
+    zvString::releaseUnicode(wide);
+    EXPECT_EQ(wide, nullptr);
+    char* narrowText = nullptr;
+    EXPECT_EQ(zvString::convertUnicodeToString(text.data(), 1, narrowText), 2);
+    EXPECT_STREQ(narrowText, "\xC3\xA4");
+    zvString::releaseString(narrowText);
+}
+
+TEST(zvString, TheCLocaleRefusesWhatItCannotTell) {
+    const std::string before = std::setlocale(LC_ALL, nullptr);
+    std::setlocale(LC_ALL, "C");
+    EXPECT_STREQ(zvString("plain").getChars(), "plain");
+    const zvString euro(u"\u20AC");
+    EXPECT_EQ(euro.getChars(), nullptr);
+    EXPECT_STREQ(zvCharString(euro).data(), "");
+    std::setlocale(LC_ALL, before.c_str());
+    EXPECT_STREQ(euro.getChars(), "\xE2\x82\xAC") << "a failed conversion is tried again";
+}
+
+TEST(zvString, StaticConvertersAnswerNullForNull) {
+    wchar16* wide = nullptr;
+    char* narrowText = nullptr;
+    EXPECT_EQ(zvString::convertStringToUnicode(nullptr, 3, wide), 0);
+    EXPECT_EQ(zvString::convertStringToUnicode("abc", 0, wide), 0);
+    EXPECT_EQ(zvString::convertUnicodeToString(nullptr, 3, narrowText), 0);
+    EXPECT_EQ(zvString::convertToLowerCase(static_cast<const char*>(nullptr)), nullptr);
+    EXPECT_EQ(zvString::convertToUpperCase(static_cast<const wchar16*>(nullptr)), nullptr);
+    char* lower = zvString::convertToLowerCase("aBC");
+    EXPECT_STREQ(lower, "abc");
+    zvString::releaseString(lower);
+    wchar16* upper = zvString::convertToUpperCase(zvString(u"a\u00E4").data());
+    EXPECT_EQ(zvString(upper), u"A\u00C4");
+    zvString::releaseUnicode(upper);
+    zvString::releaseString(lower);
+}
+
+}  // namespace
