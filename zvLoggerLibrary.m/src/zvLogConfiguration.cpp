@@ -1,0 +1,92 @@
+#include "zvLogConfiguration.h"
+
+#include <log4cxx/file.h>
+#include <log4cxx/helpers/loglog.h>
+#include <log4cxx/helpers/transcoder.h>
+#include <log4cxx/mdc.h>
+#include <log4cxx/xml/domconfigurator.h>
+
+#include <algorithm>
+#include <mutex>
+#include <utility>
+
+#include "zvPlatform.h"
+
+using log4cxx::LoggerPtr;
+using log4cxx::LogString;
+using log4cxx::helpers::LogLog;
+using log4cxx::spi::LocationInfo;
+
+namespace {
+
+LogString decode(const std::string& text) {
+    LogString decoded;
+    log4cxx::helpers::Transcoder::decode(text, decoded);
+    return decoded;
+}
+
+}  // namespace
+
+zvLogConfiguration::zvLogConfiguration(std::filesystem::path path)
+    : m_path(std::move(path)), m_pRepository(log4cxx::Hierarchy::create()) {
+    const log4cxx::File file(m_path.string());
+    const auto status = log4cxx::xml::DOMConfigurator().doConfigure(file, m_pRepository);
+    adoptAppenders(*m_pRepository->getRootLogger());
+    for (const LoggerPtr& logger : m_pRepository->getCurrentLoggers()) {
+        adoptAppenders(*logger);
+    }
+    if (!m_files.empty()) {
+        m_lock.open(m_files.front().path());
+    }
+    if (status == log4cxx::spi::ConfigurationStatus::Configured && !m_bCanWrite) {
+        LogLog::error(LOG4CXX_STR("No appender that can write in file [") + file.getPath() +
+                      LOG4CXX_STR("]."));
+    }
+    // A logger without appenders may be what the site wants: log4cxx's only warning of it is used up unseen.
+    LogLog::setQuietMode(true);
+    m_pRepository->emitNoAppenderWarning(m_pRepository->getRootLogger().get());
+    LogLog::setQuietMode(false);
+}
+
+zvLogConfiguration::~zvLogConfiguration() { m_pRepository->shutdown(); }
+
+void zvLogConfiguration::adoptAppenders(const log4cxx::Logger& logger) {
+    for (const log4cxx::AppenderPtr& appender : logger.getAllAppenders()) {
+        const auto file = log4cxx::cast<log4cxx::FileAppender>(appender);
+        const auto isKnown = [&file](const zvLogFile& known) { return known.belongsTo(file); };
+        if (file != nullptr && std::none_of(m_files.begin(), m_files.end(), isKnown)) {
+            m_files.emplace_back(file);
+        }
+        m_bCanWrite = m_bCanWrite || file == nullptr || file->getWriter() != nullptr;
+    }
+}
+
+void zvLogConfiguration::write(const log4cxx::LevelPtr& level, const char* loggerName, const char* message,
+                               const char* file, int line) {
+    const LoggerPtr& logger = find(loggerName);
+    if (!logger->isEnabledFor(level)) {
+        return;
+    }
+    const LogString text = decode(message);
+    const char* const source = m_sources.insert(file == nullptr ? LocationInfo::NA : file).first->c_str();
+    const LocationInfo location(source, LocationInfo::calcShortFileName(source), LocationInfo::NA_METHOD,
+                                line);
+    const log4cxx::MDC processId("processId", std::to_string(zvPlatform::processId()));
+    const std::lock_guard<zvLogFolderLock> guard(m_lock);
+    for (zvLogFile& logFile : m_files) {
+        logFile.catchUp();
+    }
+    logger->forcedLogLS(level, text, location);
+    for (zvLogFile& logFile : m_files) {
+        logFile.remember();
+    }
+}
+
+// Most lines come from the logger of the line before.
+const LoggerPtr& zvLogConfiguration::find(const char* loggerName) {
+    if (m_pLastLogger == nullptr || m_lastName != loggerName) {
+        m_pLastLogger = m_pRepository->getLogger(decode(loggerName));
+        m_lastName = loggerName;
+    }
+    return m_pLastLogger;
+}

@@ -1,0 +1,154 @@
+#include "zvLoggerLibrary.h"
+
+#include <log4cxx/helpers/charsetdecoder.h>
+#include <log4cxx/helpers/charsetencoder.h>
+#include <log4cxx/helpers/loglog.h>
+#include <log4cxx/helpers/onlyonceerrorhandler.h>
+#include <log4cxx/hierarchy.h>
+#include <log4cxx/level.h>
+#include <log4cxx/pattern/formattinginfo.h>
+#include <log4cxx/pattern/integerpatternconverter.h>
+#include <log4cxx/pattern/literalpatternconverter.h>
+
+#include <exception>
+#include <filesystem>
+#include <memory>
+#include <mutex>
+
+#include "zvLogConfiguration.h"
+#include "zvPlatform.h"
+
+using log4cxx::Level;
+using log4cxx::LevelPtr;
+using log4cxx::helpers::LogLog;
+
+namespace {
+
+std::mutex mutex;
+// Owned; null while there is nothing to write to. Plain values, which hold when the process ends.
+zvLogConfiguration* configuration = nullptr;
+bool isExiting = false;
+
+/// Lives from the loading of this library to the end of the process, and with it what a line needs of
+/// log4cxx.
+///
+/// log4cxx destroys its static objects at exit, in the reverse order of their making. Those that are made
+/// here outlive the static objects of the program, which may log until they are destroyed themselves.
+class Lifetime {
+public:
+    Lifetime() {
+        LogLog::setQuietMode(false);
+        log4cxx::helpers::CharsetDecoder::getDefaultDecoder();
+        log4cxx::helpers::CharsetEncoder::getDefaultEncoder();
+        log4cxx::Hierarchy::create()->getLogger(LOG4CXX_STR("zvLogger"));
+        log4cxx::pattern::FormattingInfo::getDefault();
+        log4cxx::pattern::IntegerPatternConverter::newInstance({});
+        log4cxx::pattern::LiteralPatternConverter::newInstance(LOG4CXX_STR(" "));
+        for (const auto level : {&Level::getOff, &Level::getFatal, &Level::getError, &Level::getWarn,
+                                 &Level::getInfo, &Level::getDebug, &Level::getTrace, &Level::getAll}) {
+            level();
+        }
+    }
+    Lifetime(const Lifetime&) = delete;
+    Lifetime& operator=(const Lifetime&) = delete;
+    ~Lifetime() {
+        const std::lock_guard<std::mutex> guard(mutex);
+        isExiting = true;
+        delete configuration;
+        configuration = nullptr;
+    }
+
+    /// Tells of the first line that could not be written; more of the same help nobody.
+    void report(const std::exception& failure) {
+        m_errorHandler.error(LOG4CXX_STR("A message could not be logged"), failure, 0);
+    }
+
+private:
+    log4cxx::helpers::OnlyOnceErrorHandler m_errorHandler;
+} lifetime;
+
+/// Made after the first configuration, and so gone before what log4cxx made for it: another one would meet
+/// ruins.
+struct ConfigurationPhase {
+    ConfigurationPhase() = default;
+    ConfigurationPhase(const ConfigurationPhase&) = delete;
+    ConfigurationPhase& operator=(const ConfigurationPhase&) = delete;
+    ~ConfigurationPhase() {
+        const std::lock_guard<std::mutex> guard(mutex);
+        isExiting = true;
+    }
+};
+
+bool configure(const std::filesystem::path& path) {
+    if (configuration != nullptr && configuration->path() == path) {
+        return true;
+    }
+    // A missing file is no fault, and so is not told: the program goes without a log.
+    if (isExiting || !std::filesystem::exists(path)) {
+        return false;
+    }
+    auto fresh = std::make_unique<zvLogConfiguration>(path);
+    static const ConfigurationPhase phase;
+    if (!fresh->canWrite()) {
+        return false;
+    }
+    delete configuration;
+    configuration = fresh.release();
+    return true;
+}
+
+/// Not below any threshold, "off" included.
+LevelPtr alwaysLevel() { return std::make_shared<Level>(Level::OFF_INT, LOG4CXX_STR("ALWAYS"), 0); }
+
+void write(LevelPtr (*level)(), const char* loggerName, const char* message, const char* file, int line) {
+    if (loggerName == nullptr || message == nullptr) {
+        return;
+    }
+    const std::lock_guard<std::mutex> guard(mutex);
+    if (configuration == nullptr) {
+        return;
+    }
+    try {
+        configuration->write(level(), loggerName, message, file, line);
+    } catch (const std::exception& failure) {
+        lifetime.report(failure);
+    }
+}
+
+}  // namespace
+
+bool InitializeLogger(const char* configurationPath) {
+    if (configurationPath == nullptr || *configurationPath == '\0') {
+        return false;
+    }
+    const std::lock_guard<std::mutex> guard(mutex);
+    try {
+        return configure(std::filesystem::weakly_canonical(zvPlatform::nativePath(configurationPath)));
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
+void LogDebugMessage(const char* loggerName, const char* message, const char* file, int line) {
+    write(&Level::getDebug, loggerName, message, file, line);
+}
+
+void LogInfoMessage(const char* loggerName, const char* message, const char* file, int line) {
+    write(&Level::getInfo, loggerName, message, file, line);
+}
+
+void LogWarnMessage(const char* loggerName, const char* message, const char* file, int line) {
+    write(&Level::getWarn, loggerName, message, file, line);
+}
+
+void LogErrorMessage(const char* loggerName, const char* message, const char* file, int line) {
+    write(&Level::getError, loggerName, message, file, line);
+}
+
+void LogFatalMessage(const char* loggerName, const char* message, const char* file, int line) {
+    write(&Level::getFatal, loggerName, message, file, line);
+}
+
+void LogAlwaysMessage(const char* loggerName, const char* message, const char* file, int line) {
+    write(&alwaysLevel, loggerName, message, file, line);
+}

@@ -1,0 +1,228 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <future>
+#include <regex>
+#include <set>
+#include <sstream>
+#include <string>
+
+#include "zvLoggerLibrary.h"
+#include "zvLoggerTestMessage.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+using Lines = std::multiset<std::string>;
+
+constexpr char documentStart[] = R"(<log4j:configuration xmlns:log4j="http://jakarta.apache.org/log4j/">)";
+
+std::string parameter(const std::string& name, const std::string& value) {
+    return "<param name=\"" + name + "\" value=\"" + value + "\"/>";
+}
+
+class zvLoggerLibraryTest : public testing::Test {
+protected:
+    zvLoggerLibraryTest() {
+        fs::remove_all(m_folder);
+        fs::create_directories(m_folder);
+    }
+    ~zvLoggerLibraryTest() override { fs::remove_all(m_folder); }
+
+    std::string write(const std::string& name, const std::string& content) const {
+        std::ofstream(m_folder / name) << content;
+        return (m_folder / name).string();
+    }
+
+    /// A configuration whose root logger has `level` and writes to "logs/out.log", a folder yet to be made;
+    /// `parameters` are the appender's.
+    std::string configuration(const std::string& level, const std::string& parameters,
+                              const std::string& type = "FileAppender") const {
+        return documentStart + (R"(<appender name="file" class="org.apache.log4j.)" + type + "\">") +
+               parameter("File", (m_folder / "logs" / "out.log").string()) + parameters +
+               R"(<layout class="org.apache.log4j.PatternLayout">)" +
+               parameter("ConversionPattern", "%p|%c|%F|%L|%m%n") +
+               R"(</layout></appender><root><level value=")" + level +
+               R"("/><appender-ref ref="file"/></root></log4j:configuration>)";
+    }
+
+    /// The lines of all log files.
+    Lines lines() const {
+        Lines found;
+        for (const auto& entry : fs::directory_iterator(m_folder / "logs")) {
+            std::ifstream file(entry.path());
+            for (std::string line; std::getline(file, line);) {
+                found.insert(line);
+            }
+        }
+        return found;
+    }
+
+    /// Runs the test program; true when it exits with 0.
+    static bool run(const std::string& path, const std::string& name, int count) {
+        const std::string command = std::string("\"") + ZV_LOGGER_TEST_PROGRAM + "\" \"" + path + "\" " +
+                                    name + " " + std::to_string(count);
+        return std::system(command.c_str()) == 0;
+    }
+
+    const fs::path m_folder =
+        fs::current_path() / "logger-tests" / testing::UnitTest::GetInstance()->current_test_info()->name();
+};
+
+}  // namespace
+
+TEST_F(zvLoggerLibraryTest, levelsPassTheThresholdsOfLoggerAndAppender) {
+    const struct {
+        const char* root;
+        const char* appender;
+        const char* written;
+    } cases[] = {{"all", "all", "DEBUG INFO WARN ERROR FATAL ALWAYS"},
+                 {"info", "all", "INFO WARN ERROR FATAL ALWAYS"},
+                 {"all", "error", "ERROR FATAL ALWAYS"},
+                 {"off", "off", "ALWAYS"}};
+    for (const auto& thresholds : cases) {
+        const std::string name = std::string(thresholds.root) + thresholds.appender;
+        const std::string content =
+            configuration(thresholds.root, parameter("Threshold", thresholds.appender));
+        ASSERT_TRUE(InitializeLogger(write(name, content).c_str()));
+        for (const auto log : {LogDebugMessage, LogInfoMessage, LogWarnMessage, LogErrorMessage,
+                               LogFatalMessage, LogAlwaysMessage}) {
+            log("a.b", "text", "x.m/src/y.cpp", 42);
+        }
+        Lines expected;
+        std::istringstream written(thresholds.written);
+        for (std::string level; written >> level;) {
+            expected.insert(level + "|a.b|x.m/src/y.cpp|42|text");
+        }
+        EXPECT_EQ(lines(), expected) << name;
+        fs::resize_file(m_folder / "logs" / "out.log", 0);
+    }
+}
+
+TEST_F(zvLoggerLibraryTest, everyTextArrivesAndNullIsHarmless) {
+    const std::string content = configuration("info", parameter("Encoding", "UTF-8"));
+    ASSERT_TRUE(InitializeLogger(write("log4cxx.xml", content).c_str()));
+    Lines expected = {"INFO|a|?|2|no file"};
+    for (const std::string& text :
+         {std::string(), std::string("\xE2\x82\xAC \xF0\x9D\x84\x9E"), std::string(9999, 'x')}) {
+        LogInfoMessage("gr\xC3\xBC\xC3\x9F", text.c_str(), "f", 1);
+        expected.insert("INFO|gr\xC3\xBC\xC3\x9F|f|1|" + text);
+    }
+    LogInfoMessage("a", "no file", nullptr, 2);
+    LogInfoMessage(nullptr, "no logger", "f", 3);
+    LogAlwaysMessage("a", nullptr, "f", 4);
+    EXPECT_EQ(lines(), expected);
+
+    LogFatalMessage("a", "not decodable \xFF\xC3( but here", "f", 5);
+    const Lines found = lines();
+    EXPECT_TRUE(std::regex_match(*found.begin(), std::regex("FATAL\\|a\\|f\\|5\\|not decodable .* but here")))
+        << *found.begin();
+}
+
+TEST_F(zvLoggerLibraryTest, refusesWhatIsNoConfigurationAndSaysWhy) {
+    const std::string content = configuration("info", "");
+    const std::string refused[] = {
+        m_folder.string(),
+        write("empty.xml", ""),
+        write("cut.xml", content.substr(0, content.size() / 2)),
+        write("other.xml", "<CustomizationConfig/>"),
+        write("none.xml", documentStart + std::string("</log4j:configuration>")),
+        write("unopenable.xml", std::regex_replace(content, std::regex("out[.]log"), "."))};
+    for (const std::string& path : refused) {
+        testing::internal::CaptureStderr();
+        EXPECT_FALSE(InitializeLogger(path.c_str())) << path;
+        EXPECT_NE(testing::internal::GetCapturedStderr(), "") << path;
+        LogAlwaysMessage("a", "harmless", "f", 1);
+    }
+    testing::internal::CaptureStderr();
+    EXPECT_FALSE(InitializeLogger((m_folder / "missing.xml").string().c_str()));
+    EXPECT_FALSE(InitializeLogger(nullptr));
+    EXPECT_FALSE(InitializeLogger(""));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << "to go without a log is no fault";
+
+    ASSERT_TRUE(InitializeLogger(write("log4cxx.xml", content).c_str()));
+    EXPECT_FALSE(InitializeLogger(refused[0].c_str()));
+    LogInfoMessage("a", "goes on", "f", 1);
+    EXPECT_EQ(lines(), Lines{"INFO|a|f|1|goes on"});
+}
+
+TEST_F(zvLoggerLibraryTest, onlyAnotherPathConfiguresAgain) {
+    const std::string content =
+        configuration("info", parameter("Append", "false") + parameter("BufferedIO", "true"));
+    const std::string path = write("log4cxx.xml", content);
+    std::string backslashes = path;
+    std::replace(backslashes.begin(), backslashes.end(), '/', '\\');
+    Lines expected;
+    for (const std::string& spelling : {path, path, backslashes, (m_folder / "." / "log4cxx.xml").string()}) {
+        ASSERT_TRUE(InitializeLogger(spelling.c_str())) << spelling;
+        LogInfoMessage("a", spelling.c_str(), "f", 1);
+        expected.insert("INFO|a|f|1|" + spelling);
+        EXPECT_EQ(lines(), expected) << spelling;
+    }
+    ASSERT_TRUE(InitializeLogger(write("other.xml", configuration("error", "")).c_str()));
+    LogInfoMessage("a", "below the threshold", "f", 1);
+    EXPECT_EQ(lines(), expected);
+}
+
+TEST_F(zvLoggerLibraryTest, aLoggerWithoutAppendersIsSilent) {
+    std::string content =
+        std::regex_replace(configuration("info", ""), std::regex("<root"), "<logger name=\"heard\"");
+    content = std::regex_replace(content, std::regex("</root"), "</logger");
+    testing::internal::CaptureStderr();
+    ASSERT_TRUE(InitializeLogger(write("log4cxx.xml", content).c_str()));
+    LogErrorMessage("unheard", "text", "f", 1);
+    LogErrorMessage("heard.too", "text", "f", 1);
+    EXPECT_EQ(lines(), Lines{"ERROR|heard.too|f|1|text"});
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST_F(zvLoggerLibraryTest, logsUntilTheProcessHasEnded) {
+    // So small a file is rolled over at every line, for which log4cxx needs most of what it has.
+    const std::string parameters = parameter("MaxFileSize", "10") + parameter("MaxBackupIndex", "9");
+    ASSERT_TRUE(
+        run(write("log4cxx.xml", configuration("info", parameters, "RollingFileAppender")), "program", 1));
+    EXPECT_EQ(lines(), (Lines{"INFO|test.program|test/program.cpp|0|" + zvLoggerTestMessage("program", 0),
+                              "ERROR|at.exit|at/exit.cpp|3|called",
+                              "INFO|early.object|early/object.cpp|1|destroyed \xC3\xBC",
+                              "ALWAYS|early.object.always|early/object.cpp|2|destroyed"}));
+}
+
+TEST_F(zvLoggerLibraryTest, manyProcessesLoseAndTearNoLineOfARollingFile) {
+    constexpr int processes = 100;
+    constexpr int messages = 40;
+    constexpr int linesAtExit = 3;
+    const std::string parameters = parameter("MaxFileSize", "1MB") + parameter("MaxBackupIndex", "12");
+    const std::string path = write("log4cxx.xml", configuration("info", parameters, "RollingFileAppender"));
+    std::array<std::future<bool>, processes> running;
+    for (std::size_t i = 0; i < processes; ++i) {
+        running[i] = std::async(std::launch::async, run, path, "p" + std::to_string(i), messages);
+    }
+    EXPECT_TRUE(
+        std::all_of(running.begin(), running.end(), [](std::future<bool>& ran) { return ran.get(); }));
+    const Lines found = lines();
+    for (int i = 0; i < processes * messages; ++i) {
+        const std::string line = "INFO|test.program|test/program.cpp|" + std::to_string(i % messages) + "|" +
+                                 zvLoggerTestMessage("p" + std::to_string(i / messages), i % messages);
+        ASSERT_EQ(found.count(line), 1U) << line.substr(0, 80);
+    }
+    EXPECT_EQ(found.size(), static_cast<std::size_t>(processes * (messages + linesAtExit)));
+    EXPECT_TRUE(fs::exists(m_folder / "logs" / "out.log.7"));
+}
+
+TEST_F(zvLoggerLibraryTest, theSampleHomeLogsBelowItself) {
+    ::setenv("GATEWAY_HOME", m_folder.c_str(), 1);
+    ASSERT_TRUE(InitializeLogger(ZV_SAMPLE_LOG_CONFIGURATION));
+    LogDebugMessage("com.qrsl.products.lkbridge.product", "unseen", "x.m/src/y", 7);
+    LogInfoMessage("com.qrsl.products.lkbridge.product", "gr\xC3\xBC\xC3\x9F", "x.m/src/y", 8);
+    const Lines found = lines();
+    ASSERT_EQ(found.size(), 1U);
+    const std::regex expected(R"([0-9]{4}-[0-9]{2}-[0-9]{2} [0-9:]{8},[0-9]{3} \[[0-9]+\] INFO   )"
+                              R"(com[.]qrsl[.]products[.]lkbridge[.]product \(x[.]m/src/y:8\) )"
+                              "gr\xC3\xBC\xC3\x9F");
+    EXPECT_TRUE(std::regex_match(*found.begin(), expected)) << *found.begin();
+}
