@@ -1,0 +1,39 @@
+#ifndef ZV_CND_CONDITION_LIST_H
+#define ZV_CND_CONDITION_LIST_H
+
+#include <vector>
+
+#include "zvCndCondition.h"
+
+/// Conditions in the order of their addition; the list shares the ownership of each.
+class ZV_EXPORT zvCndConditionList {
+public:
+    zvCndConditionList();
+    zvCndConditionList(const zvCndConditionList& other);
+    virtual ~zvCndConditionList();
+
+    zvCndConditionList& operator=(const zvCndConditionList& other);
+
+    /// False, with nothing changed, for a null handle.
+    bool addCondition(const zvCndCondition& condition);
+    template <class Implementation>
+    bool addCondition(const zvCndHandle<Implementation>& condition) {
+        return addCondition(zvCndCondition(condition.operator->()));
+    }
+    /// A null handle for an index that is out of range.
+    zvCndCondition getCondition(int index) const;
+    /// The last condition; a null handle for an empty list.
+    zvCndCondition back() const;
+    /// Removes the last condition, if any.
+    void pop();
+    bool empty() const { return m_conditions.empty(); }
+    int numConditions() const { return static_cast<int>(m_conditions.size()); }
+    void clear();
+
+private:
+    friend class zvICndListCondition;
+
+    std::vector<zvCndCondition> m_conditions;
+};
+
+#endif

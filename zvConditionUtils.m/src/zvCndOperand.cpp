@@ -1,0 +1,38 @@
+#include "zvCndOperand.h"
+
+#include <utility>
+
+zvCndOperand::zvCndOperand() = default;
+
+zvCndOperand::zvCndOperand(zvString&& text, zvOperandValueTypeEnum valueType)
+    : m_value(std::move(text)), m_eValueType(valueType) {}
+
+zvCndOperand::zvCndOperand(const zvCndOperand& other) = default;
+
+zvCndOperand::zvCndOperand(zvCndOperand&& other) noexcept = default;
+
+zvCndOperand::~zvCndOperand() = default;
+
+zvCndOperand& zvCndOperand::operator=(const zvCndOperand& other) = default;
+
+void zvCndOperand::setValue(const zvValue& value) { m_value = value; }
+
+void zvCndOperand::setText(zvString&& text, zvOperandValueTypeEnum valueType) {
+    m_value.setStrValue(std::move(text));
+    m_eValueType = valueType;
+}
+
+// Numbers, dates and booleans always have a text form, which need not be made to know that.
+bool zvCndOperand::hasText() const {
+    switch (m_value.getDataType()) {
+        case zvDataTypeInteger:
+        case zvDataTypeFloat:
+        case zvDataTypeDate:
+        case zvDataTypeBoolean:
+            return true;
+        case zvDataTypeString:
+            return !m_value.text().empty();
+        default:
+            return false;
+    }
+}

@@ -1,0 +1,43 @@
+#ifndef ZV_CND_OPERAND_H
+#define ZV_CND_OPERAND_H
+
+#include "zvValue.h"
+
+enum zvOperandValueTypeEnum : int {
+    /// The value is what is compared.
+    zvOperandConstant = 0,
+    /// The value's text is the name of the attribute whose value is compared.
+    zvOperandVariable = 1
+};
+
+/// One side of a comparison. A new operand is a constant without a value.
+class ZV_EXPORT zvCndOperand {
+public:
+    zvCndOperand();
+    /// With the String `text`.
+    zvCndOperand(zvString&& text, zvOperandValueTypeEnum valueType);
+    zvCndOperand(const zvCndOperand& other);
+    zvCndOperand(zvCndOperand&& other) noexcept;
+    virtual ~zvCndOperand();
+
+    zvCndOperand& operator=(const zvCndOperand& other);
+
+    zvValue getValue() const { return m_value; }
+    void setValue(const zvValue& value);
+    zvOperandValueTypeEnum getValueType() const { return m_eValueType; }
+    void setValueType(const zvOperandValueTypeEnum& valueType) { m_eValueType = valueType; }
+
+    /// Becomes an operand with the String `text`.
+    void setText(zvString&& text, zvOperandValueTypeEnum valueType);
+
+    /// The value itself, owned by the operand.
+    const zvValue& value() const { return m_value; }
+    /// Whether the value's text form is not empty.
+    bool hasText() const;
+
+private:
+    zvValue m_value;
+    zvOperandValueTypeEnum m_eValueType = zvOperandConstant;
+};
+
+#endif

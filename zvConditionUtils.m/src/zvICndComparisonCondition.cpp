@@ -1,0 +1,68 @@
+#include "zvICndComparisonCondition.h"
+
+#include <utility>
+
+#include "zvCndContext.h"
+#include "zvCndOperator.h"
+
+namespace {
+
+const zvValue* findAttribute(const zvValue& name, const zvCndContext& context) {
+    return name.getDataType() == zvDataTypeString ? context.findValue(name.text())
+                                                  : context.findValue(name.getValue());
+}
+
+// The operand's value itself; null for a missing operand.
+const zvValue* resolve(const zvCndOperand& operand, const zvCndContext& context) {
+    switch (operand.getValueType()) {
+        case zvOperandConstant:
+            return operand.hasText() ? &operand.value() : nullptr;
+        case zvOperandVariable:
+            return findAttribute(operand.value(), context);
+        default:
+            return nullptr;
+    }
+}
+
+}  // namespace
+
+zvICndComparisonCondition::zvICndComparisonCondition(zvCndConditionTypeEnum type) : zvICndCondition(type) {}
+
+zvICndComparisonCondition::zvICndComparisonCondition(zvCndConditionTypeEnum type, zvCndOperand&& lhs,
+                                                     zvCndOperand&& rhs)
+    : zvICndCondition(type), m_lhsOperand(std::move(lhs)), m_rhsOperand(std::move(rhs)) {}
+
+zvICndComparisonCondition::~zvICndComparisonCondition() = default;
+
+bool zvICndComparisonCondition::evaluate(const zvCndContext& context) const {
+    const zvCndOperator* const comparison = zvCndOperator::of(getConditionType());
+    const zvValue* const left = resolve(m_lhsOperand, context);
+    const zvValue* const right = left == nullptr ? nullptr : resolve(m_rhsOperand, context);
+    return right != nullptr && comparison != nullptr && comparison->isComparison() &&
+           (left->*comparison->compare)(*right);
+}
+
+void zvICndComparisonCondition::setLHSOperand(const zvCndOperand& operand) { m_lhsOperand = operand; }
+
+void zvICndComparisonCondition::setRHSOperand(const zvCndOperand& operand) { m_rhsOperand = operand; }
+
+bool zvICndComparisonCondition::getOperandValue(const zvCndOperand& operand, const zvCndContext& context,
+                                                zvValue& out) const {
+    const zvValue* const value = resolve(operand, context);
+    if (value != nullptr) {
+        out = *value;
+    } else if (operand.getValueType() == zvOperandConstant) {
+        out = operand.value();
+    } else if (operand.getValueType() == zvOperandVariable) {
+        out = zvValue();
+    }
+    return value != nullptr;
+}
+
+bool zvICndComparisonCondition::getLHSOperandValue(const zvCndContext& context, zvValue& out) const {
+    return getOperandValue(m_lhsOperand, context, out);
+}
+
+bool zvICndComparisonCondition::getRHSOperandValue(const zvCndContext& context, zvValue& out) const {
+    return getOperandValue(m_rhsOperand, context, out);
+}

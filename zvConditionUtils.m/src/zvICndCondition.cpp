@@ -1,0 +1,3 @@
+#include "zvICndCondition.h"
+
+zvICndCondition::~zvICndCondition() = default;

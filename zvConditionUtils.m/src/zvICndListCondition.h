@@ -1,0 +1,36 @@
+#ifndef ZV_I_CND_LIST_CONDITION_H
+#define ZV_I_CND_LIST_CONDITION_H
+
+#include "zvCndConditionList.h"
+#include "zvICndLogicalCondition.h"
+
+/// What AND and OR have in common: a list of children, evaluated first to last until one decides. Without
+/// children both are false.
+class ZV_EXPORT zvICndListCondition : public zvICndLogicalCondition {
+public:
+    ~zvICndListCondition() override;
+
+    /// Appends a child. False, with nothing changed, for a null handle.
+    bool addCondition(const zvCndCondition& condition);
+    int numConditions() const;
+    /// A null handle for an index that is out of range.
+    zvCndCondition getCondition(int index) const;
+
+    zvCndChildren children() const override;
+
+protected:
+    explicit zvICndListCondition(zvCndConditionTypeEnum type);
+
+    void moveChildrenTo(std::vector<zvCndCondition>& conditions) override;
+
+private:
+    zvCndConditionList m_conditions;
+};
+
+using zvICndAndCondition = zvICndOfType<zvICndListCondition, zvCndConditionAnd>;
+using zvICndOrCondition = zvICndOfType<zvICndListCondition, zvCndConditionOr>;
+
+using zvCndAndCondition = zvCndHandle<zvICndAndCondition>;
+using zvCndOrCondition = zvCndHandle<zvICndOrCondition>;
+
+#endif

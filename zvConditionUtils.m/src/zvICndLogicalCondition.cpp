@@ -1,0 +1,94 @@
+#include "zvICndLogicalCondition.h"
+
+#include <array>
+#include <cstddef>
+#include <memory_resource>
+#include <utility>
+
+namespace {
+
+// A condition whose children are being evaluated.
+struct OpenCondition {
+    explicit OpenCondition(const zvICndLogicalCondition& condition)
+        : type(condition.getConditionType()), rest(condition.children()) {}
+
+    zvCndConditionTypeEnum type;
+    zvCndChildren rest;
+};
+
+// Trees up to this depth are evaluated without a heap allocation.
+constexpr std::size_t usualDepth = 16;
+
+// What a condition results in before its first child is evaluated, which without children is its result: AND
+// of nothing is false too.
+bool initialResult(const OpenCondition& condition) {
+    return condition.type == zvCndConditionAnd && condition.rest.next != condition.rest.end;
+}
+
+// Whether the last child's result leaves the others no say.
+bool isDecided(const OpenCondition& condition, bool lastResult) {
+    return condition.rest.next == condition.rest.end ||
+           (condition.type == zvCndConditionAnd && !lastResult) ||
+           (condition.type == zvCndConditionOr && lastResult);
+}
+
+// AddRef tells how many owners there are.
+bool hasOneOwner(zvICndCondition& condition) {
+    const bool one = condition.AddRef() == 2;
+    condition.Release();
+    return one;
+}
+
+}  // namespace
+
+zvICndLogicalCondition::~zvICndLogicalCondition() = default;
+
+zvICndLogicalCondition* zvICndLogicalCondition::from(const zvCndCondition& condition) {
+    if (condition.IsNull()) {
+        return nullptr;
+    }
+    switch (condition->getConditionType()) {
+        case zvCndConditionAnd:
+        case zvCndConditionOr:
+        case zvCndConditionNot:
+            return static_cast<zvICndLogicalCondition*>(condition.operator->());
+        default:
+            return nullptr;
+    }
+}
+
+bool zvICndLogicalCondition::evaluate(const zvCndContext& context) const {
+    alignas(OpenCondition) std::array<std::byte, usualDepth * sizeof(OpenCondition)> memory{};
+    std::pmr::monotonic_buffer_resource resource(memory.data(), memory.size());
+    std::pmr::vector<OpenCondition> open(&resource);
+    open.reserve(usualDepth);
+    open.emplace_back(*this);
+    bool result = initialResult(open.back());
+    while (!open.empty()) {
+        OpenCondition& current = open.back();
+        if (isDecided(current, result)) {
+            result = result != (current.type == zvCndConditionNot);
+            open.pop_back();
+            continue;
+        }
+        const zvCndCondition& child = *current.rest.next++;
+        if (const zvICndLogicalCondition* const logical = from(child)) {
+            open.emplace_back(*logical);
+            result = initialResult(open.back());
+        } else {
+            result = child->evaluate(context);
+        }
+    }
+    return result;
+}
+
+void zvICndLogicalCondition::release(std::vector<zvCndCondition>& conditions) {
+    while (!conditions.empty()) {
+        const zvCndCondition next = std::move(conditions.back());
+        conditions.pop_back();
+        zvICndLogicalCondition* const logical = from(next);
+        if (logical != nullptr && hasOneOwner(*logical)) {
+            logical->moveChildrenTo(conditions);
+        }
+    }
+}

@@ -1,0 +1,283 @@
+#include "zvCndCondition.h"
+
+#include <utility>
+#include <vector>
+
+#include "zvCndConditionResultMap.h"
+#include "zvConditionTestSupport.h"
+#include "zvRecordingLogger.h"
+
+namespace {
+
+using Factory = zvCndConditionFactory;
+
+zvCndOperand operand(const zvValue& value, int valueType = zvOperandConstant) {
+    zvCndOperand made;
+    made.setValue(value);
+    made.setValueType(static_cast<zvOperandValueTypeEnum>(valueType));
+    return made;
+}
+
+zvCndOperand text(const char* value) { return operand(zvValue(zvString(value))); }
+zvCndOperand variable(const char* name) { return operand(zvValue(zvString(name)), zvOperandVariable); }
+
+std::vector<zvCndCondition> allComparisons(const zvCndOperand& lhs, const zvCndOperand& rhs) {
+    return {Factory::getCondition(Factory::createEqualsCondition(lhs, rhs)),
+            Factory::getCondition(Factory::createNotEqualsCondition(lhs, rhs)),
+            Factory::getCondition(Factory::createLessThanCondition(lhs, rhs)),
+            Factory::getCondition(Factory::createLessThanEqualsCondition(lhs, rhs)),
+            Factory::getCondition(Factory::createGreaterThanCondition(lhs, rhs)),
+            Factory::getCondition(Factory::createGreaterThanEqualsCondition(lhs, rhs))};
+}
+
+zvCndAndCondition andOf(const std::vector<zvCndCondition>& children) {
+    zvCndAndCondition made = Factory::createAndCondition();
+    for (const zvCndCondition& child : children) {
+        EXPECT_TRUE(made->addCondition(child));
+    }
+    return made;
+}
+
+zvCndCondition notOf(const zvCndCondition& child) {
+    const zvCndNotCondition made = Factory::createNotCondition();
+    EXPECT_TRUE(made->setCondition(child));
+    return Factory::getCondition(made);
+}
+
+TEST(zvCndHandle, CountsItsOwners) {
+    {
+        zvCndCondition first = fixed(true);
+        EXPECT_EQ(1, owners(first));
+        const zvCndCondition second(first);
+        EXPECT_EQ(2, owners(first));
+        first = fixed(false);
+        EXPECT_EQ(1, owners(second));
+        EXPECT_EQ(2, FixedCondition::living);
+        zvCndCondition& same = first;
+        first = same;
+        EXPECT_EQ(1, owners(first));
+        const zvCndCondition moved(std::move(first));
+        EXPECT_EQ(1, owners(moved));
+        first = moved;
+        EXPECT_EQ(2, owners(moved));
+        first = zvCndCondition();
+        EXPECT_TRUE(first.IsNull());
+        EXPECT_EQ(1, owners(moved));
+    }
+    EXPECT_EQ(0, FixedCondition::living);
+}
+
+TEST(zvCndConditionList, RefusesNullHandlesAndBadIndices) {
+    zvCndConditionList list;
+    EXPECT_FALSE(list.addCondition(zvCndCondition()));
+    EXPECT_FALSE(list.addCondition(zvCndNotCondition()));
+    EXPECT_TRUE(list.back().IsNull());
+    list.pop();
+    const zvCndOrCondition typed = Factory::createOrCondition();
+    EXPECT_TRUE(list.addCondition(typed));
+    EXPECT_TRUE(list.addCondition(fixed(true)));
+    EXPECT_EQ(2, list.numConditions());
+    EXPECT_EQ(2, owners(typed));
+    EXPECT_EQ(zvCndConditionNone, list.back()->getConditionType());
+    EXPECT_TRUE(list.getCondition(-1).IsNull());
+    EXPECT_TRUE(list.getCondition(2).IsNull());
+    list.pop();
+    EXPECT_EQ(0, FixedCondition::living);
+    EXPECT_EQ(zvCndConditionOr, list.getCondition(0)->getConditionType());
+    list.clear();
+    EXPECT_TRUE(list.empty());
+    EXPECT_EQ(1, owners(typed));
+}
+
+TEST(zvCndConditionResultMap, KeepsTheFirstResultOfAnIdentity) {
+    zvCndConditionResultMap results;
+    const zvCndCondition key = fixed(true);
+    const zvCndOrCondition result = Factory::createOrCondition();
+    EXPECT_FALSE(results.addConditionResult(zvCndCondition(), result));
+    EXPECT_FALSE(results.addConditionResult(key, zvCndOrCondition()));
+    EXPECT_TRUE(results.addConditionResult(key, result));
+    EXPECT_FALSE(results.addConditionResult(zvCndCondition(key), Factory::createOrCondition()));
+    EXPECT_EQ(result.operator->(), results.getConditionResult(key).operator->());
+    EXPECT_TRUE(results.getConditionResult(fixed(true)).IsNull());
+    EXPECT_TRUE(results.getConditionResult(zvCndCondition()).IsNull());
+}
+
+TEST(zvCndConditionFactory, WidensAndNarrowsOnTheSameCondition) {
+    const zvCndAndCondition made = Factory::createAndCondition();
+    EXPECT_EQ(1, owners(made));
+    const zvCndCondition general = Factory::getCondition(Factory::getLogicalCondition(made));
+    Factory::getAndCondition(Factory::getLogicalCondition(general))->addCondition(fixed(true));
+    EXPECT_EQ(1, made->numConditions());
+    EXPECT_EQ(2, owners(made));
+    const zvCndLessThanCondition less = Factory::createLessThanCondition(text("1"), text("2"));
+    const zvCndComparisonCondition comparison = Factory::getComparisonCondition(Factory::getCondition(less));
+    EXPECT_EQ(zvString("2"), comparison->getRHSOperand().getValue().getValue());
+    EXPECT_EQ(less.operator->(), Factory::getLessThanCondition(comparison).operator->());
+}
+
+template <class Narrow>
+std::string refusals(Narrow narrowed) {
+    std::vector<zvCndCondition> conditions = allComparisons(text("1"), text("2"));
+    conditions.push_back(Factory::getCondition(Factory::createAndCondition()));
+    conditions.push_back(Factory::getCondition(Factory::createOrCondition()));
+    conditions.push_back(Factory::getCondition(Factory::createNotCondition()));
+    conditions.push_back(fixed(true));
+    conditions.emplace_back();
+    std::string accepted;
+    std::string message;
+    for (std::size_t i = 0; i < conditions.size(); ++i) {
+        try {
+            narrowed(conditions[i]);
+            accepted += std::to_string(i + 1);
+        } catch (const zvException& refusal) {
+            message = narrow(refusal.getResult().getMessage());
+        }
+    }
+    return accepted + ": " + message;
+}
+
+TEST_F(zvLoggedTest, NarrowingChecksTheType) {
+#define NARROWED(Type) refusals([](const zvCndCondition& general) { Factory::get##Type(general); })
+    EXPECT_EQ("123456: Received condition is not ComparisonCondition", NARROWED(ComparisonCondition));
+    EXPECT_EQ("789: Received condition is not LogicalCondition", NARROWED(LogicalCondition));
+    EXPECT_EQ("1: Received condition is not EqualsCondition", NARROWED(EqualsCondition));
+    EXPECT_EQ("2: Received condition is not NotEqualsCondition", NARROWED(NotEqualsCondition));
+    EXPECT_EQ("3: Received condition is not LessThanCondition", NARROWED(LessThanCondition));
+    EXPECT_EQ("4: Received condition is not LessThanEqualsCondition", NARROWED(LessThanEqualsCondition));
+    EXPECT_EQ("5: Received condition is not GreaterThanCondition", NARROWED(GreaterThanCondition));
+    EXPECT_EQ("6: Received condition is not GreaterThanEqualsCondition",
+              NARROWED(GreaterThanEqualsCondition));
+    EXPECT_EQ("7: Received condition is not AndCondition", NARROWED(AndCondition));
+    EXPECT_EQ("8: Received condition is not OrCondition", NARROWED(OrCondition));
+    zvRecordingLogger::reset();
+    EXPECT_EQ("9: Received condition is not NotCondition", NARROWED(NotCondition));
+#undef NARROWED
+    ASSERT_EQ(10u, zvRecordingLogger::events().size());
+    EXPECT_EQ("error", zvRecordingLogger::events()[0].level);
+    EXPECT_EQ("zvConditionUtils.m/src/zvCndConditionFactory", zvRecordingLogger::events()[0].file);
+}
+
+TEST(zvCndContext, RefusesEmptyAndTakenNames) {
+    zvCndContext context;
+    zvAttribute attribute("", zvValue(1));
+    EXPECT_FALSE(context.addAttribute(attribute));
+    add(context, "a", zvValue(1));
+    attribute.setName("a");
+    EXPECT_FALSE(context.addAttribute(attribute));
+    EXPECT_FALSE(context.getAttribute("", attribute));
+    EXPECT_FALSE(context.getAttribute("b", attribute));
+    attribute.setValue(zvValue(2));
+    EXPECT_TRUE(context.getAttribute("a", attribute));
+    EXPECT_EQ(1, attribute.getValue().getIntValue());
+}
+
+// Which of = != < <= > >= hold, each as 1 or 0; "!" for one that throws.
+std::string outcomes(const zvCndOperand& lhs, const zvCndOperand& rhs) {
+    zvCndContext context;
+    add(context, "five", zvValue(5));
+    add(context, "text", zvValue(zvString("abc")));
+    add(context, "empty", zvValue(zvString()));
+    add(context, "none", zvValue());
+    add(context, "true", zvValue(true));
+    add(context, "5", zvValue(zvString("named by a number")));
+    std::string outcome;
+    for (const zvCndCondition& comparison : allComparisons(lhs, rhs)) {
+        try {
+            outcome += comparison->evaluate(context) ? '1' : '0';
+        } catch (const zvException&) {
+            outcome += '!';
+        }
+    }
+    return outcome;
+}
+
+TEST(zvICndComparisonCondition, ComparesWhatItsOperandsStandFor) {
+    struct Case {
+        zvCndOperand lhs, rhs;
+        const char* expected;
+    };
+    const Case cases[] = {
+        //                                                          = != < <= > >=
+        {variable("five"), text("5"), "100101"},
+        {variable("five"), text("12"), "011100"},
+        {text("5"), variable("five"), "101010"},
+        {variable("text"), text("abc"), "101010"},
+        {variable("text"), text("abd"), "011100"},
+        {variable("empty"), text("a"), "011100"},
+        {variable("empty"), variable("none"), "101010"},
+        {variable("true"), text("1"), "10!!!!"},
+        {variable("five"), variable("true"), "!!!!!!"},
+        {operand(zvValue(5)), operand(zvValue(2.5F)), "010011"},
+        {operand(zvValue(false)), text("0"), "10!!!!"},
+        {operand(zvValue(5), zvOperandVariable), text("named by a number"), "101010"},
+        // One side is missing.
+        {variable("absent"), text("1"), "000000"},
+        {text("1"), variable("absent"), "000000"},
+        {variable("absent"), variable("absent"), "000000"},
+        {text(""), text(""), "000000"},
+        {variable("true"), text(""), "000000"},
+        {operand(zvValue()), variable("none"), "000000"},
+        {variable(""), text("1"), "000000"},
+        {operand(zvValue(1), 2), text("1"), "000000"},
+    };
+    for (const Case& oneCase : cases) {
+        EXPECT_EQ(oneCase.expected, outcomes(oneCase.lhs, oneCase.rhs))
+            << narrow(oneCase.lhs.getValue().getValue()) << " " << narrow(oneCase.rhs.getValue().getValue());
+    }
+}
+
+TEST(zvICndComparisonCondition, AssignsTheValueOfAMissingOperandToo) {
+    struct Probe : zvICndEqualsCondition {
+        using zvICndEqualsCondition::getOperandValue;
+    };
+    zvCndContext context;
+    add(context, "five", zvValue(5));
+    const zvCndHandle<Probe> probe(new Probe);
+    zvValue value(7);
+    EXPECT_FALSE(probe->getOperandValue(operand(zvValue(1), 2), context, value));
+    EXPECT_EQ(7, value.getIntValue());
+    EXPECT_TRUE(probe->getOperandValue(variable("five"), context, value));
+    EXPECT_EQ(5, value.getIntValue());
+    EXPECT_FALSE(probe->getOperandValue(variable("absent"), context, value));
+    EXPECT_EQ(zvDataTypeNone, value.getDataType());
+    EXPECT_FALSE(probe->getOperandValue(text(""), context, value));
+    EXPECT_EQ(zvDataTypeString, value.getDataType());
+}
+
+TEST(zvICndLogicalCondition, StopsAtTheChildThatDecides) {
+    const zvCndContext context;
+    const zvCndCondition throwing = Factory::getCondition(
+        Factory::createLessThanCondition(operand(zvValue(true)), operand(zvValue(true))));
+    const zvCndOrCondition anyOf = Factory::createOrCondition();
+    EXPECT_FALSE(anyOf->evaluate(context));
+    EXPECT_FALSE(andOf({})->evaluate(context));
+    EXPECT_TRUE(notOf(Factory::getCondition(andOf({})))->evaluate(context));
+    EXPECT_FALSE(andOf({fixed(true), Factory::getCondition(anyOf)})->evaluate(context));
+    EXPECT_FALSE(andOf({fixed(true), fixed(false), throwing})->evaluate(context));
+    EXPECT_TRUE(andOf({fixed(true), notOf(fixed(false))})->evaluate(context));
+    EXPECT_EQ("On boolean datatype only equal to and not equal to action happens", messageThrownBy([&] {
+                  andOf({fixed(true), throwing})->evaluate(context);
+              }));
+    anyOf->addCondition(fixed(false));
+    EXPECT_FALSE(anyOf->evaluate(context));
+    anyOf->addCondition(Factory::getCondition(andOf({fixed(true), fixed(true)})));
+    anyOf->addCondition(throwing);
+    FixedCondition::evaluations = 0;
+    EXPECT_FALSE(notOf(Factory::getCondition(anyOf))->evaluate(context));
+    EXPECT_EQ(3, FixedCondition::evaluations);
+}
+
+TEST(zvICndLogicalCondition, RefusesNullChildren) {
+    EXPECT_FALSE(andOf({})->addCondition(zvCndCondition()));
+    EXPECT_TRUE(andOf({fixed(true)})->getCondition(-1).IsNull());
+    EXPECT_TRUE(andOf({fixed(true)})->getCondition(1).IsNull());
+    const zvCndNotCondition negation = Factory::createNotCondition();
+    EXPECT_TRUE(negation->getCondition().IsNull());
+    EXPECT_TRUE(negation->setCondition(fixed(true)));
+    EXPECT_FALSE(negation->setCondition(zvCndCondition()));
+    EXPECT_EQ(2, owners(negation->getCondition()));
+    EXPECT_TRUE(negation->setCondition(fixed(false)));
+    EXPECT_EQ(1, FixedCondition::living);
+}
+
+}  // namespace

@@ -1,0 +1,182 @@
+// Whole trees: random ones against an evaluator of the test's own, and ones that are deep or wide on purpose.
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <random>
+#include <vector>
+
+#include "zvConditionTestSupport.h"
+
+namespace {
+
+using Attributes = std::map<std::string, std::string>;
+
+// An expression that writes itself as a condition text and evaluates itself on plain strings.
+struct Expression {
+    std::string token;  // of a comparison when there are no children
+    std::string name, constant;
+    std::vector<Expression> children;
+
+    std::string text(std::mt19937& random) const {
+        const std::string blank(random() % 2, ' ');
+        if (children.empty()) {
+            return "{" + name + "}" + blank + token + blank + "'" + constant + "'";
+        }
+        if (token == "NOT") {
+            return "NOT" + blank + "(" + children[0].text(random) + ")";
+        }
+        std::string joined;
+        for (const Expression& child : children) {
+            joined.append(joined.empty() ? "(" : blank + token + "(").append(child.text(random)).append(")");
+        }
+        return joined;
+    }
+
+    bool holds(const Attributes& attributes) const {
+        const auto childHolds = [&](const Expression& child) { return child.holds(attributes); };
+        if (token == "NOT") {
+            return !childHolds(children[0]);
+        }
+        if (token == "AND") {
+            return std::all_of(children.begin(), children.end(), childHolds);
+        }
+        if (token == "OR") {
+            return std::any_of(children.begin(), children.end(), childHolds);
+        }
+        const auto found = attributes.find(name);
+        return found != attributes.end() && compare(found->second);
+    }
+
+    // Of texts, <= and >= are strict, and < and > are their opposites.
+    bool compare(const std::string& value) const {
+        if (token == "=" || token == "!=") {
+            return (value == constant) == (token == "=");
+        }
+        const bool isSmaller = value < constant;
+        const bool isGreater = value > constant;
+        return token == "<=" ? isSmaller : token == ">" ? !isSmaller : token == ">=" ? isGreater : !isGreater;
+    }
+};
+
+Expression randomExpression(std::mt19937& random, int depth) {
+    const std::array<const char*, 6> comparisons = {"=", "!=", "<", "<=", ">", ">="};
+    const std::array<const char*, 4> names = {"state", "rev", "AND", "gone"};
+    const std::array<const char*, 4> constants = {"1", "2", "10", "a b"};
+    const std::array<const char*, 3> logical = {"NOT", "AND", "OR"};
+    Expression made;
+    if (depth == 0 || random() % 4 == 0) {
+        made.token = comparisons[random() % comparisons.size()];
+        made.name = names[random() % names.size()];
+        made.constant = constants[random() % constants.size()];
+        return made;
+    }
+    made.token = logical[random() % logical.size()];
+    const std::size_t children = made.token == "NOT" ? 1 : 2 + random() % 3;
+    for (std::size_t i = 0; i < children; ++i) {
+        made.children.push_back(randomExpression(random, depth - 1));
+    }
+    return made;
+}
+
+TEST(zvCndTrees, RandomTreesEvaluateAsTheirTextsSayAndSurviveRewriting) {
+    std::mt19937 random(20110521);
+    const std::array<const char*, 4> values = {"1", "2", "10", "a b"};
+    for (int round = 0; round < 4000; ++round) {
+        const Expression expression = randomExpression(random, 1 + round % 5);
+        const Attributes attributes = {{"state", values[random() % values.size()]},
+                                       {"rev", values[random() % values.size()]},
+                                       {"AND", values[random() % values.size()]}};
+        zvCndContext context;
+        for (const auto& [name, value] : attributes) {
+            add(context, name.c_str(), zvValue(zvString(value.c_str())));
+        }
+        std::string text = expression.text(random);
+        SCOPED_TRACE(text);
+        // Reading turns the children round each time, and takes in the nested runs that come last.
+        std::array<std::string, 14> texts;
+        for (std::string& written : texts) {
+            const zvCndCondition condition = parse(text);
+            ASSERT_EQ(expression.holds(attributes), condition->evaluate(context));
+            written = text = write(condition);
+        }
+        ASSERT_EQ(texts[11], texts[13]);
+    }
+}
+
+std::string repeated(int count, const char* text) {
+    std::string all;
+    for (int i = 0; i < count; ++i) {
+        all += text;
+    }
+    return all;
+}
+
+constexpr int million = 1000000;
+
+TEST(zvCndTrees, AnyDepthAndWidthIsReadEvaluatedWrittenAndFreed) {
+    const std::string one = "{a} = '1'";
+    struct Case {
+        const char* name;
+        std::string text;
+        bool expected;
+    };
+    const Case cases[] = {
+        {"parentheses", repeated(million, "(") + one + repeated(million, ")"), true},
+        {"NOT", repeated(million + 1, "NOT ") + one, false},
+        {"chain of AND", one + repeated(million, " AND {a} = '1'"), true},
+        {"chain of OR", one + repeated(million, " OR {a} != '1'"), true},
+        {"AND and OR to the right",
+         repeated(100000, "{a} = '1' AND ({a} != '1' OR (") + one + repeated(100000, "))"), true},
+        {"AND and OR to the left",
+         repeated(100000, "((") + one + repeated(100000, " AND {a} = '1') OR {a} != '1')"), true},
+        {"long name", "{" + std::string(million, '(') + "} != '" + std::string(million, ')') + "'", false},
+        {"escapes", "{a} != '" + repeated(million, "\\'") + "'", true},
+    };
+    zvCndContext context;
+    add(context, "a", zvValue(1));
+    for (const Case& oneCase : cases) {
+        const zvCndCondition condition = parse(oneCase.text);
+        EXPECT_EQ(oneCase.expected, condition->evaluate(context)) << oneCase.name;
+        const std::string written = write(condition);
+        EXPECT_EQ(written.size(), write(parse(written)).size()) << oneCase.name;
+    }
+}
+
+TEST(zvCndTrees, AnyDepthIsRefusedToo) {
+    const char* const unclosed = "Error in matching parenthesis, closing parenthesis missing";
+    EXPECT_EQ(unclosed, messageThrownBy([] { parse(repeated(million, "(")); }));
+    EXPECT_EQ(unclosed, messageThrownBy([] { parse("(" + repeated(million, "NOT ") + "{a} = '1'"); }));
+    EXPECT_EQ("Valid condition operator not found", messageThrownBy([] { parse(repeated(million, "A")); }));
+    EXPECT_EQ(
+        "Valid condition operator not found", messageThrownBy([] {
+            parse(repeated(million, "({a} = '1' AND NOT ") + "{a} = '1'" + repeated(million, ")") + "%");
+        }));
+}
+
+TEST(zvCndTrees, WhatIsStillOwnedOutlivesTheRestOfTheTree) {
+    constexpr int depth = 200000;
+    std::vector<zvCndCondition> kept;
+    zvCndCondition tree = fixed(true);
+    for (int i = 0; i < depth; ++i) {
+        const zvCndNotCondition negation = zvCndConditionFactory::createNotCondition();
+        negation->setCondition(tree);
+        const zvCndAndCondition both = zvCndConditionFactory::createAndCondition();
+        both->addCondition(zvCndConditionFactory::getCondition(negation));
+        both->addCondition(fixed(true));
+        tree = zvCndConditionFactory::getCondition(both);
+        if (i % 50000 == 0) {
+            kept.push_back(tree);
+        }
+    }
+    EXPECT_EQ(depth + 1, FixedCondition::living);
+    tree = zvCndCondition();
+    EXPECT_EQ(150002, FixedCondition::living);
+    EXPECT_FALSE(kept.back()->evaluate(zvCndContext()));
+    kept.pop_back();
+    EXPECT_EQ(100002, FixedCondition::living);
+    kept.clear();
+    EXPECT_EQ(0, FixedCondition::living);
+}
+
+}  // namespace
