@@ -1,0 +1,38 @@
+#ifndef ZV_ATTACHMENT_PARSER_H
+#define ZV_ATTACHMENT_PARSER_H
+
+#include "zvResult.h"
+#include "zvXMLParser.h"
+
+class zvAttachment;
+class zvAttachmentList;
+
+/// Reads an event's attachments file:
+///
+///     <AttachmentList>
+///       <Attachment>
+///         <FilePath>C:\x\a.txt</FilePath>
+///         <FileTransferMode>ASCII</FileTransferMode>   BINARY unless it is exactly ASCII
+///         <ToBeDeleted>FALSE</ToBeDeleted>             true unless it is FALSE in any case
+///       </Attachment>
+///     </AttachmentList>
+///
+/// An absent mode or ToBeDeleted takes its default, and an attachment without a path is skipped, each with a
+/// warning. Other elements are ignored.
+class ZV_EXPORT zvAttachmentParser : public zvXMLParser {
+public:
+    zvAttachmentParser();
+    ~zvAttachmentParser() override;
+
+    /// Appends what `input` (a file's path, or the document itself) lists to `list`.
+    /// @return code 0; -1 for an empty `input`, a null `list` and a document without any attachment, all
+    /// without a message: the list tells what was found. @throws zvException for a document that cannot be
+    /// loaded or has another root.
+    zvResult parse(zvAttachmentList* list, const zvString& input, bool isFile);
+
+private:
+    int parseAttachment(zvAttachmentList* list);
+    void parseMembers(zvString& tag, zvAttachment& attachment);
+};
+
+#endif

@@ -1,0 +1,77 @@
+#include "zvDOMErrorHandler.h"
+
+#include <xercesc/dom/DOMError.hpp>
+#include <xercesc/dom/DOMLocator.hpp>
+#include <xercesc/dom/DOMNode.hpp>
+
+#include "zvLogSource.h"
+#include "zvXMLText.h"
+
+using xercesc::DOMError;
+using xercesc::DOMLocator;
+using xercesc::DOMNode;
+using zvXMLText::toString;
+
+namespace {
+
+constexpr zvLogSource logger("zvXMLUtils.m/src/zvDOMErrorHandler");
+
+constexpr int mostCollected = 1'000'000;  // code units: errors can be many times as long as their document
+
+// Each part is empty as far as the location, or the node in it, is missing.
+struct Place {
+    explicit Place(const DOMLocator* location) {
+        if (location == nullptr) {
+            return;
+        }
+        line = zvString(static_cast<long>(location->getLineNumber()));
+        column = zvString(static_cast<long>(location->getColumnNumber()));
+        if (const DOMNode* const node = location->getRelatedNode()) {
+            nodeName = toString(node->getNodeName());
+            nodeValue = toString(node->getNodeValue());
+        }
+    }
+
+    zvString line, column, nodeName, nodeValue;
+};
+
+}  // namespace
+
+zvDOMErrorHandler::zvDOMErrorHandler() : m_result(0), m_iCollected(0) {}
+zvDOMErrorHandler::~zvDOMErrorHandler() = default;
+
+bool zvDOMErrorHandler::handleError(const DOMError& error) {
+    logger.info("Start: zvDOMErrorHandler::handleError");
+    const int severity = error.getSeverity();
+    const zvString message = toString(error.getMessage());
+    const Place place(error.getLocation());
+    bool goOn = false;
+    logger.info("XML Parsing Severity Code = ", severity);
+    if (severity == DOMError::DOM_SEVERITY_FATAL_ERROR) {
+        logger.warn("XML document read up to line ", place.line, ", column ", place.column,
+                    " only: ", message);
+    } else {
+        const zvString line = zvTextBuilder::concat(
+            "\"XML PARSING ERROR: Severity code = ", severity, ", Error message = ", message,
+            ", Node name = ", place.nodeName, ", Node value = ", place.nodeValue,
+            ", Error line number = ", place.line, ", Error column number = ", place.column, ".\"");
+        m_errors.addString(line);
+        m_iCollected += line.size();
+        goOn = m_iCollected < mostCollected;
+    }
+    logger.info("End: zvDOMErrorHandler::handleError");
+    return goOn;
+}
+
+zvResult zvDOMErrorHandler::takeResult() {
+    if (!m_errors.empty()) {
+        constexpr const char* summary = "XML PARSING ERROR";
+        logger.error(summary);
+        m_result.setResult(-1);
+        m_result.setMessage(summary);
+        for (int i = 0; i < m_errors.numStrings(); ++i) {
+            logger.error("", m_errors.getString(i));
+        }
+    }
+    return m_result;
+}

@@ -1,0 +1,195 @@
+#include "zvDOMLoader.h"
+
+#include <cstring>
+#include <filesystem>
+#include <optional>
+#include <system_error>
+#include <xercesc/dom/DOM.hpp>
+#include <xercesc/framework/LocalFileInputSource.hpp>
+#include <xercesc/framework/MemBufInputSource.hpp>
+#include <xercesc/util/OutOfMemoryException.hpp>
+#include <xercesc/util/XMLException.hpp>
+#include <xercesc/util/XMLUni.hpp>
+
+#include "zvDOMErrorHandler.h"
+#include "zvLogSource.h"
+#include "zvPlatform.h"
+#include "zvXMLGuardedParser.h"
+#include "zvXMLLocation.h"
+#include "zvXMLMemory.h"
+#include "zvXMLText.h"
+
+namespace fs = std::filesystem;
+
+using xercesc::DOMDocument;
+using xercesc::DOMException;
+using xercesc::DOMImplementation;
+using xercesc::DOMImplementationRegistry;
+using xercesc::InputSource;
+using xercesc::LocalFileInputSource;
+using xercesc::MemBufInputSource;
+using xercesc::OutOfMemoryException;
+using xercesc::XMLException;
+using xercesc::XMLUni;
+using zvXMLText::toString;
+
+namespace {
+
+constexpr zvLogSource logger("zvXMLUtils.m/src/zvDOMLoader");
+
+constexpr const char* textSystemId = "taag";
+
+struct File {
+    fs::path path;
+    fs::path folder;  // canonical; empty when there is no such folder
+    std::uintmax_t size;
+};
+
+// A file that does not exist is left for the parser to complain about.
+File fileAt(const char* location) {
+    fs::path path(zvPlatform::nativePath(location));
+    std::error_code error;
+    if (!fs::exists(path, error)) {
+        const std::optional<fs::path> local = zvXMLLocation::localPath(location);
+        if (!local || local->empty()) {
+            logger.raise("XML document refused: \"", location, "\" is not a file on this machine");
+        }
+        path = *local;
+    }
+    if (fs::exists(path, error) && !fs::is_regular_file(path, error)) {
+        logger.raise("XML document refused: \"", location, "\" is not a regular file");
+    }
+    const fs::path folder = fs::canonical(path.has_parent_path() ? path.parent_path() : ".", error);
+    if (!error) {
+        path = folder / path.filename();
+    }
+    const std::uintmax_t size = fs::file_size(path, error);
+    return {path, folder, error ? 0 : size};
+}
+
+}  // namespace
+
+// A document with all that it stands on, in the order in which that has to go.
+class zvDOMLoader::Tree {
+public:
+    explicit Tree(DOMDocument* created) : m_pDocument(created) {}
+    Tree(const fs::path& folder, std::uintmax_t sourceBytes)
+        : m_pParser(std::make_unique<zvXMLGuardedParser>(m_memory, folder)), m_pDocument(nullptr) {
+        m_memory.allowFor(sourceBytes);
+    }
+    Tree(const Tree&) = delete;
+    Tree& operator=(const Tree&) = delete;
+    ~Tree() {
+        m_memory.lift();
+        if (m_pParser == nullptr && m_pDocument != nullptr) {
+            m_pDocument->release();
+        }
+    }
+
+    zvResult parse(InputSource& source) {
+        zvDOMErrorHandler handler;
+        m_pParser->setParameter(XMLUni::fgDOMErrorHandler, &handler);
+        m_pDocument = m_pParser->parseSource(source);
+        m_pParser->setParameter(XMLUni::fgDOMErrorHandler, static_cast<const void*>(nullptr));
+        m_memory.lift();
+        return handler.takeResult();
+    }
+    DOMDocument* document() const { return m_pDocument; }
+
+private:
+    zvXMLMemory m_memory;
+    std::unique_ptr<zvXMLGuardedParser> m_pParser;  // owns the document that it parsed
+    DOMDocument* m_pDocument;
+};
+
+zvDOMLoader::zvDOMLoader() : m_result(0) {}
+zvDOMLoader::~zvDOMLoader() = default;
+
+bool zvDOMLoader::parse(const char* source, bool isFile) {
+    return guarded([&] {
+        if (isFile) {
+            return parseFile(source);
+        }
+        const std::size_t length = std::strlen(source);
+        m_pTree = std::make_unique<Tree>(fs::path(), length);
+        MemBufInputSource input(reinterpret_cast<const XMLByte*>(source), length, textSystemId);
+        return parseSource(input);
+    });
+}
+
+bool zvDOMLoader::parseText(const zvString& text) {
+    constexpr wchar16 byteOrderMark = 0xFEFF;
+    return guarded([&] {
+        const int start = text[0] == byteOrderMark ? 1 : 0;
+        const std::size_t bytes = static_cast<std::size_t>(text.size() - start) * sizeof(wchar16);
+        m_pTree = std::make_unique<Tree>(fs::path(), bytes);
+        MemBufInputSource input(reinterpret_cast<const XMLByte*>(text.data() + start), bytes, textSystemId);
+        input.setEncoding(XMLUni::fgXMLChEncodingString);
+        return parseSource(input);
+    });
+}
+
+bool zvDOMLoader::parseFile(const char* location) {
+    const File file = fileAt(location);
+    const zvString path(file.path.string().c_str());
+    if (path.empty()) {
+        logger.raise("XML document refused: \"", location, "\" is not a name in this locale");
+    }
+    m_pTree = std::make_unique<Tree>(file.folder, file.size);
+    LocalFileInputSource input(zvXMLChars(path).get());
+    return parseSource(input);
+}
+
+bool zvDOMLoader::parseSource(InputSource& source) {
+    m_result = m_pTree->parse(source);
+    return m_result.isOk() && m_pTree->document() != nullptr;
+}
+
+// Whatever escapes the XML library ends here, and so does a document that did not come out well.
+template <typename Parse>
+bool zvDOMLoader::guarded(Parse parse) {
+    m_pTree.reset();
+    m_result = zvResult(0);
+    try {
+        if (parse()) {
+            return true;
+        }
+    } catch (const zvException&) {
+        // Refused, and logged where it was refused.
+    } catch (const XMLException& exception) {
+        logger.error("Error during parsing: '", "Exception message is:  ", toString(exception.getMessage()));
+    } catch (const DOMException& exception) {
+        logger.error("DOM Error during parsing: '", "Message is: ", toString(exception.getMessage()));
+    } catch (const OutOfMemoryException&) {
+        logger.error("Unexpected exception during parsing: '",
+                     "no memory left, or more of it taken than a document of its size may take");
+    } catch (...) {
+        logger.error("Unexpected exception during parsing: '");
+    }
+    m_pTree.reset();
+    return false;
+}
+
+bool zvDOMLoader::createDocument(const zvString& rootName, const zvString& namespaceURI) {
+    constexpr const char* failure = "Unexpected exception during creating document: '";
+    m_pTree.reset();
+    try {
+        DOMImplementation* const implementation = DOMImplementationRegistry::getDOMImplementation(u"Core");
+        m_pTree = std::make_unique<Tree>(implementation->createDocument(zvXMLChars(namespaceURI).get(),
+                                                                        zvXMLChars(rootName).get(), nullptr));
+        return true;
+    } catch (const DOMException& exception) {
+        logger.error(failure, toString(exception.getMessage()));
+    } catch (const XMLException& exception) {
+        logger.error(failure, toString(exception.getMessage()));
+    } catch (...) {
+        logger.error(failure);
+    }
+    return false;
+}
+
+DOMDocument* zvDOMLoader::getDocument() const { return m_pTree == nullptr ? nullptr : m_pTree->document(); }
+
+void zvDOMLoader::releaseDocument() { m_pTree.reset(); }
+
+zvResult zvDOMLoader::getResult() const { return m_result; }

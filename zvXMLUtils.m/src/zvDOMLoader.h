@@ -1,0 +1,52 @@
+#ifndef ZV_DOM_LOADER_H
+#define ZV_DOM_LOADER_H
+
+#include <memory>
+#include <xercesc/util/XercesDefs.hpp>
+
+#include "zvCoreObject.h"
+#include "zvResult.h"
+#include "zvString.h"
+
+XERCES_CPP_NAMESPACE_BEGIN
+class DOMDocument;
+class InputSource;
+XERCES_CPP_NAMESPACE_END
+
+/// Loads or creates a document and owns it, until the next one or its own end. A failure leaves no document.
+///
+/// It needs the XML platform initialised for as long as it has a document.
+class ZV_EXPORT zvDOMLoader : public zvCoreObject {
+public:
+    zvDOMLoader();
+    zvDOMLoader(const zvDOMLoader&) = delete;
+    zvDOMLoader& operator=(const zvDOMLoader&) = delete;
+    ~zvDOMLoader() override;
+
+    /// Parses a file, given by its path or a "file:" URI, or a text, the bytes of which are in the encoding
+    /// that they declare (UTF-8 when they declare none). @return false when there is a warning or an error in
+    /// it, when it is refused, and when not even its beginning could be read; the log has the reason.
+    bool parse(const char* source, bool isFile);
+    /// Parses a text whose characters are what they are, whatever encoding it declares.
+    bool parseText(const zvString& text);
+    /// Makes a document with a root element only; false for names that are none.
+    bool createDocument(const zvString& rootName, const zvString& namespaceURI);
+    /// Null without a document.
+    xercesc::DOMDocument* getDocument() const;
+    void releaseDocument();
+    /// Code -1 and "XML PARSING ERROR" when the last parse found warnings or errors, code 0 otherwise.
+    zvResult getResult() const;
+
+private:
+    class Tree;
+
+    template <typename Parse>
+    bool guarded(Parse parse);
+    bool parseFile(const char* location);
+    bool parseSource(xercesc::InputSource& source);
+
+    zvResult m_result;
+    std::unique_ptr<Tree> m_pTree;
+};
+
+#endif

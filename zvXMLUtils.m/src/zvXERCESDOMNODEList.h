@@ -1,0 +1,37 @@
+#ifndef ZV_XERCES_DOM_NODE_LIST_H
+#define ZV_XERCES_DOM_NODE_LIST_H
+
+#include <vector>
+#include <xercesc/util/XercesDefs.hpp>
+
+#include "zvCoreObject.h"
+
+XERCES_CPP_NAMESPACE_BEGIN
+class DOMNode;
+XERCES_CPP_NAMESPACE_END
+
+/// Nodes in the order of their addition. The nodes stay owned by their document, and are valid as long as it.
+class ZV_EXPORT zvXERCESDOMNODEList : public zvCoreObject {
+public:
+    zvXERCESDOMNODEList();
+    zvXERCESDOMNODEList(const zvXERCESDOMNODEList& other);
+    zvXERCESDOMNODEList& operator=(const zvXERCESDOMNODEList& other);
+    ~zvXERCESDOMNODEList() override;
+
+    /// Always true.
+    bool addDOMNode(xercesc::DOMNode* node);
+    int numDOMNode() const;
+    /// Node `i`; null for any other index.
+    xercesc::DOMNode* getDOMNode(int i) const;
+    bool empty() const;
+    /// The last node; null for an empty list.
+    xercesc::DOMNode* back() const;
+    /// Removes the last node, if any.
+    void pop();
+    void clear();
+
+private:
+    std::vector<xercesc::DOMNode*> m_nodes;
+};
+
+#endif

@@ -1,0 +1,110 @@
+#ifndef ZV_XML_ELEMENT_H
+#define ZV_XML_ELEMENT_H
+
+#include <string_view>
+#include <xercesc/dom/DOMAttr.hpp>
+#include <xercesc/dom/DOMElement.hpp>
+#include <xercesc/dom/DOMNamedNodeMap.hpp>
+
+#include "zvXMLText.h"
+#include "zvXMLWalk.h"
+
+/// An element for the readers of large documents: names and values are looked at where the document has them,
+/// and what a reader keeps is copied once.
+class zvXMLElement {
+public:
+    using View = std::u16string_view;
+    class Children;
+
+    /// The element must live longer.
+    explicit zvXMLElement(const xercesc::DOMElement& element) : m_pElement(&element) {}
+
+    View name() const { return m_pElement->getNodeName(); }
+
+    /// The children that are elements, for a range-based loop: all of them, or those of that name.
+    Children children() const;
+    Children children(View name) const;
+
+    /// Calls `visit(name, value)`, two Views, for every attribute in the order of the names.
+    template <typename Visit>
+    void forEachAttribute(Visit visit) const {
+        const xercesc::DOMNamedNodeMap* const attributes = m_pElement->getAttributes();
+        const XMLSize_t count = attributes->getLength();
+        for (XMLSize_t i = 0; i < count; ++i) {
+            const xercesc::DOMNode* const attribute = attributes->item(i);
+            visit(View(attribute->getNodeName()), valueOf(*attribute));
+        }
+    }
+    /// Empty for an absent attribute as for an empty value.
+    zvString attribute(const XMLCh* name) const {
+        return zvXMLText::toString(m_pElement->getAttribute(name));
+    }
+
+    /// The first text among the children; empty without one.
+    zvString text() const {
+        const xercesc::DOMNode* const text =
+            zvXMLWalk::firstOf(xercesc::DOMNode::TEXT_NODE, m_pElement->getFirstChild());
+        return text == nullptr ? zvString() : zvXMLText::toString(text->getNodeValue());
+    }
+
+private:
+    // A value is one text nearly always. The text has it at hand, while the attribute looks up the types of
+    // its children every time, which takes as long as all the rest of reading it.
+    static View valueOf(const xercesc::DOMNode& attribute) {
+        const xercesc::DOMNode* const text = attribute.getFirstChild();
+        return text != nullptr && text->getNodeType() == xercesc::DOMNode::TEXT_NODE &&
+                       text->getNextSibling() == nullptr
+                   ? text->getNodeValue()
+                   : attribute.getNodeValue();
+    }
+
+    const xercesc::DOMElement* m_pElement;
+};
+
+class zvXMLElement::Children {
+public:
+    class Iterator {
+    public:
+        Iterator(const xercesc::DOMNode* node, View name) : m_pNode(node), m_name(name) { skipOthers(); }
+
+        zvXMLElement operator*() const {
+            return zvXMLElement(static_cast<const xercesc::DOMElement&>(*m_pNode));
+        }
+        Iterator& operator++() {
+            m_pNode = m_pNode->getNextSibling();
+            skipOthers();
+            return *this;
+        }
+        bool operator!=(const Iterator& other) const { return m_pNode != other.m_pNode; }
+
+    private:
+        void skipOthers() {
+            while (m_pNode != nullptr && !isWanted()) {
+                m_pNode = m_pNode->getNextSibling();
+            }
+        }
+        bool isWanted() const {
+            return m_pNode->getNodeType() == xercesc::DOMNode::ELEMENT_NODE &&
+                   (m_name.empty() || m_name == m_pNode->getNodeName());
+        }
+
+        const xercesc::DOMNode* m_pNode;
+        View m_name;
+    };
+
+    /// An empty name is every name.
+    Children(const xercesc::DOMElement& parent, View name) : m_pFirst(parent.getFirstChild()), m_name(name) {}
+
+    Iterator begin() const { return {m_pFirst, m_name}; }
+    Iterator end() const { return {nullptr, m_name}; }
+
+private:
+    const xercesc::DOMNode* m_pFirst;
+    View m_name;
+};
+
+inline zvXMLElement::Children zvXMLElement::children() const { return children({}); }
+
+inline zvXMLElement::Children zvXMLElement::children(View name) const { return {*m_pElement, name}; }
+
+#endif

@@ -1,0 +1,225 @@
+#include "zvXMLGuardedParser.h"
+
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <string_view>
+#include <system_error>
+#include <utility>
+#include <vector>
+#include <xercesc/framework/LocalFileInputSource.hpp>
+#include <xercesc/framework/Wrapper4InputSource.hpp>
+#include <xercesc/framework/XMLErrorCodes.hpp>
+#include <xercesc/internal/XMLScanner.hpp>
+#include <xercesc/util/QName.hpp>
+#include <xercesc/util/XMLResourceIdentifier.hpp>
+#include <xercesc/util/XMLUni.hpp>
+#include <xercesc/validators/DTD/DTDAttDefList.hpp>
+#include <xercesc/validators/DTD/DTDElementDecl.hpp>
+#include <xercesc/validators/DTD/DTDEntityDecl.hpp>
+#include <xercesc/validators/common/ContentSpecNode.hpp>
+
+#include "zvCharString.h"
+#include "zvLogSource.h"
+#include "zvXMLLocation.h"
+#include "zvXMLMemory.h"
+#include "zvXMLText.h"
+
+namespace fs = std::filesystem;
+
+using xercesc::ContentSpecNode;
+using xercesc::DOMDocument;
+using xercesc::DTDAttDef;
+using xercesc::DTDElementDecl;
+using xercesc::DTDEntityDecl;
+using xercesc::InputSource;
+using xercesc::LocalFileInputSource;
+using xercesc::RefVectorOf;
+using xercesc::Wrapper4InputSource;
+using xercesc::XMLAttr;
+using xercesc::XMLElementDecl;
+using xercesc::XMLErrs;
+using xercesc::XMLResourceIdentifier;
+using xercesc::XMLString;
+using xercesc::XMLUni;
+
+namespace {
+
+constexpr zvLogSource logger("zvXMLUtils.m/src/zvXMLGuardedParser");
+
+// Each limit is far beyond what documents have, and holds the time of a parse in proportion to its source.
+constexpr XMLSize_t mostEntities = 10'000;
+constexpr XMLSize_t mostEntityExpansions = 10'000;
+constexpr XMLSize_t mostExpandedText = 32'000'000;          // characters
+constexpr XMLSize_t longestEntity = 16'384;                 // characters
+constexpr std::uintmax_t mostReadAgain = 64'000'000;        // bytes of external entities
+constexpr std::uintmax_t costOfReading = 1024;              // bytes, for a file however short
+constexpr XMLSize_t mostAttributes = 10'000;                // of an element
+constexpr std::size_t largestContentModel = 2'048;          // names and operators: compiled by recursion
+constexpr std::size_t mostContentStates = 4'096;            // of a content model
+constexpr std::size_t mostContentTransitions = 10'000'000;  // of all content models
+
+struct ContentModel {
+    std::size_t nodes = 0;
+    std::size_t names = 0;
+    std::size_t states = 0;  // at most
+};
+
+// A content model is compiled into states: at most one for each set of places in it that have the same name,
+// which is exponential in a model that is ambiguous. The measurement ends where a model has become too large.
+ContentModel measured(const ContentSpecNode& model) {
+    ContentModel size;
+    std::map<std::u16string_view, int> places;
+    std::vector<const ContentSpecNode*> open{&model};
+    while (!open.empty() && size.nodes <= largestContentModel && size.states <= mostContentStates) {
+        const ContentSpecNode* const node = open.back();
+        open.pop_back();
+        ++size.nodes;
+        if (node->getType() == ContentSpecNode::Leaf) {
+            ++size.names;
+            size.states += std::size_t{1} << places[node->getElement()->getRawName()]++;
+        }
+        for (const ContentSpecNode* child : {node->getFirst(), node->getSecond()}) {
+            if (child != nullptr) {
+                open.push_back(child);
+            }
+        }
+    }
+    return size;
+}
+
+}  // namespace
+
+zvXMLGuardedParser::zvXMLGuardedParser(zvXMLMemory& memory, fs::path folder)
+    : DOMLSParserImpl(nullptr, &memory, nullptr),
+      m_memory(memory),
+      m_folder(std::move(folder)),
+      m_bytesReadAgain(0),
+      m_entities(0),
+      m_longestEntity(0),
+      m_contentTransitions(0) {
+    setParameter(XMLUni::fgDOMNamespaces, false);
+    setParameter(XMLUni::fgXercesSchema, false);
+    setParameter(XMLUni::fgXercesSchemaFullChecking, false);
+    setParameter(XMLUni::fgXercesContinueAfterFatalError, true);
+    setParameter(XMLUni::fgDOMValidateIfSchema, true);
+    setParameter(XMLUni::fgDOMDatatypeNormalization, true);
+    // Entities become part of the text and the tree around them: nodes of their own would cut a text into
+    // pieces, of which a query reads the first.
+    setParameter(XMLUni::fgDOMEntities, false);
+    getScanner()->setEntityHandler(this);
+}
+
+zvXMLGuardedParser::~zvXMLGuardedParser() = default;
+
+DOMDocument* zvXMLGuardedParser::parseSource(InputSource& source) {
+    const Wrapper4InputSource input(&source, false, &m_memory);
+    DOMDocument* const document = DOMLSParserImpl::parse(&input);
+    if (document != nullptr) {
+        document->setStrictErrorChecking(true);  // still off when the end was not reached
+    }
+    return document;
+}
+
+InputSource* zvXMLGuardedParser::resolveEntity(XMLResourceIdentifier* entity) {
+    const zvString name = zvXMLText::toString(entity->getSystemId());
+    if (m_folder.empty()) {
+        logger.raise("XML document refused: it is not in a file and yet has the external entity \"", name,
+                     "\"");
+    }
+    const std::optional<fs::path> local = zvXMLLocation::localPath(zvCharString(name).data());
+    if (!local || local->empty() || (local->has_root_name() && local->root_name() != m_folder.root_name())) {
+        logger.raise("XML document refused: its external entity \"", name,
+                     "\" is not a file on this machine");
+    }
+    const fs::path base(zvCharString(zvXMLText::toString(entity->getBaseURI())).data());
+    const fs::path path = (base.empty() ? m_folder : base.parent_path()) / *local;
+    std::error_code error;
+    fs::path file = fs::canonical(path, error);
+    if (error) {
+        file = fs::canonical(zvXMLLocation::percentDecoded(path), error);
+    }
+    if (error || !fs::is_regular_file(file, error)) {
+        logger.raise("XML document refused: its external entity \"", name,
+                     "\" is not a file that can be read");
+    }
+    if (!zvXMLLocation::isWithin(m_folder, file)) {
+        logger.raise("XML document refused: its external entity \"", name,
+                     "\" is outside the document's folder");
+    }
+    allowReading(file, name);
+    const zvXMLChars systemId(zvString(file.string().c_str()));
+    return new (&m_memory) LocalFileInputSource(systemId.get(), &m_memory);
+}
+
+// A file's first reading is paid for by its size; all others share one allowance.
+void zvXMLGuardedParser::allowReading(const fs::path& file, const zvString& name) {
+    std::error_code error;
+    const std::uintmax_t size = fs::file_size(file, error);
+    if (!error && m_filesRead.insert(file).second) {
+        m_memory.allowFor(size);
+        return;
+    }
+    m_bytesReadAgain += error ? costOfReading : size + costOfReading;
+    if (m_bytesReadAgain > mostReadAgain) {
+        logger.raise("XML document refused: it reads its external entity \"", name, "\" too often");
+    }
+}
+
+void zvXMLGuardedParser::error(const unsigned int code, const XMLCh* const domain,
+                               const XMLErrorReporter::ErrTypes type, const XMLCh* const text,
+                               const XMLCh* const systemId, const XMLCh* const publicId,
+                               const XMLFileLoc line, const XMLFileLoc column) {
+    // As ordinary fatal errors they would leave a document with its end missing.
+    const bool isEntities = code == XMLErrs::EntityExpansionLimitExceeded || code == XMLErrs::RecursiveEntity;
+    if (isEntities && XMLString::equals(domain, XMLUni::fgXMLErrDomain)) {
+        logger.raise("XML document refused: ", zvXMLText::toString(text));
+    }
+    DOMLSParserImpl::error(code, domain, type, text, systemId, publicId, line, column);
+}
+
+void zvXMLGuardedParser::startElement(const XMLElementDecl& declaration, const unsigned int uriId,
+                                      const XMLCh* const prefix, const RefVectorOf<XMLAttr>& attributes,
+                                      const XMLSize_t attributeCount, const bool isEmpty, const bool isRoot) {
+    if (attributeCount > mostAttributes) {
+        logger.raise("XML document refused: too many attributes for element '",
+                     zvXMLText::toString(declaration.getFullName()), "'");
+    }
+    DOMLSParserImpl::startElement(declaration, uriId, prefix, attributes, attributeCount, isEmpty, isRoot);
+}
+
+void zvXMLGuardedParser::elementDecl(const DTDElementDecl& declaration, const bool isIgnored) {
+    if (const ContentSpecNode* const model = declaration.getContentSpec()) {
+        const ContentModel size = measured(*model);
+        m_contentTransitions +=
+            declaration.getModelType() == DTDElementDecl::Children ? size.names * size.states : 0;
+        if (size.nodes > largestContentModel || size.states > mostContentStates ||
+            m_contentTransitions > mostContentTransitions) {
+            logger.raise("XML document refused: too large or too ambiguous a content model for element '",
+                         zvXMLText::toString(declaration.getFullName()), "'");
+        }
+    }
+    DOMLSParserImpl::elementDecl(declaration, isIgnored);
+}
+
+void zvXMLGuardedParser::attDef(const DTDElementDecl& element, const DTDAttDef& declaration,
+                                const bool isIgnored) {
+    if (element.getAttDefList().getAttDefCount() > mostAttributes) {
+        logger.raise("XML document refused: too many attributes declared for element '",
+                     zvXMLText::toString(element.getFullName()), "'");
+    }
+    DOMLSParserImpl::attDef(element, declaration, isIgnored);
+}
+
+void zvXMLGuardedParser::entityDecl(const DTDEntityDecl& declaration, const bool isParameterEntity,
+                                    const bool isIgnored) {
+    m_longestEntity = std::max(m_longestEntity, declaration.getValueLen());
+    if (++m_entities > mostEntities || m_longestEntity > longestEntity) {
+        logger.raise("XML document refused: too many entities, or too long a one: '",
+                     zvXMLText::toString(declaration.getName()), "'");
+    }
+    m_security.setEntityExpansionLimit(
+        std::min(mostEntityExpansions, mostExpandedText / std::max<XMLSize_t>(m_longestEntity, 1)));
+    getScanner()->setSecurityManager(&m_security);
+    DOMLSParserImpl::entityDecl(declaration, isParameterEntity, isIgnored);
+}

@@ -1,0 +1,380 @@
+#include "zvXMLParser.h"
+
+#include <xercesc/dom/DOM.hpp>
+#include <xercesc/framework/MemBufFormatTarget.hpp>
+#include <xercesc/util/PlatformUtils.hpp>
+#include <xercesc/util/XMLException.hpp>
+
+#include "zvDOMLoader.h"
+#include "zvDirFileUtils.h"
+#include "zvLogSource.h"
+#include "zvTextCodec.h"
+#include "zvXERCESDOMNODEList.h"
+#include "zvXMLText.h"
+#include "zvXMLWalk.h"
+#include "zvXMLWriter.h"
+
+using xercesc::DOMAttr;
+using xercesc::DOMDocument;
+using xercesc::DOMElement;
+using xercesc::DOMException;
+using xercesc::DOMNamedNodeMap;
+using xercesc::DOMNode;
+using xercesc::MemBufFormatTarget;
+using xercesc::XMLException;
+using xercesc::XMLPlatformUtils;
+using zvXMLText::toString;
+using zvXMLWalk::asElement;
+using zvXMLWalk::firstOf;
+
+namespace {
+
+constexpr zvLogSource logger("zvXMLUtils.m/src/zvXMLParser");
+
+constexpr int initialCapacity = 1023;  // bytes of a document that is written
+
+zvString orDefault(const zvString& encoding) { return encoding.empty() ? zvString("UTF-8") : encoding; }
+
+bool hasNarrowForm(const zvString& text) {
+    return !text.empty() && zvTextCodec::narrowLength(text.data(), static_cast<std::size_t>(text.size())) !=
+                                zvTextCodec::unconvertible;
+}
+
+// The first element of that name behind `node` among the descendants of `top`.
+DOMElement* nextNamed(DOMNode* node, const DOMElement* top, const zvXMLChars& name) {
+    while ((node = zvXMLWalk::next(node, top)) != nullptr) {
+        DOMElement* const element = asElement(node);
+        if (element != nullptr && name.equals(element->getNodeName())) {
+            return element;
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+zvXMLParser::zvXMLParser() : m_pCurrentNode(nullptr), m_pRootNode(nullptr) { init(); }
+
+zvXMLParser::zvXMLParser(const zvString& source, bool isFile) : zvXMLParser() {
+    static_cast<void>(loadXMLFromString(source, isFile));
+}
+
+zvXMLParser::~zvXMLParser() {
+    if (m_pLoader != nullptr) {
+        m_pLoader.reset();
+        XMLPlatformUtils::Terminate();
+    }
+}
+
+void zvXMLParser::init() {
+    m_pLoader = std::make_unique<zvDOMLoader>();
+    try {
+        XMLPlatformUtils::Initialize();
+    } catch (const XMLException& exception) {
+        logger.error("zvXMLParser initialization failed. Error message: ", toString(exception.getMessage()));
+        m_pLoader.reset();
+    }
+}
+
+bool zvXMLParser::loadXMLFromString(const zvString& source, bool isFile) {
+    if (!hasNarrowForm(source)) {
+        return false;
+    }
+    return isFile ? loadXMLFromString(source.getChars(), true)
+                  : load([&](zvDOMLoader& loader) { return loader.parseText(source); });
+}
+
+bool zvXMLParser::loadXMLFromString(const char* source, bool isFile) {
+    return source != nullptr && load([&](zvDOMLoader& loader) { return loader.parse(source, isFile); });
+}
+
+bool zvXMLParser::createXMLTree(const zvString& rootName, const zvString& namespaceURI) {
+    return load([&](zvDOMLoader& loader) { return loader.createDocument(rootName, namespaceURI); });
+}
+
+bool zvXMLParser::createXMLTree(const zvString& rootName) { return createXMLTree(rootName, zvString()); }
+
+// Replaces the document: the nodes of the one before go with it.
+template <typename Load>
+bool zvXMLParser::load(Load load) {
+    if (m_pLoader == nullptr) {
+        return false;
+    }
+    m_pCurrentNode = nullptr;
+    m_pRootNode = nullptr;
+    if (load(*m_pLoader) && validateDOMDocument()) {
+        return true;
+    }
+    m_pLoader->releaseDocument();
+    return false;
+}
+
+bool zvXMLParser::validateDOMDocument() {
+    m_pCurrentNode = getRootElement();
+    return m_pCurrentNode != nullptr;
+}
+
+DOMElement* zvXMLParser::getRootElement() const {
+    const DOMDocument* const document = m_pLoader == nullptr ? nullptr : m_pLoader->getDocument();
+    return document == nullptr ? nullptr : document->getDocumentElement();
+}
+
+DOMNode* zvXMLParser::getRootNode() const { return m_pRootNode; }
+
+DOMNode* zvXMLParser::getCurrentNode() const { return m_pCurrentNode; }
+
+bool zvXMLParser::changeCurrentNode(DOMNode* node) {
+    if (node == nullptr) {
+        return false;
+    }
+    m_pCurrentNode = node;
+    return true;
+}
+
+bool zvXMLParser::changeCurrentNode(DOMNode* node, zvString& tag) {
+    return changeCurrentNode(node) && getTag(tag);
+}
+
+bool zvXMLParser::getRoot(zvString& tag) {
+    if (m_pCurrentNode == nullptr) {
+        return false;
+    }
+    tag.clear();
+    DOMNode* root = nullptr;
+    for (DOMNode* node = m_pCurrentNode; node != nullptr; node = node->getParentNode()) {
+        if (asElement(node) != nullptr) {
+            root = node;
+        }
+    }
+    if (!changeCurrentNode(root, tag)) {
+        return false;
+    }
+    m_pRootNode = root;
+    return true;
+}
+
+bool zvXMLParser::getParent(zvString& tag) {
+    if (m_pCurrentNode == nullptr) {
+        return false;
+    }
+    tag.clear();
+    return changeCurrentNode(m_pCurrentNode->getParentNode(), tag);
+}
+
+bool zvXMLParser::getFirstChild(zvString& tag) {
+    if (m_pCurrentNode == nullptr) {
+        return false;
+    }
+    tag.clear();
+    return changeCurrentNode(firstOf(DOMNode::ELEMENT_NODE, m_pCurrentNode->getFirstChild()), tag);
+}
+
+bool zvXMLParser::getNextSibling(zvString& tag) {
+    tag.clear();
+    return m_pCurrentNode != nullptr &&
+           changeCurrentNode(firstOf(DOMNode::ELEMENT_NODE, m_pCurrentNode->getNextSibling()), tag);
+}
+
+bool zvXMLParser::getTag(zvString& tag) const {
+    if (m_pCurrentNode == nullptr) {
+        return false;
+    }
+    tag = toString(m_pCurrentNode->getNodeName());
+    return !tag.empty();
+}
+
+bool zvXMLParser::getMemberValue(zvString& value) const {
+    if (m_pCurrentNode == nullptr) {
+        return false;
+    }
+    value.clear();
+    const DOMNode* const text = getChildTextNode(m_pCurrentNode);
+    if (text == nullptr) {
+        return false;
+    }
+    value = toString(text->getNodeValue());
+    return true;
+}
+
+bool zvXMLParser::getAttribute(const zvString& name, zvString& value) const {
+    return getAttribute(m_pCurrentNode, name, value);
+}
+
+bool zvXMLParser::getAttribute(DOMNode* node, const zvString& name, zvString& value) const {
+    value.clear();
+    const DOMNamedNodeMap* const attributes = node == nullptr ? nullptr : node->getAttributes();
+    const DOMNode* const attribute =
+        attributes == nullptr ? nullptr : attributes->getNamedItem(zvXMLChars(name).get());
+    if (attribute == nullptr) {
+        return false;
+    }
+    value = toString(attribute->getNodeValue());
+    return true;
+}
+
+bool zvXMLParser::getAttributes(zvStringList& names, zvStringList& values) const {
+    return getAttributes(m_pCurrentNode, names, values);
+}
+
+bool zvXMLParser::getAttributes(DOMNode* node, zvStringList& names, zvStringList& values) const {
+    names.clear();
+    values.clear();
+    const DOMNamedNodeMap* const attributes = node == nullptr ? nullptr : node->getAttributes();
+    const XMLSize_t count = attributes == nullptr ? 0 : attributes->getLength();
+    for (XMLSize_t i = 0; i < count; ++i) {
+        const DOMNode* const attribute = attributes->item(i);
+        names.addString(toString(attribute->getNodeName()));
+        values.addString(toString(attribute->getNodeValue()));
+    }
+    return count > 0;
+}
+
+// Only elements are built upon, and a name that is none does not leave as the XML library's exception.
+template <typename Change>
+bool zvXMLParser::changeCurrentElement(Change change) {
+    DOMElement* const element = asElement(m_pCurrentNode);
+    if (m_pLoader == nullptr || element == nullptr) {
+        logger.error("The document cannot be changed: the current node is not an element");
+        return false;
+    }
+    try {
+        change(*element, *element->getOwnerDocument());
+        return true;
+    } catch (const DOMException& exception) {
+        logger.error("The document cannot be changed: ", toString(exception.getMessage()));
+    }
+    return false;
+}
+
+bool zvXMLParser::addStartTag(const zvString& name) {
+    return changeCurrentElement([&](DOMElement& element, DOMDocument& document) {
+        m_pCurrentNode = element.appendChild(document.createElement(zvXMLChars(name).get()));
+    });
+}
+
+bool zvXMLParser::addAttribute(const zvString& name, const zvString& value) {
+    return changeCurrentElement([&](DOMElement& element, DOMDocument&) {
+        element.setAttribute(zvXMLChars(name).get(), zvXMLChars(value).get());
+    });
+}
+
+bool zvXMLParser::addMemberValue(const zvString& text) {
+    return !text.empty() && changeCurrentElement([&](DOMElement& element, DOMDocument& document) {
+        element.appendChild(document.createTextNode(zvXMLChars(text).get()));
+    });
+}
+
+bool zvXMLParser::addEndTag() {
+    return m_pCurrentNode != nullptr && changeCurrentNode(m_pCurrentNode->getParentNode());
+}
+
+DOMElement* zvXMLParser::getChildElement(DOMElement* element, const zvString& name) const {
+    return element == nullptr || name.empty() ? nullptr : nextNamed(element, element, zvXMLChars(name));
+}
+
+DOMElement* zvXMLParser::getChildElement(DOMElement* element, const zvString& name, bool required) const {
+    DOMElement* const found = getChildElement(element, name);
+    if (required && element != nullptr && found == nullptr) {
+        logger.raise("Required child element '", name, "' not provided below element ",
+                     toString(element->getTagName()));
+    }
+    return found;
+}
+
+DOMNode* zvXMLParser::getChildTextNode(DOMNode* node) const {
+    return node == nullptr ? nullptr : firstOf(DOMNode::TEXT_NODE, node->getFirstChild());
+}
+
+zvString zvXMLParser::getChildTextTrim(DOMElement* element, const zvString& name) const {
+    const DOMNode* const node = getChildTextNode(getChildElement(element, name));
+    if (node == nullptr) {
+        return {};
+    }
+    zvString text = toString(node->getNodeValue());
+    text.trim();
+    return text;
+}
+
+zvString zvXMLParser::getChildText(DOMElement* element, const zvString& name, bool required) const {
+    zvString text = getChildTextTrim(element, name);
+    if (required && element != nullptr && text.empty()) {
+        logger.raise("Required child element '", name, "' not provided below element ",
+                     toString(element->getTagName()), " for Event");
+    }
+    return text;
+}
+
+zvString zvXMLParser::getAttributeValue(DOMElement* element, const zvString& name, bool required,
+                                        bool valueRequired) const {
+    if (element == nullptr) {
+        return {};
+    }
+    const DOMAttr* const attribute = element->getAttributeNode(zvXMLChars(name).get());
+    if (attribute == nullptr) {
+        if (required) {
+            logger.raise("Required attribute '", name, "' not provided for element '",
+                         toString(element->getTagName()), "'");
+        }
+        return {};
+    }
+    zvString value = toString(attribute->getValue());
+    if (valueRequired && value.empty()) {
+        logger.raise("Value of attribute '", name, "' not provided for element '",
+                     toString(element->getTagName()), "'");
+    }
+    return value;
+}
+
+zvXERCESDOMNODEList* zvXMLParser::getChildElementsByTagName(DOMElement* element, const zvString& name) const {
+    auto list = std::make_unique<zvXERCESDOMNODEList>();
+    if (element != nullptr) {
+        const zvXMLChars wanted(name);
+        for (DOMNode* node = element; (node = nextNamed(node, element, wanted)) != nullptr;) {
+            list->addDOMNode(node);
+        }
+    }
+    return list.release();
+}
+
+zvXERCESDOMNODEList* zvXMLParser::getChildNodes(DOMElement* element, const zvString& name) const {
+    auto list = std::make_unique<zvXERCESDOMNODEList>();
+    const zvXMLChars wanted(name);
+    for (DOMNode* node = element == nullptr ? nullptr : element->getFirstChild(); node != nullptr;
+         node = node->getNextSibling()) {
+        if (asElement(node) != nullptr && wanted.equals(node->getNodeName())) {
+            list->addDOMNode(node);
+        }
+    }
+    return list.release();
+}
+
+zvString zvXMLParser::getStringFromXMLCh(const unsigned short* text) { return {text}; }
+
+bool zvXMLParser::writeTreeToFile(const zvString& path, const zvString& encoding) {
+    const zvString folder = path.empty() ? zvString() : zvDirFileUtils::extractDirName(path);
+    if (!folder.empty() && !zvDirFileUtils::isAccessible(folder, 0)) {
+        logger.error("The data cannot be written to the given location \"", folder, "\"");
+        return false;
+    }
+    return writeTree(orDefault(encoding), [&](const MemBufFormatTarget& bytes) {
+        return path.empty() ? zvXMLWriter::toStandardOutput(bytes) : zvXMLWriter::toFile(bytes, path);
+    });
+}
+
+bool zvXMLParser::writeTreeToString(zvString& out, const zvString& encoding) {
+    out.clear();
+    const zvString name = orDefault(encoding);
+    return writeTree(name,
+                     [&](const MemBufFormatTarget& bytes) { return zvXMLWriter::toText(bytes, name, out); });
+}
+
+template <typename Put>
+bool zvXMLParser::writeTree(const zvString& encoding, Put put) {
+    DOMDocument* const document = m_pLoader == nullptr ? nullptr : m_pLoader->getDocument();
+    if (document == nullptr) {
+        logger.error("The document cannot be written: there is none");
+        return false;
+    }
+    MemBufFormatTarget bytes(initialCapacity);
+    return zvXMLWriter::write(*document, bytes, encoding) && put(bytes);
+}

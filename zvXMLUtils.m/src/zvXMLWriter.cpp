@@ -1,0 +1,133 @@
+#include "zvXMLWriter.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <system_error>
+#include <xercesc/dom/DOM.hpp>
+#include <xercesc/util/TransService.hpp>
+#include <xercesc/util/XMLException.hpp>
+#include <xercesc/util/XMLUni.hpp>
+
+#include "zvCharString.h"
+#include "zvLogSource.h"
+#include "zvPlatform.h"
+#include "zvXMLText.h"
+#include "zvXMLWalk.h"
+
+using xercesc::DOMDocument;
+using xercesc::DOMError;
+using xercesc::DOMErrorHandler;
+using xercesc::DOMException;
+using xercesc::DOMImplementationLS;
+using xercesc::DOMImplementationRegistry;
+using xercesc::DOMLSOutput;
+using xercesc::DOMLSSerializer;
+using xercesc::DOMNode;
+using xercesc::MemBufFormatTarget;
+using xercesc::TranscodeFromStr;
+using xercesc::XMLException;
+using xercesc::XMLFormatTarget;
+using xercesc::XMLUni;
+using zvXMLText::toString;
+
+namespace {
+
+constexpr zvLogSource logger("zvXMLUtils.m/src/zvXMLWriter");
+
+// The XML library's serialiser descends by recursion, less than 200 bytes of stack a level.
+constexpr int deepestLevel = 2'000;
+
+bool isTooDeep(DOMNode& top) {
+    int depth = 0;
+    for (DOMNode* node = &top; node != nullptr && depth <= deepestLevel;) {
+        node = zvXMLWalk::next(node, &top, depth);
+    }
+    return depth > deepestLevel;
+}
+
+class Complaints : public DOMErrorHandler {
+public:
+    bool handleError(const DOMError& error) override {
+        logger.error("The document cannot be written: ", toString(error.getMessage()));
+        return error.getSeverity() == DOMError::DOM_SEVERITY_WARNING;
+    }
+};
+
+struct Release {
+    template <typename Releasable>
+    void operator()(Releasable* object) const {
+        object->release();
+    }
+};
+
+bool serialise(DOMDocument& document, XMLFormatTarget& target, const XMLCh* encoding) {
+    DOMImplementationLS* const implementation = DOMImplementationRegistry::getDOMImplementation(u"LS");
+    const std::unique_ptr<DOMLSSerializer, Release> serializer(implementation->createLSSerializer());
+    const std::unique_ptr<DOMLSOutput, Release> output(implementation->createLSOutput());
+    Complaints complaints;
+    serializer->setNewLine(u"\n");
+    serializer->getDomConfig()->setParameter(XMLUni::fgDOMErrorHandler, &complaints);
+    output->setByteStream(&target);
+    output->setEncoding(encoding);
+    return serializer->write(&document, output.get());
+}
+
+struct CloseFile {
+    void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
+};
+
+bool refuse(const char* target) {
+    const zvString reason(std::generic_category().message(errno).c_str());
+    logger.error("The data cannot be written to ", target, ": ", reason);
+    return false;
+}
+
+bool put(const MemBufFormatTarget& bytes, std::FILE* file, const char* target) {
+    const std::size_t length = bytes.getLen();
+    return (std::fwrite(bytes.getRawBuffer(), 1, length, file) == length && std::fflush(file) == 0) ||
+           refuse(target);
+}
+
+}  // namespace
+
+bool zvXMLWriter::write(DOMDocument& document, XMLFormatTarget& target, const zvString& encoding) {
+    if (isTooDeep(document)) {
+        logger.error("The document cannot be written: its elements are nested in more than ", deepestLevel,
+                     " levels");
+        return false;
+    }
+    try {
+        return serialise(document, target, zvXMLChars(encoding).get());
+    } catch (const XMLException& exception) {
+        logger.error("The document cannot be written: ", toString(exception.getMessage()));
+    } catch (const DOMException& exception) {
+        logger.error("The document cannot be written: ", toString(exception.getMessage()));
+    }
+    return false;
+}
+
+bool zvXMLWriter::toFile(const MemBufFormatTarget& bytes, const zvString& path) {
+    const std::string name = zvPlatform::nativePath(zvCharString(path).data());
+    std::unique_ptr<std::FILE, CloseFile> file(std::fopen(name.c_str(), "wb"));
+    if (file == nullptr) {
+        return refuse(name.c_str());
+    }
+    return put(bytes, file.get(), name.c_str()) && (std::fclose(file.release()) == 0 || refuse(name.c_str()));
+}
+
+bool zvXMLWriter::toStandardOutput(const MemBufFormatTarget& bytes) {
+    return put(bytes, stdout, "standard output");
+}
+
+bool zvXMLWriter::toText(const MemBufFormatTarget& bytes, const zvString& encoding, zvString& text) {
+    try {
+        const TranscodeFromStr decoded(bytes.getRawBuffer(), bytes.getLen(), zvCharString(encoding).data());
+        text = toString(decoded.str());
+        return !text.empty();
+    } catch (const XMLException& exception) {
+        logger.error("The document cannot be written: ", toString(exception.getMessage()));
+    }
+    return false;
+}

@@ -1,0 +1,26 @@
+#ifndef ZV_XML_WRITER_H
+#define ZV_XML_WRITER_H
+
+#include "zvString.h"
+
+#include <xercesc/framework/MemBufFormatTarget.hpp>
+
+XERCES_CPP_NAMESPACE_BEGIN
+class DOMDocument;
+XERCES_CPP_NAMESPACE_END
+
+/// Writing a document: first into bytes, which are then put where they belong, so that a document that cannot
+/// be written does not cost a file its content. Each operation logs why it answers false.
+namespace zvXMLWriter {
+
+/// The document with its declaration, lines ended by a single line feed, in `encoding`. False for an encoding
+/// that is unknown or lacks a character of a name, and for a document that is too deep to be written.
+bool write(xercesc::DOMDocument& document, xercesc::XMLFormatTarget& target, const zvString& encoding);
+
+bool toFile(const xercesc::MemBufFormatTarget& bytes, const zvString& path);
+bool toStandardOutput(const xercesc::MemBufFormatTarget& bytes);
+bool toText(const xercesc::MemBufFormatTarget& bytes, const zvString& encoding, zvString& text);
+
+}  // namespace zvXMLWriter
+
+#endif

@@ -1,0 +1,254 @@
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <memory>
+#include <xercesc/dom/DOM.hpp>
+
+#include "zvRecordingLogger.h"
+#include "zvTestSupport.h"
+#include "zvXERCESDOMNODEList.h"
+#include "zvXMLParser.h"
+
+namespace {
+
+using Lines = std::vector<std::string>;
+using List = std::unique_ptr<zvXERCESDOMNODEList>;
+
+constexpr int many = 100'000;
+constexpr std::chrono::seconds bearable(
+    20);  // far more than is needed, also under a sanitizer on a busy machine
+
+std::string repeated(const std::string& text, int times) {
+    std::string all;
+    for (int i = 0; i < times; ++i) {
+        all += text;
+    }
+    return all;
+}
+
+std::string numbered(const std::string& before, const std::string& after, int times) {
+    std::string all;
+    for (int i = 0; i < times; ++i) {
+        all.append(before).append(std::to_string(i)).append(after);
+    }
+    return all;
+}
+
+// Entities of which each holds the one before it so many times over.
+std::string nested(const std::string& head, const std::string& innermost, const std::string& reference,
+                   int levels, int fold) {
+    std::string all = "<!ENTITY " + head + "e0 '" + innermost + "'>";
+    for (int i = 1; i <= levels; ++i) {
+        all += "<!ENTITY " + head + "e" + std::to_string(i) + " '" +
+               repeated(reference + "e" + std::to_string(i - 1) + ";", fold) + "'>";
+    }
+    return all;
+}
+
+std::string document(const std::string& declarations, const std::string& content) {
+    return "<!DOCTYPE r [<!ELEMENT r ANY><!ATTLIST r a CDATA #IMPLIED>" + declarations + "]>" + content;
+}
+
+class zvXMLHostileTest : public zvLoggedTest {
+protected:
+    // Loads and tells how the one error in the log begins or, for a document that loads, its text.
+    static std::string outcome(const std::string& source, bool isFile = false) {
+        zvRecordingLogger::reset();
+        zvXMLParser parser;
+        const auto start = std::chrono::steady_clock::now();
+        const bool loaded = parser.loadXMLFromString(source.c_str(), isFile);
+        EXPECT_LT(std::chrono::steady_clock::now() - start, bearable);
+        EXPECT_EQ(loaded, parser.getCurrentNode() != nullptr);
+        if (loaded) {
+            zvString text;
+            parser.getMemberValue(text);
+            return "loaded " + narrow(text);
+        }
+        const Lines errors = zvRecordingLogger::lines("error");
+        return errors.size() == 1 ? errors[0] : std::to_string(errors.size()) + " errors";
+    }
+};
+
+TEST_F(zvXMLHostileTest, refusesWhatExplodes) {
+    constexpr const char* tooMuch =
+        "Unexpected exception during parsing: 'no memory left, or more of it taken than a document of its "
+        "size may "
+        "take";
+    constexpr const char* tooMany = "XML document refused: parser has encountered more than '10000' entity ";
+    constexpr const char* tooComplex =
+        "XML document refused: too large or too ambiguous a content model for element 'w'";
+    const std::string longText(16'000, 'x');
+    const struct {
+        const char* what;
+        std::string source;
+        std::string expected;
+    } cases[] = {
+        {"entities in entities", document(nested("", "lol", "&", 12, 10), "<r>&e12;</r>"), tooMany},
+        {"the same in an attribute", document(nested("", "lol", "&", 12, 10), "<r a='&e12;'/>"), tooMany},
+        {"empty entities", document("<!ENTITY e ''>", "<r>" + repeated("&e;", 11'000) + "</r>"), tooMany},
+        {"entities in a default",
+         document(nested("", "lol", "&", 12, 10) + "<!ATTLIST r b CDATA '&e12;'>", "<r/>"), tooMuch},
+        {"one long entity",
+         document("<!ENTITY e '" + longText + "'>", "<r>" + repeated("&e;", 9'000) + "</r>"), tooMuch},
+        {"the same in an attribute",
+         document("<!ENTITY e '" + longText + "'>", "<r a='" + repeated("&e;", 9'000) + "'/>"), tooMuch},
+        {"parameter entities", document(nested("% ", " ", "&#37;", 40, 2) + "%e40;", "<r/>"), tooMuch},
+        {"a very long entity", document("<!ENTITY e '" + repeated(longText, 2) + "'>", "<r/>"),
+         "XML document refused: too many entities, or too long a one: 'e'"},
+        {"an endless entity", document("<!ENTITY e '&e;'>", "<r>&e;</r>"),
+         "XML document refused: recursive entity expansion"},
+        {"a wide content model", document("<!ELEMENT w (" + repeated("a,", many) + "a)>", "<r><w/></r>"),
+         tooComplex},
+        {"an ambiguous content model",
+         document("<!ELEMENT a EMPTY><!ELEMENT w ((a|r)*,a" + repeated(",(a|r)", 24) + ")>",
+                  "<r><w><a/></w></r>"),
+         tooComplex},
+        {"attributes", "<r" + numbered(" a", "=''", many) + "/>",
+         "XML document refused: too many attributes for element 'r'"},
+        {"declared attributes", document("<!ATTLIST r" + numbered(" b", " CDATA ''", many) + ">", "<r/>"),
+         "XML document refused: too many attributes declared for element 'r'"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        EXPECT_EQ(c.expected, outcome(c.source).substr(0, c.expected.size()));
+    }
+}
+
+TEST_F(zvXMLHostileTest, errorsWithoutEndAreCutOff) {
+    const std::string huge(200'000, 't');
+    EXPECT_NE("loaded ",
+              outcome(document("", "<r>" + huge + "<x" + numbered(" a", "=''", 5'000) + "/></r>")));
+    EXPECT_LT(zvRecordingLogger::lines("error").size(), 20U);
+}
+
+TEST_F(zvXMLHostileTest, readsEntitiesFromItsFolderOnly) {
+    m_folder.write("outside.txt", "secret");
+    m_folder.write("docs/part.txt", "part");
+    m_folder.write("docs/sub/more parts.ent", "<?xml encoding='ISO-8859-1'?>\xE4&up;");
+    m_folder.write("docs/sub/rules.dtd", "<!ELEMENT r ANY><!ENTITY up SYSTEM '../part.txt'>");
+    std::filesystem::create_symlink(m_folder.path() / "outside.txt", m_folder.path() / "docs/link.txt");
+    std::filesystem::create_symlink("part.txt", m_folder.path() / "docs/inside.txt");
+    std::filesystem::create_directory_symlink(m_folder.path(), m_folder.path() / "docs/folder");
+    const std::string folder = m_folder.path().string();
+    constexpr const char* outside = "outside the document's folder";
+    constexpr const char* noFile = "not a file on this machine";
+    constexpr const char* unreadable = "not a file that can be read";
+    const struct {
+        std::string systemId;
+        const char* refusal;  // null: it is read
+    } cases[] = {
+        {"part.txt", nullptr},
+        {"./sub/../part.txt", nullptr},
+        {"inside.txt", nullptr},
+        {"file:" + folder + "/docs/part.txt", nullptr},
+        {"../outside.txt", outside},
+        {"sub/../../outside.txt", outside},
+        {"link.txt", outside},
+        {"folder/outside.txt", outside},
+        {folder + "/outside.txt", outside},
+        {"file://" + folder + "/docs/%2e%2e/outside.txt", outside},
+        {"..%2Foutside.txt", outside},
+        {"/etc/passwd", outside},
+        {"http://127.0.0.1:9/part.txt", noFile},
+        {"HTTPS://127.0.0.1:9/part.txt", noFile},
+        {"ftp://127.0.0.1:9/part.txt", noFile},
+        {"file://127.0.0.1" + folder + "/docs/part.txt", noFile},
+        {"missing.txt", unreadable},
+        {"sub", unreadable},
+        {"/dev/zero", unreadable},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.systemId);
+        const std::string entity = "<!ENTITY e SYSTEM \"" + c.systemId + "\">";
+        const std::string inFile = m_folder.write("docs/doc.xml", document(entity, "<r>a &e; z</r>"));
+        EXPECT_EQ(c.refusal == nullptr
+                      ? "loaded a part z"
+                      : "XML document refused: its external entity \"" + c.systemId + "\" is " + c.refusal,
+                  outcome(inFile, true));
+        EXPECT_EQ("XML document refused: it is not in a file and yet has the external entity \"" +
+                      c.systemId + "\"",
+                  outcome(document(entity, "<r>&e;</r>")));
+        // An entity that nobody refers to is not read.
+        EXPECT_EQ("loaded ", outcome(document(entity, "<r/>")));
+    }
+}
+
+TEST_F(zvXMLHostileTest, readsTypeDefinitionsFromItsFolderOnly) {
+    m_folder.write("outside.dtd", "<!ELEMENT r ANY>");
+    m_folder.write("docs/part.txt", "part");
+    m_folder.write("docs/sub/latin 1.ent", "<?xml encoding='ISO-8859-1'?>\xE4 &up;");
+    m_folder.write("docs/sub/rules.dtd",
+                   "<!ELEMENT r ANY><!ENTITY up SYSTEM '../part.txt'><!ENTITY e SYSTEM 'latin%201.ent'>");
+    const std::string good = m_folder.write("docs/good.xml", "<!DOCTYPE r SYSTEM 'sub/rules.dtd'><r>&e;</r>");
+    EXPECT_EQ("loaded \xC3\xA4 part", outcome(good, true));
+    const std::string bad = m_folder.write("docs/bad.xml", "<!DOCTYPE r SYSTEM '../outside.dtd'><r/>");
+    EXPECT_EQ("XML document refused: its external entity \"../outside.dtd\" is outside the document's folder",
+              outcome(bad, true));
+    const std::string parameter =
+        m_folder.write("docs/pe.xml", document("<!ENTITY % p SYSTEM '../outside.dtd'> %p;", "<r/>"));
+    EXPECT_EQ("XML document refused: its external entity \"../outside.dtd\" is outside the document's folder",
+              outcome(parameter, true));
+    EXPECT_EQ("XML document refused: it is not in a file and yet has the external entity \"sub/rules.dtd\"",
+              outcome("<!DOCTYPE r SYSTEM 'sub/rules.dtd'><r/>"));
+}
+
+TEST_F(zvXMLHostileTest, readsAnEntityAgainOnlySoOften) {
+    m_folder.write("big.txt", std::string(1'000'000, ' '));
+    m_folder.write("doc.dtd", "<!ELEMENT r ANY><!ENTITY % p SYSTEM 'big.txt'>" + repeated("%p;", 1'000));
+    const std::string path = m_folder.write("doc.xml", "<!DOCTYPE r SYSTEM 'doc.dtd'><r/>");
+    EXPECT_EQ("XML document refused: it reads its external entity \"big.txt\" too often",
+              outcome(path, true));
+}
+
+TEST_F(zvXMLHostileTest, hundredThousandSiblingsTakeLinearTime) {
+    zvXMLParser parser(("<r>" + repeated("<a x='1'>t</a>", many) + "<z/></r>").c_str(), false);
+    const auto start = std::chrono::steady_clock::now();
+    zvString tag;
+    ASSERT_TRUE(parser.getFirstChild(tag));
+    int siblings = 1;
+    while (parser.getNextSibling(tag)) {
+        ++siblings;
+    }
+    EXPECT_EQ(many + 1, siblings);
+    EXPECT_EQ(many, List(parser.getChildNodes(parser.getRootElement(), "a"))->numDOMNode());
+    EXPECT_EQ(many, List(parser.getChildElementsByTagName(parser.getRootElement(), "a"))->numDOMNode());
+    EXPECT_NE(nullptr, parser.getChildElement(parser.getRootElement(), "z"));
+    zvString out;
+    EXPECT_TRUE(parser.writeTreeToString(out, "UTF-8"));
+    EXPECT_GT(out.size(), many * 10);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, bearable);
+}
+
+TEST_F(zvXMLHostileTest, hundredThousandLevelsNeedNoStack) {
+    zvXMLParser parser((repeated("<a>", many) + "<z/>" + repeated("</a>", many)).c_str(), false);
+    const auto start = std::chrono::steady_clock::now();
+    ASSERT_NE(nullptr, parser.getRootElement());
+    EXPECT_EQ(many - 1, List(parser.getChildElementsByTagName(parser.getRootElement(), "a"))->numDOMNode());
+    EXPECT_NE(nullptr, parser.getChildElement(parser.getRootElement(), "z"));
+    zvString tag;
+    int depth = 0;
+    while (parser.getFirstChild(tag)) {
+        ++depth;
+    }
+    EXPECT_EQ(many, depth);
+    EXPECT_TRUE(parser.getRoot(tag));
+    zvString out;
+    EXPECT_FALSE(parser.writeTreeToString(out, "UTF-8"));
+    EXPECT_EQ(Lines{"The document cannot be written: its elements are nested in more than 2000 levels"},
+              zvRecordingLogger::lines("error"));
+    EXPECT_LT(std::chrono::steady_clock::now() - start, bearable);
+}
+
+TEST_F(zvXMLHostileTest, buildsAndWritesDeepDocuments) {
+    for (const int levels : {1'999, 2'000, many}) {
+        zvXMLParser parser;
+        ASSERT_TRUE(parser.createXMLTree("a"));
+        for (int i = 1; i < levels; ++i) {
+            ASSERT_TRUE(parser.addStartTag("a"));
+        }
+        zvString out;
+        EXPECT_EQ(levels <= 2'000, parser.writeTreeToString(out, "UTF-8")) << levels;
+    }
+}
+
+}  // namespace
