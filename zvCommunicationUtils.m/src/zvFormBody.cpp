@@ -1,0 +1,69 @@
+#include "zvFormBody.h"
+
+#include <curl/curl.h>
+
+#include <algorithm>
+#include <memory>
+#include <new>
+
+#include "zvLogSource.h"
+#include "zvSecrets.h"
+#include "zvUtf8.h"
+
+namespace {
+
+struct FreeEscaped {
+    void operator()(char* text) const { curl_free(text); }
+};
+
+// In pieces, since libcurl refuses a long text; a text without bytes has none, which libcurl would take for a
+// text of unknown length.
+void appendEscaped(std::string& body, const zvString& text) {
+    constexpr std::size_t longestPiece = 1'000'000;
+    const std::string bytes = zvUtf8::encode(text);
+    for (std::size_t from = 0; from < bytes.size(); from += longestPiece) {
+        const std::size_t length = std::min(longestPiece, bytes.size() - from);
+        const std::unique_ptr<char, FreeEscaped> escaped(
+            curl_easy_escape(nullptr, bytes.data() + from, static_cast<int>(length)));
+        if (escaped == nullptr) {
+            throw std::bad_alloc();
+        }
+        body += escaped.get();
+    }
+}
+
+}  // namespace
+
+zvFormBody::zvFormBody(const zvEventArguments& args) {
+    const bool isShown = zvLogSink::isReady();
+    int left = args.numEventArguments();
+    args.forEach([&](const zvString& name, const zvString& value) {
+        const std::size_t begin = m_strSent.size();
+        appendEscaped(m_strSent, name);
+        const std::size_t separator = m_strSent.size();
+        m_strSent += '=';
+        appendEscaped(m_strSent, value);
+        if (--left > 0) {
+            m_strSent += '&';
+        }
+        if (isShown) {
+            showPair(name, value, begin, separator);
+        }
+    });
+}
+
+// `begin` and `separator` are the positions of the pair and of its "=" in what is sent. A name that mentions
+// a secret may hold it too, so that the argument is shown as the echo of the command line shows it.
+void zvFormBody::showPair(const zvString& name, const zvString& value, std::size_t begin,
+                          std::size_t separator) {
+    const char* const secret = zvSecrets::keyIn(name);
+    if (secret == nullptr && zvSecrets::keyIn(value) == nullptr) {
+        m_strShown.append(m_strSent, begin);
+        return;
+    }
+    m_strShown += secret != nullptr ? secret : m_strSent.substr(begin, separator - begin);
+    m_strShown.append("=").append(zvSecrets::mask);
+    if (m_strSent.back() == '&') {
+        m_strShown += '&';
+    }
+}

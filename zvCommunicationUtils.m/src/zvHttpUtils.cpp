@@ -1,0 +1,167 @@
+#include "zvHttpUtils.h"
+
+#include <curl/curl.h>
+
+#include "zvDirFileUtils.h"
+#include "zvGatewayHome.h"
+#include "zvLogSource.h"
+#include "zvProperties.h"
+#include "zvUtf8.h"
+
+namespace {
+
+constexpr zvLogSource logger("zvCommunicationUtils.m/src/zvHttpUtils");
+
+constexpr int existence = 0;
+constexpr int longestTimeout = 86400;
+constexpr long firstErrorStatus = 400;
+
+std::shared_ptr<void> initializeLibrary() {
+    const CURLcode code = curl_global_init(CURL_GLOBAL_ALL);
+    if (code != CURLE_OK) {
+        logger.error("Following error occurred while initializing the LIBCURL library : \"",
+                     static_cast<int>(code), "\" -", curl_easy_strerror(code));
+        return nullptr;
+    }
+    // libcurl's state has no address, only an end.
+    return {nullptr, [](void*) { curl_global_cleanup(); }};
+}
+
+std::size_t discard(char*, std::size_t size, std::size_t count, void*) { return size * count; }
+
+// One transfer of libcurl's easy interface. An option that is refused is the transfer's failure.
+class Transfer {
+public:
+    bool isOpen() const { return m_pHandle != nullptr; }
+
+    template <typename Value>
+    void set(CURLoption option, Value value) {
+        if (m_code == CURLE_OK) {
+            m_code = curl_easy_setopt(m_pHandle.get(), option, value);
+        }
+    }
+
+    CURLcode perform() { return m_code == CURLE_OK ? curl_easy_perform(m_pHandle.get()) : m_code; }
+
+    // The answer's status; 0 without an answer.
+    long status() const {
+        long status = 0;
+        curl_easy_getinfo(m_pHandle.get(), CURLINFO_RESPONSE_CODE, &status);
+        return status;
+    }
+
+private:
+    struct Cleanup {
+        void operator()(CURL* handle) const { curl_easy_cleanup(handle); }
+    };
+
+    std::unique_ptr<CURL, Cleanup> m_pHandle{curl_easy_init()};
+    CURLcode m_code = CURLE_OK;
+};
+
+void setSink(Transfer& transfer, WriteMemoryCallbackWrapper* sink) {
+    const bool isDiscarded = sink == nullptr || sink->m_pWriteFunction == nullptr;
+    transfer.set(CURLOPT_WRITEFUNCTION, isDiscarded ? &discard : sink->m_pWriteFunction);
+    transfer.set(CURLOPT_WRITEDATA, sink);
+}
+
+// Changes `seconds` when the properties hold a better number.
+void readSeconds(const zvProperties& properties, const char* key, long& seconds) {
+    zvString text = properties.getPropertyValue(key);
+    if (text.empty()) {
+        return;
+    }
+    text.trim();
+    const int number = zvString::convertUnicodeToInt(text);
+    if (number >= 1 && number <= longestTimeout && zvString(number) == text) {
+        seconds = number;
+    } else {
+        logger.warn("\"", text, "\" is no number of seconds from 1 to ", longestTimeout, ": \"", key,
+                    "\" of the file \"client-config.ini\" stays ", static_cast<int>(seconds));
+    }
+}
+
+zvResult outcome(CURLcode code, long status) {
+    zvResult result;
+    if (status > 0) {
+        result.setAdditionalInformation(zvString(status));
+    }
+    if (code == CURLE_OK && status < firstErrorStatus) {
+        result.setOk();
+        return result;
+    }
+    result.setMessage(code != CURLE_OK ? zvString(curl_easy_strerror(code))
+                                       : "HTTP status " + zvString(status));
+    logger.error("Following error occured while sending the request : ", result.getMessage());
+    return result;
+}
+
+}  // namespace
+
+zvHttpUtils::zvHttpUtils() : m_pLibrary(initializeLibrary()) { readTimeouts(); }
+
+// A home, a file or a key that is not there is nothing to speak of.
+void zvHttpUtils::readTimeouts() {
+    const zvString home = zvGatewayHome::readEnvironment(zvGatewayHome::getEnvVariable());
+    if (home.empty()) {
+        return;
+    }
+    const zvString path = zvGatewayHome::configFile(home, "client-config.ini");
+    zvProperties properties;
+    if (zvDirFileUtils::isAccessible(path, existence) && properties.parse(path).isOk()) {
+        readSeconds(properties, "http-connect-timeout", m_lConnectSeconds);
+        readSeconds(properties, "http-stall-timeout", m_lStallSeconds);
+    }
+}
+
+zvFormBody zvHttpUtils::computeHttpRequestArgs(const zvEventArguments& args) const {
+    logger.debug("Inside function zvHttpUtils::computeHttpRequestArgs(zvEventArguments)");
+    zvFormBody body(args);
+    logger.info("Args are : ", body.shown().c_str());
+    logger.debug("Exiting function zvHttpUtils::computeHttpRequestArgs(zvEventArguments)");
+    return body;
+}
+
+zvResult zvHttpUtils::request(const zvString& url, const zvEventArguments& args,
+                              WriteMemoryCallbackWrapper* sink) {
+    logger.debug(
+        "Inside function zvHttpUtils::request(zvString,zvEventArguments,WriteMemoryCallbackWrapper*)");
+    zvResult result = post(url, args, sink);
+    logger.debug(
+        "Exiting function zvHttpUtils::request(zvString,zvEventArguments,WriteMemoryCallbackWrapper*)");
+    return result;
+}
+
+zvResult zvHttpUtils::post(const zvString& url, const zvEventArguments& args,
+                           WriteMemoryCallbackWrapper* sink) const {
+    Transfer transfer;
+    if (!transfer.isOpen()) {
+        constexpr char noHandle[] = "Error in getting an handle to curl-easy interface.";
+        logger.error(noHandle);
+        zvResult result;
+        result.setMessage(noHandle);
+        return result;
+    }
+    transfer.set(CURLOPT_URL, zvUtf8::encode(url).c_str());
+    const zvFormBody body = computeHttpRequestArgs(args);
+    logger.info("Parameters to send : \"", body.shown().c_str(), "\"");
+    transfer.set(CURLOPT_POSTFIELDS, body.sent().c_str());
+    transfer.set(CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(body.sent().size()));
+    setSink(transfer, sink);
+    // Certificates are verified and redirections not followed unless libcurl is told otherwise.
+    transfer.set(CURLOPT_PROTOCOLS_STR, "http,https");
+    transfer.set(CURLOPT_CONNECTTIMEOUT, m_lConnectSeconds);
+    transfer.set(CURLOPT_LOW_SPEED_LIMIT, 1L);
+    transfer.set(CURLOPT_LOW_SPEED_TIME, m_lStallSeconds);
+    transfer.set(CURLOPT_NOSIGNAL, 1L);
+    const CURLcode code = transfer.perform();
+    return outcome(code, transfer.status());
+}
+
+void zvHttpUtils::queryResponse() {
+    logger.warn("Function zvHttpUtils::queryResponse() NOT YET IMPLEMENTED");
+}
+
+void zvHttpUtils::queryResponseHeader() {
+    logger.warn("Function zvHttpUtils::queryResponseHeader() NOT YET IMPLEMENTED");
+}

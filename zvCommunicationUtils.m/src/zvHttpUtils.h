@@ -1,0 +1,31 @@
+#ifndef ZV_HTTP_UTILS_H
+#define ZV_HTTP_UTILS_H
+
+#include <memory>
+
+#include "zvCommunicationUtils.h"
+#include "zvFormBody.h"
+
+/// Posts event arguments as a form, on libcurl. Only zvCommunicationFactory makes one.
+class zvHttpUtils : public zvCommunicationUtils {
+public:
+    zvResult request(const zvString& url, const zvEventArguments& args,
+                     WriteMemoryCallbackWrapper* sink) override;
+    void queryResponse() override;
+    void queryResponseHeader() override;
+
+private:
+    friend class zvCommunicationFactory;
+    zvHttpUtils();
+
+    void readTimeouts();
+    zvFormBody computeHttpRequestArgs(const zvEventArguments& args) const;
+    zvResult post(const zvString& url, const zvEventArguments& args, WriteMemoryCallbackWrapper* sink) const;
+
+    // Copies share it: libcurl, once initialised, is cleaned up behind the last of them.
+    std::shared_ptr<void> m_pLibrary;
+    long m_lConnectSeconds = 30;
+    long m_lStallSeconds = 60;
+};
+
+#endif

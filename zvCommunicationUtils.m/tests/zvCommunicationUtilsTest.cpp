@@ -1,0 +1,458 @@
+#include <curl/curl.h>
+#include <gtest/gtest.h>
+#include <httplib.h>
+#include <openssl/x509.h>
+
+#include <clocale>
+#include <cstdlib>
+#include <cstring>
+#include <functional>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "zvCommunicationFactory.h"
+#include "zvHttpUtils.h"
+#include "zvPlatform.h"
+#include "zvRecordingLogger.h"
+#include "zvTestSupport.h"
+
+namespace {
+
+using zvRecordingLogger::lines;
+
+// What this program's own curl_global_init, and the allocator that it gives libcurl, do.
+bool refusesInitialization = false;
+bool refusesMemory = false;
+int allocations = 0;
+
+void* allocateCleared(std::size_t count, std::size_t bytes) {
+    ++allocations;
+    return refusesMemory ? nullptr : std::calloc(count, bytes);
+}
+
+char* duplicate(const char* text) {
+    const std::size_t bytes = std::strlen(text) + 1;
+    void* const copy = std::malloc(bytes);
+    return copy == nullptr ? nullptr : static_cast<char*>(std::memcpy(copy, text, bytes));
+}
+
+CURLcode initializeLibcurl(curl_calloc_callback allocator) {
+    return curl_global_init_mem(CURL_GLOBAL_ALL, &std::malloc, &std::free, &std::realloc, &duplicate,
+                                allocator);
+}
+
+// Holds every connection, without a word, until the server is stopped.
+class HoldingQueue : public httplib::TaskQueue {
+public:
+    void enqueue(std::function<void()> connection) override { m_held.push_back(std::move(connection)); }
+    void shutdown() override {
+        for (const std::function<void()>& connection : m_held) {
+            connection();
+        }
+    }
+
+private:
+    std::vector<std::function<void()>> m_held;
+};
+
+// A server on a loopback port, in a thread of its own. POST to "/<status>" is answered with that status.
+class LoopbackServer {
+public:
+    explicit LoopbackServer(std::unique_ptr<httplib::Server> server = std::make_unique<httplib::Server>())
+        : m_pServer(std::move(server)), m_iPort(m_pServer->bind_to_any_port("127.0.0.1")) {
+        if (m_iPort < 0) {
+            throw std::runtime_error("no port on the loopback interface");
+        }
+        m_pServer->Post(R"(/(\d+))", [this](const httplib::Request& request, httplib::Response& response,
+                                            const httplib::ContentReader& read) {
+            ++m_iRequests;
+            m_strBody.clear();
+            read([this](const char* data, std::size_t size) {
+                m_strBody.append(data, size);
+                return true;
+            });
+            m_strContentType = request.get_header_value("Content-Type");
+            response.status = std::stoi(request.matches[1]);
+            response.set_header("Location", "/200");
+            m_answer(response);
+        });
+        m_thread = std::thread([this] { m_pServer->listen_after_bind(); });
+    }
+    LoopbackServer(const LoopbackServer&) = delete;
+    LoopbackServer& operator=(const LoopbackServer&) = delete;
+    ~LoopbackServer() {
+        while (!m_pServer->is_running()) {
+            std::this_thread::yield();
+        }
+        m_pServer->stop();
+        m_thread.join();
+    }
+
+    zvString url(const std::string& path = "/200", const std::string& scheme = "http") const {
+        return (scheme + "://127.0.0.1:" + std::to_string(m_iPort) + path).c_str();
+    }
+
+    std::function<void(httplib::Response&)> m_answer = [](httplib::Response&) {};
+    int m_iRequests = 0;
+    std::string m_strBody;
+    std::string m_strContentType;
+
+private:
+    std::unique_ptr<httplib::Server> m_pServer;
+    int m_iPort;
+    std::thread m_thread;
+};
+
+std::unique_ptr<httplib::Server> selfSignedServer() {
+    const std::unique_ptr<EVP_PKEY, decltype(&EVP_PKEY_free)> key(EVP_EC_gen("P-256"), &EVP_PKEY_free);
+    const std::unique_ptr<X509, decltype(&X509_free)> certificate(X509_new(), &X509_free);
+    X509_gmtime_adj(X509_getm_notBefore(certificate.get()), -3600);
+    X509_gmtime_adj(X509_getm_notAfter(certificate.get()), 3600);
+    X509_NAME_add_entry_by_txt(X509_get_subject_name(certificate.get()), "CN", MBSTRING_ASC,
+                               reinterpret_cast<const unsigned char*>("127.0.0.1"), -1, -1, 0);
+    X509_set_issuer_name(certificate.get(), X509_get_subject_name(certificate.get()));
+    X509_set_pubkey(certificate.get(), key.get());
+    X509_sign(certificate.get(), key.get(), EVP_sha256());
+    return std::make_unique<httplib::SSLServer>(certificate.get(), key.get());
+}
+
+// A sink that keeps what it gets, and takes no piece behind `limit` bytes.
+struct Collector : WriteMemoryCallbackWrapper {
+    explicit Collector(std::size_t bytes = std::string::npos) : limit(bytes) {
+        m_pUserData = this;
+        m_pWriteFunction = [](char* data, std::size_t size, std::size_t count, void* sink) {
+            auto* const self =
+                static_cast<Collector*>(static_cast<WriteMemoryCallbackWrapper*>(sink)->m_pUserData);
+            if (self->text.size() >= self->limit) {
+                return std::size_t{0};
+            }
+            self->text.append(data, size * count);
+            ++self->pieces;
+            return size * count;
+        };
+    }
+
+    std::size_t limit;
+    std::string text;
+    int pieces = 0;
+};
+
+class zvCommunicationUtilsTest : public zvLoggedTest {
+protected:
+    zvCommunicationUtilsTest() : m_args(zvEventMirror, "anna") {
+        zvPlatform::setEnvironment("no_proxy", "*");
+    }
+
+    static std::unique_ptr<zvCommunicationUtils> create() {
+        return std::unique_ptr<zvCommunicationUtils>(
+            zvCommunicationFactory::createCommunicationUtils(zvCommProtocoalHTTP));
+    }
+
+    // Result code, message and additional information of a request by a utility of its own.
+    std::string request(const zvString& url, WriteMemoryCallbackWrapper* sink = nullptr) const {
+        const zvResult result = create()->request(url, m_args, sink);
+        return std::to_string(result.getResult()) + "|" + narrow(result.getMessage()) + "|" +
+               narrow(result.getAdditionalInformation());
+    }
+
+    zvEventArguments m_args;
+};
+
+}  // namespace
+
+extern "C" CURLcode curl_global_init(long) {
+    return refusesInitialization ? CURLE_FAILED_INIT : initializeLibcurl(&allocateCleared);
+}
+
+namespace {
+
+TEST_F(zvCommunicationUtilsTest, AnswersAreReportedByTheirStatus) {
+    LoopbackServer server;
+    const struct {
+        const char* path;
+        const char* outcome;
+    } cases[] = {{"/200", "0||200"},
+                 {"/204", "0||204"},
+                 {"/302", "0||302"},
+                 {"/399", "0||399"},
+                 {"/400", "-1|HTTP status 400|400"},
+                 {"/404", "-1|HTTP status 404|404"},
+                 {"/500", "-1|HTTP status 500|500"}};
+    for (const auto& [path, outcome] : cases) {
+        EXPECT_EQ(request(server.url(path)), outcome);
+    }
+    EXPECT_EQ(server.m_iRequests, 7) << "a redirection was followed";
+    EXPECT_EQ(server.m_strContentType, "application/x-www-form-urlencoded");
+    EXPECT_EQ(lines("error"), (std::vector<std::string>{
+                                  "Following error occured while sending the request : HTTP status 400",
+                                  "Following error occured while sending the request : HTTP status 404",
+                                  "Following error occured while sending the request : HTTP status 500"}));
+}
+
+TEST_F(zvCommunicationUtilsTest, TheLogFollowsARequestStepByStep) {
+    const auto utils = create();
+    utils->request("", m_args, nullptr);
+    utils->queryResponse();
+    utils->queryResponseHeader();
+    EXPECT_EQ(zvCommunicationFactory::createCommunicationUtils(zvCommProtocoalNone), nullptr);
+
+    const std::string body = "EventName=mirror&EventTriggeredByUser=anna";
+    const std::string factory = "zvCommunicationFactory::createCommunicationUtils(zvCommProtocoalEnum)";
+    const std::string post = "zvHttpUtils::request(zvString,zvEventArguments,WriteMemoryCallbackWrapper*)";
+    const std::string compute = "zvHttpUtils::computeHttpRequestArgs(zvEventArguments)";
+    const std::string failure = "error: Following error occured while sending the request : ";
+    EXPECT_EQ(
+        lines(),
+        (std::vector<std::string>{
+            "debug: Inside function " + factory, "debug: Exiting function " + factory,
+            "debug: Inside function " + post, "debug: Inside function " + compute, "info: Args are : " + body,
+            "debug: Exiting function " + compute, "info: Parameters to send : \"" + body + "\"",
+            failure + "URL using bad/illegal format or missing URL", "debug: Exiting function " + post,
+            "warn: Function zvHttpUtils::queryResponse() NOT YET IMPLEMENTED",
+            "warn: Function zvHttpUtils::queryResponseHeader() NOT YET IMPLEMENTED",
+            "debug: Inside function " + factory, "error: Undefined Protocol.",
+            "debug: Exiting function " + factory}));
+    EXPECT_EQ(zvRecordingLogger::events()[0].file, "zvCommunicationUtils.m/src/zvCommunicationFactory");
+    EXPECT_EQ(zvRecordingLogger::events()[2].file, "zvCommunicationUtils.m/src/zvHttpUtils");
+}
+
+TEST_F(zvCommunicationUtilsTest, NamesAndValuesTravelAsEscapedUtf8InEveryLocale) {
+    const struct {
+        const char16_t* text;
+        const char* wire;
+    } cases[] = {
+        {u"", ""},
+        {u"Aa-Zz_0.9~", "Aa-Zz_0.9~"},
+        {u"&=+ %", "%26%3D%2B%20%25"},
+        {u"a\r\n\t\x01\x7f", "a%0D%0A%09%01%7F"},
+        {u"\u00e4\u07ff\u0800\uffff", "%C3%A4%DF%BF%E0%A0%80%EF%BF%BF"},
+        {u"\U00010000\U0001F600\U0010FFFF", "%F0%90%80%80%F0%9F%98%80%F4%8F%BF%BF"},
+        {u"\xd83d", "%EF%BF%BD"},
+        {u"\xde00\xd83dx", "%EF%BF%BD%EF%BF%BDx"},
+    };
+    std::string expected = "EventName=mirror&EventTriggeredByUser=anna";
+    int row = 0;
+    for (const auto& [text, wire] : cases) {
+        const std::string name = "k" + std::to_string(row++);
+        m_args.setEventArgument(zvString(name.c_str()) + text, text);
+        expected += "&" + name + wire + "=" + wire;
+    }
+    LoopbackServer server;
+    for (const char* const locale : {"C", "C.UTF-8"}) {
+        std::setlocale(LC_ALL, locale);
+        EXPECT_EQ(request(server.url() + zvString(u"?\u00e4")), "0||200") << locale;
+        EXPECT_EQ(server.m_strBody, expected) << locale;
+    }
+    zvPlatform::adoptUserLocale();
+}
+
+TEST_F(zvCommunicationUtilsTest, SecretsTravelButAreNotLogged) {
+    m_args.setEventArgument("KPDMPasswd", "s3cret 1");
+    m_args.setEventArgument("LoginPassword", "s3cret2");
+    m_args.setEventArgument("MyLoginPassword=s3cret3", "s3cret4");
+    m_args.setEventArgument("Note", "LoginPassword=s3cret5");
+    m_args.setEventArgument("Remark", "a b");
+    LoopbackServer server;
+    EXPECT_EQ(request(server.url()), "0||200");
+    const std::string head = "EventName=mirror&EventTriggeredByUser=anna&";
+    EXPECT_EQ(server.m_strBody,
+              head +
+                  "KPDMPasswd=s3cret%201&LoginPassword=s3cret2&MyLoginPassword%3Ds3cret3=s3cret4&"
+                  "Note=LoginPassword%3Ds3cret5&Remark=a%20b");
+    const std::string shown = head +
+                              "KPDMPasswd=********&LoginPassword=********&LoginPassword=********&"
+                              "Note=********&Remark=a%20b";
+    EXPECT_EQ(lines("info"),
+              (std::vector<std::string>{"Args are : " + shown, "Parameters to send : \"" + shown + "\""}));
+}
+
+TEST_F(zvCommunicationUtilsTest, NothingIsComposedForALogThatNobodyReads) {
+    zvRecordingLogger::onInitialize([](const std::string&) { return false; });
+    const zvFormBody body(m_args);
+    EXPECT_EQ(body.shown(), "");
+    EXPECT_EQ(body.sent(), "EventName=mirror&EventTriggeredByUser=anna");
+}
+
+TEST_F(zvCommunicationUtilsTest, ManyAndLongArgumentsArriveWhole) {
+    constexpr int count = 10000;
+    std::string expected = "EventName=mirror&EventTriggeredByUser=anna";
+    for (int i = 0; i < count; ++i) {
+        const std::string name = "N" + std::to_string(count + i);
+        m_args.setEventArgument(name.c_str(), "v");
+        expected += "&" + name + "=v";
+    }
+    // Longer, when it is escaped, than what libcurl escapes at once.
+    std::string longValue;
+    longValue.resize(8'100'000, '%');
+    m_args.setEventArgument("Z", longValue.c_str());
+    expected += "&Z=";
+    for (std::size_t i = 0; i < longValue.size(); ++i) {
+        expected += "%25";
+    }
+    zvRecordingLogger::onInitialize([](const std::string&) { return false; });
+    LoopbackServer server;
+    EXPECT_EQ(request(server.url()), "0||200");
+    EXPECT_TRUE(server.m_strBody == expected) << server.m_strBody.size() << " of " << expected.size();
+}
+
+TEST_F(zvCommunicationUtilsTest, TheSinkGetsTheResponseInPieces) {
+    constexpr std::size_t length = 10u << 20u;
+    LoopbackServer server;
+    server.m_answer = [](httplib::Response& response) {
+        response.set_content(std::string(length - 1, 'x') + "y", "text/plain");
+    };
+    Collector all;
+    EXPECT_EQ(request(server.url(), &all), "0||200");
+    EXPECT_TRUE(all.text == std::string(length - 1, 'x') + "y");
+    EXPECT_GT(all.pieces, 1);
+
+    Collector ofAnError;
+    request(server.url("/500"), &ofAnError);
+    EXPECT_EQ(ofAnError.text.size(), length);
+
+    Collector some(1);
+    EXPECT_EQ(request(server.url(), &some), "-1|Failed writing received data to disk/application|200");
+    EXPECT_EQ(some.pieces, 1);
+
+    server.m_answer = [](httplib::Response&) {};
+    Collector none;
+    EXPECT_EQ(request(server.url(), &none), "0||200");
+    EXPECT_EQ(none.pieces, 0);
+}
+
+TEST_F(zvCommunicationUtilsTest, WithoutASinkTheResponseIsDiscarded) {
+    LoopbackServer server;
+    server.m_answer = [](httplib::Response& response) { response.set_content("answer", "text/plain"); };
+    WriteMemoryCallbackWrapper withoutFunction;
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(request(server.url(), nullptr), "0||200");
+    EXPECT_EQ(request(server.url(), &withoutFunction), "0||200");
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+}
+
+TEST_F(zvCommunicationUtilsTest, UnusableUrlsAndAbsentServersAreRefused) {
+    m_folder.write("config/client-config.ini", "http-connect-timeout=3\n");
+    const zvString goneUrl = LoopbackServer().url();
+    const std::string malformed = "-1|URL using bad/illegal format or missing URL|";
+    const std::string unsupported = "-1|Unsupported protocol|";
+    const struct {
+        zvString url;
+        std::string outcome;
+    } cases[] = {{"", malformed},
+                 {"http://", malformed},
+                 {"http://127.0.0.1:99999/", malformed},
+                 {"http://bad host/", malformed},
+                 {("file://" + m_folder.file("config/client-config.ini")).c_str(), unsupported},
+                 {"ftp://127.0.0.1/", unsupported},
+                 {"nonsense://127.0.0.1/", unsupported},
+                 {goneUrl, "-1|Couldn't connect to server|"}};
+    for (const auto& [url, outcome] : cases) {
+        EXPECT_EQ(request(url), outcome) << narrow(url);
+    }
+    // Without a network nobody may tell in time that the name is unknown.
+    const std::string unknown = request("http://nobody.invalid/");
+    EXPECT_TRUE(unknown == "-1|Couldn't resolve host name|" || unknown == "-1|Timeout was reached|")
+        << unknown;
+}
+
+TEST_F(zvCommunicationUtilsTest, ACertificateThatNobodyVouchesForIsRefused) {
+    LoopbackServer server(selfSignedServer());
+    EXPECT_EQ(request(server.url("/200", "https")), "-1|SSL peer certificate or SSH remote key was not OK|");
+    EXPECT_EQ(server.m_iRequests, 0);
+}
+
+TEST_F(zvCommunicationUtilsTest, AServerThatHangsUpIsAFailure) {
+    LoopbackServer midway;
+    midway.m_answer = [](httplib::Response& response) {
+        response.set_content_provider(100, "text/plain",
+                                      [](std::size_t, std::size_t, httplib::DataSink& out) {
+                                          out.write("half", 4);
+                                          return false;
+                                      });
+    };
+    Collector half;
+    EXPECT_EQ(request(midway.url(), &half), "-1|Transferred a partial file|200");
+    EXPECT_EQ(half.text, "half");
+
+    // Which of the two sides notices first is up to the system, and with it libcurl's message.
+    auto server = std::make_unique<httplib::Server>();
+    server->set_keep_alive_max_count(0);
+    const zvResult result = create()->request(LoopbackServer(std::move(server)).url(), m_args, nullptr);
+    EXPECT_EQ(result.getResult(), -1);
+    EXPECT_FALSE(result.getMessage().empty());
+    EXPECT_TRUE(result.getAdditionalInformation().empty());
+}
+
+TEST_F(zvCommunicationUtilsTest, AServerThatNeverAnswersIsGivenUp) {
+    m_folder.write("config/client-config.ini", "http-stall-timeout=1\r\nhttp-connect-timeout=1\n");
+    auto holding = std::make_unique<httplib::Server>();
+    holding->new_task_queue = [] { return new HoldingQueue; };
+    LoopbackServer server(std::move(holding));
+    // An empty body: libcurl's average of the last seconds then starts at 0.
+    zvEventArguments* const none = zvEventArguments::parseEventArguments(zvString());
+    m_args = *none;
+    none->destroy();
+    EXPECT_EQ(request(server.url()), "-1|Timeout was reached|") << "no answer";
+    EXPECT_EQ(request(server.url("/200", "https")), "-1|Timeout was reached|") << "no handshake";
+    EXPECT_TRUE(lines("warn").empty());
+}
+
+TEST_F(zvCommunicationUtilsTest, NonsenseTimeoutsAreWarnedOfOncePerUtility) {
+    for (const char* const nonsense : {"0", "-1", "soon", "1e3", "30s", "86401", "99999999999", " "}) {
+        m_folder.write("config/client-config.ini",
+                       std::string("http-connect-timeout=") + nonsense + "\nhttp-stall-timeout=86400\n");
+        zvRecordingLogger::reset();
+        const auto utils = create();
+        utils->request("", m_args, nullptr);
+        ASSERT_EQ(lines("warn").size(), 1u) << nonsense;
+        EXPECT_NE(
+            lines("warn").front().find("\"http-connect-timeout\" of the file \"client-config.ini\" stays 30"),
+            std::string::npos)
+            << lines("warn").front();
+    }
+}
+
+TEST_F(zvCommunicationUtilsTest, LibcurlLivesAsLongAsTheLastUtilityOrCopy) {
+    // An allocator is adopted by a libcurl that is not in use only.
+    const auto isInUse = [] {
+        EXPECT_EQ(initializeLibcurl(&std::calloc), CURLE_OK);
+        allocations = 0;
+        curl_easy_cleanup(curl_easy_init());
+        curl_global_cleanup();
+        return allocations > 0;
+    };
+    ASSERT_FALSE(isInUse());
+    auto first = create();
+    {
+        zvHttpUtils copy(dynamic_cast<const zvHttpUtils&>(*first));
+        const auto second = create();
+        copy = dynamic_cast<const zvHttpUtils&>(*second);
+        first.reset();
+        EXPECT_TRUE(isInUse());
+    }
+    EXPECT_FALSE(isInUse());
+}
+
+TEST_F(zvCommunicationUtilsTest, ALibcurlThatCannotStartIsLogged) {
+    refusesInitialization = true;
+    auto utils = create();
+    refusesInitialization = false;
+    EXPECT_EQ(lines("error"),
+              (std::vector<std::string>{"Following error occurred while initializing the LIBCURL library : "
+                                        "\"2\" -Failed initialization"}));
+    utils = create();
+    zvRecordingLogger::reset();
+    refusesMemory = true;
+    const zvResult result = utils->request("http://127.0.0.1/", m_args, nullptr);
+    refusesMemory = false;
+    const std::string noHandle = "Error in getting an handle to curl-easy interface.";
+    EXPECT_EQ(result.getResult(), -1);
+    EXPECT_EQ(narrow(result.getMessage()), noHandle);
+    ASSERT_EQ(lines().size(), 3u);
+    EXPECT_EQ(lines()[1], "error: " + noHandle);
+}
+
+}  // namespace
