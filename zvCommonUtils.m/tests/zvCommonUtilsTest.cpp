@@ -89,8 +89,9 @@ TEST_F(zvCommonUtilsTest, KnowsBooleanTexts) {
     EXPECT_FALSE(zvCommonUtils::validBooleanValue("1") || zvCommonUtils::validBooleanValue(""));
 }
 
-// Each in a process of its own: the name is fixed for the life of one.
+// In a process of its own, started afresh: the name is fixed for the life of one.
 TEST(zvGatewayHomeVariable, CanHaveAnotherName) {
+    testing::GTEST_FLAG(death_test_style) = "threadsafe";
     EXPECT_EXIT(
         {
             zvPlatform::setEnvironment("OTHER_HOME", "there");

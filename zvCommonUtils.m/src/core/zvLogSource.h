@@ -2,14 +2,13 @@
 #define ZV_LOG_SOURCE_H
 
 #include "zvException.h"
+#include "zvLogLevel.h"
 #include "zvTextBuilder.h"
-
-enum class zvLogLevel { debug, info, warn, error, fatal };
 
 /// The way from every layer to the logger, which itself stands on this layer: implemented beside the logger.
 namespace zvLogSink {
 
-/// Whether a logger exists, creating it on first use, that can write.
+/// Whether somebody reads what is logged: a logger, created on first use, that can write, or a listener.
 bool isReady();
 void write(zvLogLevel level, const zvString& message, const char* file, int line);
 

@@ -22,32 +22,17 @@ constexpr std::size_t longestText = INT_MAX - 1;  // its terminator has to be co
 
 View viewOf(const zvString& text) { return {text.data(), static_cast<std::size_t>(text.size())}; }
 
-int lengthOf(const wchar16* text) {
-    const std::size_t length = View::traits_type::length(text);
-    return static_cast<int>(std::min(length, longestText));
+template <typename Unit>
+int lengthOf(const Unit* text) {
+    return static_cast<int>(std::min(std::char_traits<Unit>::length(text), longestText));
 }
 
 // The length of `text`, `n` at most.
-int lengthOf(const wchar16* text, int n) {
-    const wchar16* const end = View::traits_type::find(text, static_cast<std::size_t>(n), 0);
+template <typename Unit>
+int lengthOf(const Unit* text, int n) {
+    const Unit* const end = std::char_traits<Unit>::find(text, static_cast<std::size_t>(n), Unit{0});
     return end == nullptr ? n : static_cast<int>(end - text);
 }
-
-// The UTF-16 code units behind a char16_t pointer, which may not be read through a pointer to wchar16.
-class CodeUnits {
-public:
-    CodeUnits(const char16_t* text, std::size_t length)
-        : m_pUnits(length <= longestText ? new (std::nothrow) wchar16[length + 1] : nullptr) {
-        if (m_pUnits != nullptr) {
-            std::copy_n(text, length, m_pUnits.get());
-            m_pUnits[length] = 0;
-        }
-    }
-    const wchar16* get() const { return m_pUnits.get(); }
-
-private:
-    std::unique_ptr<wchar16[]> m_pUnits;
-};
 
 template <typename Character>
 Character* allocate(std::size_t count) {
@@ -201,16 +186,13 @@ zvString::zvString(const wchar16* text, int n) { setW(text, n); }
 
 zvString::zvString(const char16_t* text) {
     if (text != nullptr) {
-        setW(CodeUnits(text, std::char_traits<char16_t>::length(text)).get());
+        assign(text, lengthOf(text));
     }
 }
 
 zvString::zvString(const char16_t* text, int n) {
     if (text != nullptr && n > 0) {
-        const char16_t* const end = std::char_traits<char16_t>::find(text, static_cast<std::size_t>(n), 0);
-        setW(CodeUnits(text,
-                       end == nullptr ? static_cast<std::size_t>(n) : static_cast<std::size_t>(end - text))
-                 .get());
+        assign(text, lengthOf(text, n));
     }
 }
 
@@ -294,14 +276,16 @@ void zvString::setW(const wchar16* text, int n) {
     }
 }
 
-void zvString::assign(const wchar16* text, int length) {
+template <typename Unit>
+void zvString::assign(const Unit* text, int length) {
     if (length == 0) {
         return;
     }
     if (m_iCapacity <= length && !adopt(allocate<wchar16>(static_cast<std::size_t>(length) + 1), length)) {
         return;
     }
-    std::copy_n(text, length, m_pBuffer);
+    static_assert(sizeof(Unit) == sizeof(wchar16));
+    std::memcpy(m_pBuffer, text, static_cast<std::size_t>(length) * sizeof(Unit));
     m_pBuffer[length] = 0;
     m_iLength = length;
 }
@@ -342,6 +326,22 @@ zvString& zvString::operator=(const zvString& other) {
         assign(other.m_pBuffer, other.m_iLength);
     }
     return *this;
+}
+
+zvString& zvString::operator=(const char16_t* text) {
+    reset();
+    if (text != nullptr) {
+        assign(text, lengthOf(text));
+    }
+    return *this;
+}
+
+void zvString::swap(zvString& other) noexcept {
+    std::swap(m_pBuffer, other.m_pBuffer);
+    std::swap(m_iLength, other.m_iLength);
+    std::swap(m_iCapacity, other.m_iCapacity);
+    std::swap(m_bCacheUnchanged, other.m_bCacheUnchanged);
+    std::swap(m_pNarrowCache, other.m_pNarrowCache);
 }
 
 zvString& zvString::append(const zvString& other) {
@@ -387,19 +387,19 @@ char zvString::getCharAt(int i) const {
 }
 
 bool zvString::equals(const zvString& other) const {
-    return this == &other || viewOf(*this) == viewOf(other);
+    return m_iLength == other.m_iLength && std::equal(m_pBuffer, m_pBuffer + m_iLength, other.m_pBuffer);
 }
 
 bool zvString::equalsIgnoreCase(const zvString& other) const { return lowered(*this).equals(lowered(other)); }
 
 bool zvString::operator<(const zvString& other) const {
-    if (this == &other || (empty() && other.empty())) {
-        return false;
+    // Maps spend their time here, and a view's own comparison looks at every unit twice.
+    const int common = std::min(m_iLength, other.m_iLength);
+    int i = 0;
+    while (i < common && m_pBuffer[i] == other.m_pBuffer[i]) {
+        ++i;
     }
-    if (m_pBuffer == nullptr || other.m_pBuffer == nullptr) {
-        return m_pBuffer == nullptr;
-    }
-    return viewOf(*this) < viewOf(other);
+    return i < common ? m_pBuffer[i] < other.m_pBuffer[i] : m_iLength < other.m_iLength;
 }
 
 bool zvString::operator>(const zvString& other) const { return other < *this; }

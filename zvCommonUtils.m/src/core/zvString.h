@@ -38,6 +38,10 @@ public:
     virtual ~zvString();
 
     zvString& operator=(const zvString& other);
+    /// Null gives an empty text.
+    zvString& operator=(const char16_t* text);
+    /// Exchanges the two texts with their buffers.
+    void swap(zvString& other) noexcept;
 
     zvString& append(const zvString& other);
     zvString& operator+=(const zvString& other);
@@ -137,7 +141,8 @@ private:
     void setW(const wchar16* text, int n);
     void addTail(const char* text, int n);
     void addTailW(const wchar16* text, int n);
-    void assign(const wchar16* text, int length);
+    template <typename Unit>
+    void assign(const Unit* text, int length);
     void extend(const wchar16* text, int tail);
     char* narrowCopy() const;
     int replaceW(const zvString& from, const zvString& to, int start, int end, bool ignoreCase);

@@ -40,8 +40,6 @@ bool zvStringList::empty() const { return m_pImpl->strings.empty(); }
 
 zvString zvStringList::back() const { return empty() ? zvString() : m_pImpl->strings.back(); }
 
-const zvString& zvStringList::top() const { return m_pImpl->strings.back(); }
-
 void zvStringList::pop() {
     if (!empty()) {
         m_pImpl->strings.pop_back();

@@ -23,8 +23,6 @@ public:
     bool empty() const;
     /// A copy of the last entry; an empty string for an empty list.
     zvString back() const;
-    /// The last entry itself, owned by the list, which must not be empty.
-    const zvString& top() const;
     /// Removes the last entry, if any.
     void pop();
     void clear();

@@ -61,6 +61,8 @@ zvValue::zvValue(const zvString& text, zvDataTypeEnum type, int precision) : zvV
 
 zvValue::zvValue(const zvValue& other) = default;
 
+zvValue::zvValue(zvValue&& other) noexcept = default;
+
 zvValue::~zvValue() = default;
 
 zvValue& zvValue::operator=(const zvValue& other) {
@@ -104,6 +106,11 @@ void zvValue::setFloatValue(float value, int precision) {
 
 void zvValue::setStrValue(const zvString& value) {
     m_strValue = value;
+    m_eDataType = zvDataTypeString;
+}
+
+void zvValue::setStrValue(zvString&& value) {
+    m_strValue.swap(value);
     m_eDataType = zvDataTypeString;
 }
 

@@ -30,6 +30,7 @@ public:
     explicit zvValue(const zvDateTime& value);
     zvValue(const zvString& text, zvDataTypeEnum type, int precision);
     zvValue(const zvValue& other);
+    zvValue(zvValue&& other) noexcept;
     virtual ~zvValue();
 
     zvValue& operator=(const zvValue& other);
@@ -39,6 +40,7 @@ public:
     /// `precision` is the number of decimals that the float was given with.
     void setFloatValue(float value, int precision);
     void setStrValue(const zvString& value);
+    void setStrValue(zvString&& value);
     void setDateValue(const zvDateTime& value);
     /// Changes the type alone.
     void setDataType(zvDataTypeEnum type);

@@ -88,7 +88,7 @@ std::int32_t nextCandidate(std::int32_t candidate) {
 
 // Creates the event's directory under the first free number, and tells that and the path. Other processes
 // make directories under the same root: a number that one of them takes first is not free any more.
-bool createEventDirectory(const zvString& root, zvString& name, zvString& path) {
+zvResult createEventDirectory(const zvString& root, zvString& name, zvString& path) {
     for (auto candidate = static_cast<std::int32_t>(zvPlatform::currentTime());;
          candidate = nextCandidate(candidate)) {
         name = zvString(static_cast<long>(candidate));
@@ -96,11 +96,9 @@ bool createEventDirectory(const zvString& root, zvString& name, zvString& path) 
         if (zvDirFileUtils::isAccessible(path, existence)) {
             continue;
         }
-        if (zvDirFileUtils::createDirectory(path).isOk()) {
-            return true;
-        }
-        if (!zvDirFileUtils::isAccessible(path, existence)) {
-            return false;
+        const zvResult created = zvDirFileUtils::createDirectory(path);
+        if (created.isOk() || !zvDirFileUtils::isAccessible(path, existence)) {
+            return created;
         }
     }
 }
@@ -239,7 +237,8 @@ zvResult zvEventArguments::populateEventArguments(const zvString& rootShadowDir,
     }
     zvString name;
     zvString directory;
-    if (!createEventDirectory(rootShadowDir, name, directory)) {
+    result = createEventDirectory(rootShadowDir, name, directory);
+    if (!result.isOk()) {
         logger.error("Error in creating EventShadowDir \"", directory, "\" in populateEventArguments");
         return result;
     }

@@ -63,8 +63,8 @@ zvResult zvDirFileUtils::createDirectory(const zvString& path) {
     if (zvPlatform::createDirectory(path.data())) {
         result.setOk();
     } else {
-        const zvString code = lastErrorCode();
-        logger.error("Error occured while creating directory :", path, " ErrorCode :", code);
+        result.setMessage(zvPlatform::errorText(zvPlatform::lastError()).c_str());
+        logger.error("Error occured while creating directory :", path, " ErrorCode :", lastErrorCode());
     }
     return result;
 }
@@ -84,8 +84,8 @@ zvResult zvDirFileUtils::createFile(const zvString& path) {
     const zvPlatform::Handle handle = zvPlatform::createFile(path.data());
     result.setOk();
     if (!zvPlatform::closeHandle(handle)) {
-        const zvString code = lastErrorCode();
-        logger.error("Error occured while closing file handle :", path, " ErrorCode :", code);
+        result.setMessage(zvPlatform::errorText(zvPlatform::lastError()).c_str());
+        logger.error("Error occured while closing file handle :", path, " ErrorCode :", lastErrorCode());
     }
     return result;
 }

@@ -2,26 +2,23 @@
 
 #include "zvCharString.h"
 #include "zvLogChannel.h"
-#include "zvLogSource.h"
+#include "zvLogListener.h"
 
 namespace {
 
 constexpr char loggerName[] = "com.qrsl.products.lkbridge.product";
 
+// In the order of zvLogLevel.
 using ChannelOperation = void (zvLogChannel::*)(const char*, const char*, int);
-
-// Nothing is converted for a channel that would drop it.
-void forward(zvLogChannel* channel, ChannelOperation operation, const zvString& message, const char* file,
-             int line) {
-    if (channel != nullptr && channel->isReady()) {
-        (channel->*operation)(zvCharString(message).data(), file, line);
-    }
-}
+constexpr ChannelOperation operations[] = {&zvLogChannel::logDebug, &zvLogChannel::logInfo,
+                                           &zvLogChannel::logWarn,  &zvLogChannel::logError,
+                                           &zvLogChannel::logFatal, &zvLogChannel::logAlways};
 
 }  // namespace
 
 zvLogger* zvLogger::m_pzvLogger = nullptr;
 bool zvLogger::m_bInitializing = false;
+zvLogListener* zvLogger::m_pListener = nullptr;
 
 zvLogger::zvLogger() : m_pChannel(std::make_shared<zvLogChannel>(loggerName)) {}
 
@@ -42,28 +39,43 @@ void zvLogger::destroyInstance() {
     m_pzvLogger = nullptr;
 }
 
-bool zvLogger::isReady() const { return m_pChannel != nullptr && m_pChannel->isReady(); }
+bool zvLogger::isReady() const {
+    return m_pListener != nullptr || (m_pChannel != nullptr && m_pChannel->isReady());
+}
+
+void zvLogger::setListener(zvLogListener* listener) { m_pListener = listener; }
+
+void zvLogger::log(zvLogLevel level, const zvString& message, const char* file, int line) {
+    if (m_pListener != nullptr) {
+        m_pListener->hear(level, message, file, line);
+    }
+    // Nothing is converted for a channel that would drop it.
+    if (m_pChannel != nullptr && m_pChannel->isReady()) {
+        const ChannelOperation operation = operations[static_cast<int>(level)];
+        (m_pChannel.get()->*operation)(zvCharString(message).data(), file, line);
+    }
+}
 
 void zvLogger::logDebug(const zvString& message, const char* file, int line) {
-    forward(m_pChannel.get(), &zvLogChannel::logDebug, message, file, line);
+    log(zvLogLevel::debug, message, file, line);
 }
 
 void zvLogger::logInfo(const zvString& message, const char* file, int line) {
-    forward(m_pChannel.get(), &zvLogChannel::logInfo, message, file, line);
+    log(zvLogLevel::info, message, file, line);
 }
 
 void zvLogger::logWarn(const zvString& message, const char* file, int line) {
-    forward(m_pChannel.get(), &zvLogChannel::logWarn, message, file, line);
+    log(zvLogLevel::warn, message, file, line);
 }
 
 void zvLogger::logError(const zvString& message, const char* file, int line) {
-    forward(m_pChannel.get(), &zvLogChannel::logError, message, file, line);
+    log(zvLogLevel::error, message, file, line);
 }
 
 void zvLogger::logFatal(const zvString& message, const char* file, int line) {
-    forward(m_pChannel.get(), &zvLogChannel::logFatal, message, file, line);
+    log(zvLogLevel::fatal, message, file, line);
 }
 
 void zvLogger::logAlways(const zvString& message, const char* file, int line) {
-    forward(m_pChannel.get(), &zvLogChannel::logAlways, message, file, line);
+    log(zvLogLevel::always, message, file, line);
 }

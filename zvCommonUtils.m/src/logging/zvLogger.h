@@ -4,9 +4,11 @@
 #include <memory>
 
 #include "zvCoreObject.h"
+#include "zvLogLevel.h"
 #include "zvString.h"
 
 class zvLogChannel;
+class zvLogListener;
 
 /// The process's log: a singleton that hands messages to the logging library, under one fixed logger name.
 ///
@@ -30,9 +32,15 @@ public:
     void logFatal(const zvString& message, const char* file, int line);
     /// Written whatever the configured threshold.
     void logAlways(const zvString& message, const char* file, int line);
+    /// One of the above.
+    void log(zvLogLevel level, const zvString& message, const char* file, int line);
 
-    /// Whether messages reach the logging library: callers need not compose them otherwise.
+    /// Whether anybody reads the messages, the logging library or a listener: callers need not compose them
+    /// otherwise.
     bool isReady() const;
+
+    /// From now on `listener`, which stays the caller's, hears every message too; null ends that.
+    static void setListener(zvLogListener* listener);
 
 protected:
     zvLogger();
@@ -41,6 +49,7 @@ protected:
 private:
     static zvLogger* m_pzvLogger;
     static bool m_bInitializing;
+    static zvLogListener* m_pListener;
 
     std::shared_ptr<zvLogChannel> m_pChannel;
 };

@@ -1,0 +1,3 @@
+#include "zvLogListener.h"
+
+zvLogListener::~zvLogListener() = default;
