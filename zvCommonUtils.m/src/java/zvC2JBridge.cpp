@@ -29,8 +29,9 @@ std::string environment(const char* variable) {
     return value == nullptr ? "" : value;
 }
 
-// A starting machine takes the encoding of file names from the environment's locale, which it makes that of the
-// whole process. It is shown the process's own instead, unless that was never chosen, and the process keeps it.
+// A starting machine takes the encoding of file names from the environment's locale, which it makes that of
+// the whole process. It is shown the process's own instead, unless that was never chosen, and the process
+// keeps it.
 class LocaleKeeper {
 public:
     LocaleKeeper()

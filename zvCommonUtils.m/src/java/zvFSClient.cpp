@@ -70,7 +70,8 @@ struct zvFSClient::Impl {
         }
     }
 
-    // Calls the operation's method on the connected client and hands the answer, if there is one, to `receive`.
+    // Calls the operation's method on the connected client and hands the answer, if there is one, to
+    // `receive`.
     template <typename Result, typename Receive, typename... Arguments>
     auto invokeAndReceive(const Operation& operation, Receive receive, const Arguments&... arguments) const {
         if (!connected) {
@@ -100,7 +101,8 @@ struct zvFSClient::Impl {
             logger.info("Got instance of [", describe(frame, factory), "]");
             logger.info("Initializing FileServerClientFactory");
             logger.info("Config file path [", configPath, "]");
-            frame.call<void>(factory, "initialize", "(Ljava/lang/String;)V", frame.toJava(native(configPath)));
+            frame.call<void>(factory, "initialize", "(Ljava/lang/String;)V",
+                             frame.toJava(native(configPath)));
             logger.info("Successfully initialized FileServerClientFactory");
         });
     }
@@ -108,9 +110,8 @@ struct zvFSClient::Impl {
     void createClient() {
         run([&](const zvJniFrame& frame) {
             logger.info("Creating an instance of FileServerCLient");
-            jobject const created =
-                frame.call<jobject>(factory, "getFileServerClient",
-                                    "()Lcom/vantorel/ep/products/fsclient/FileServerClient;");
+            jobject const created = frame.call<jobject>(
+                factory, "getFileServerClient", "()Lcom/vantorel/ep/products/fsclient/FileServerClient;");
             client = frame.env().NewGlobalRef(created);
             logger.info("Created instance of FileServerClient[", describe(frame, client), "]");
         });
@@ -148,9 +149,7 @@ zvFSClient* zvFSClient::getInstance(const zvString& configPath) {
     return m_pFSClient;
 }
 
-zvFSClient* zvFSClient::getInstance() {
-    return m_pFSClient;
-}
+zvFSClient* zvFSClient::getInstance() { return m_pFSClient; }
 
 void zvFSClient::destroyInstance() {
     if (m_pFSClient == nullptr) {
@@ -189,7 +188,8 @@ void zvFSClient::disconnect() {
     if (m_pImpl->connected) {
         logger.info("Disconnecting to the FileServer");
         m_pImpl->connected = false;
-        m_pImpl->run([&](const zvJniFrame& frame) { frame.call<void>(m_pImpl->client, "disconnect", "()V"); });
+        m_pImpl->run(
+            [&](const zvJniFrame& frame) { frame.call<void>(m_pImpl->client, "disconnect", "()V"); });
         logger.info("Successfully disconnected from the FileServer");
     }
 }
@@ -247,8 +247,8 @@ bool zvFSClient::exists(const zvString& path) {
 void zvFSClient::list(const zvString& dir, zvStringList& out) {
     logger.info("Getting list of files in FileServer directory [", dir, "]");
     m_pImpl->invokeAndReceive<jobjectArray>(
-        listDirectory,
-        [&](const zvJniFrame& frame, jobjectArray names) { frame.appendTexts(names, out); }, dir);
+        listDirectory, [&](const zvJniFrame& frame, jobjectArray names) { frame.appendTexts(names, out); },
+        dir);
     logger.info("Successfully got the list of files in FileServer directory");
 }
 

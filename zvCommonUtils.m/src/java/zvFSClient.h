@@ -9,20 +9,20 @@
 
 /// The process's connection to the file server, through the Java file-server client on CLASSPATH.
 ///
-/// Local paths may separate folders with "\" on every system; remote paths go to the server as they are given.
-/// A list names files without their folders.
+/// Local paths may separate folders with "\" on every system; remote paths go to the server as they are
+/// given. A list names files without their folders.
 ///
-/// Every operation throws a zvException when it fails, with the failure logged before: for a failure in Java, its
-/// message is Java's own and its result's message the Java stack trace; an operation without a connection says in
-/// the result's message that the client is not initialized.
+/// Every operation throws a zvException when it fails, with the failure logged before: for a failure in Java,
+/// its message is Java's own and its result's message the Java stack trace; an operation without a connection
+/// says in the result's message that the client is not initialized.
 class ZV_EXPORT zvFSClient : public zvCoreObjectCommon {
 public:
     zvFSClient(const zvFSClient&) = delete;
     zvFSClient& operator=(const zvFSClient&) = delete;
 
-    /// The instance, owned by the class. The first call creates it, starts Java if need be, configures the Java
-    /// client from the file `configPath` and connects. When that fails there is an instance all the same, without
-    /// a connection: destroyInstance() makes way for another attempt.
+    /// The instance, owned by the class. The first call creates it, starts Java if need be, configures the
+    /// Java client from the file `configPath` and connects. When that fails there is an instance all the
+    /// same, without a connection: destroyInstance() makes way for another attempt.
     static zvFSClient* getInstance(const zvString& configPath);
     /// The instance; null when there is none.
     static zvFSClient* getInstance();

@@ -20,6 +20,7 @@ constexpr zvLogSource logger("zvCommonUtils.m/src/zvFSClientUtil");
 
 // The modes of zvAttachment and of zvFSClient::setFileType.
 constexpr int binary = 0;
+constexpr int ascii = 1;
 
 constexpr int existence = 0;
 constexpr int readable = 4;
@@ -38,14 +39,12 @@ struct Direction {
     const char* failure;
     void (*transfer)(zvFSClient& client, const zvString& local, const zvString& remote);
 };
-constexpr Direction upload{"Error in uploading file [",
-                           [](zvFSClient& client, const zvString& local, const zvString& remote) {
-                               client.put(local, remote);
-                           }};
-constexpr Direction download{"Error in downloading file [",
-                             [](zvFSClient& client, const zvString& local, const zvString& remote) {
-                                 client.get(remote, local);
-                             }};
+constexpr Direction upload{
+    "Error in uploading file [",
+    [](zvFSClient& client, const zvString& local, const zvString& remote) { client.put(local, remote); }};
+constexpr Direction download{
+    "Error in downloading file [",
+    [](zvFSClient& client, const zvString& local, const zvString& remote) { client.get(remote, local); }};
 
 zvFSClient& client() {
     zvFSClient* const instance = zvFSClient::getInstance();
@@ -108,7 +107,8 @@ EventFiles collectFiles(const zvEventArguments& args, const zvAttachmentList& at
     for (int i = 0; i < attachments.numAttachments(); ++i) {
         const zvAttachment& attachment = *attachments.getAttachment(i);
         const zvString path = attachment.getFilePath();
-        collector.add({path, fileName(path), attachment.getFileTransferMode(), attachment.getToBeDeleted()});
+        const int mode = attachment.getFileTransferMode() == ascii ? ascii : binary;
+        collector.add({path, fileName(path), mode, attachment.getToBeDeleted()});
     }
     return collector.files();
 }

@@ -27,7 +27,8 @@ private:
 
 }  // namespace
 
-// Without memory for a frame of its own it lives in the one around it: the calls themselves tell what is wrong.
+// Without memory for a frame of its own it lives in the one around it: the calls themselves tell what is
+// wrong.
 zvJniFrame::zvJniFrame(JNIEnv& env) : m_env(env), m_bPushed(env.PushLocalFrame(localReferences) == JNI_OK) {
     if (!m_bPushed) {
         m_env.ExceptionClear();

@@ -9,17 +9,18 @@
 #include "zvString.h"
 #include "zvStringList.h"
 
-/// A Java exception on its way through native code: no longer pending, and valid as long as the frame in which
-/// it came up.
+/// A Java exception on its way through native code: no longer pending, and valid as long as the frame in
+/// which it came up.
 struct zvJavaThrown {
     jthrowable exception;
 };
 
 /// The one way into Java. A frame stands for some calls that belong together: the local references that they
-/// make are freed with it. Every lookup and call is checked, and a Java exception comes out as a zvJavaThrown.
+/// make are freed with it. Every lookup and call is checked, and a Java exception comes out as a
+/// zvJavaThrown.
 ///
-/// Names of classes are dotted, signatures of methods are those of JNI. To call a method on a null object is a
-/// NullPointerException, as in Java.
+/// Names of classes are dotted, signatures of methods are those of JNI. To call a method on a null object is
+/// a NullPointerException, as in Java.
 class zvJniFrame {
 public:
     explicit zvJniFrame(JNIEnv& env);

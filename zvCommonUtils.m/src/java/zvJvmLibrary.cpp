@@ -11,13 +11,19 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Where the systems' Java releases keep the library below their home; of a development kit before Java 9 the home
-// is one folder up.
-constexpr const char* files[] = {
-    "lib/server/libjvm.so",         "jre/lib/amd64/server/libjvm.so", "jre/lib/aarch64/server/libjvm.so",
-    "jre/lib/i386/server/libjvm.so", "lib/amd64/server/libjvm.so",    "lib/aarch64/server/libjvm.so",
-    "lib/i386/server/libjvm.so",    "bin/server/jvm.dll",             "bin/client/jvm.dll",
-    "jre/bin/server/jvm.dll",       "jre/bin/client/jvm.dll"};
+// Where the systems' Java releases keep the library below their home; of a development kit before Java 9 the
+// home is one folder up.
+constexpr const char* files[] = {"lib/server/libjvm.so",
+                                 "jre/lib/amd64/server/libjvm.so",
+                                 "jre/lib/aarch64/server/libjvm.so",
+                                 "jre/lib/i386/server/libjvm.so",
+                                 "lib/amd64/server/libjvm.so",
+                                 "lib/aarch64/server/libjvm.so",
+                                 "lib/i386/server/libjvm.so",
+                                 "bin/server/jvm.dll",
+                                 "bin/client/jvm.dll",
+                                 "jre/bin/server/jvm.dll",
+                                 "jre/bin/client/jvm.dll"};
 
 constexpr const char* programs[] = {"java", "java.exe"};
 
@@ -45,7 +51,8 @@ void loadFromPath(zvJvmLibrary& library) {
         for (const char* const program : programs) {
             // The program on the path is a link into the home, as a rule.
             std::error_code error;
-            const fs::path java = folder.empty() ? fs::path() : fs::canonical(fs::path(folder) / program, error);
+            const fs::path java =
+                folder.empty() ? fs::path() : fs::canonical(fs::path(folder) / program, error);
             if (!error && java.has_filename()) {
                 const fs::path home = java.parent_path().parent_path();
                 library.tried += "; the home of a java on PATH: " + home.string();

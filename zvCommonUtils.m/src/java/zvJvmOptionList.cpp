@@ -27,7 +27,8 @@ void zvJvmOptionList::addClassPath(const char* classPath) {
 void zvJvmOptionList::grow() {
     constexpr int firstCapacity = 4;
     m_iCapacity = m_iCapacity == 0 ? firstCapacity : 2 * m_iCapacity;
-    zvMalloc::Array<JavaVMOption> larger = zvMalloc::allocate<JavaVMOption>(static_cast<std::size_t>(m_iCapacity));
+    zvMalloc::Array<JavaVMOption> larger =
+        zvMalloc::allocate<JavaVMOption>(static_cast<std::size_t>(m_iCapacity));
     std::copy_n(m_pOptions.get(), m_iCount, larger.get());
     m_pOptions = std::move(larger);
 }

@@ -6,7 +6,8 @@
 #include <cstdlib>
 #include <memory>
 
-/// Memory for what the Java virtual machine is started with: without it the process cannot do its job, and ends.
+/// Memory for what the Java virtual machine is started with: without it the process cannot do its job, and
+/// ends.
 namespace zvMalloc {
 
 struct Free {

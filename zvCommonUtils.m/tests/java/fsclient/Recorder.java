@@ -1,0 +1,60 @@
+package com.vantorel.ep.products.fsclient;
+
+import java.io.Reader;
+import java.nio.charset.StandardCharsets;
+import java.nio.file.Files;
+import java.nio.file.Path;
+import java.nio.file.Paths;
+import java.nio.file.StandardOpenOption;
+import java.util.Arrays;
+import java.util.Collection;
+import java.util.Properties;
+import java.util.stream.Collectors;
+
+/**
+ * Keeps the calls of a test, one a line, in a file beside the configuration file, and reads from the latter what they
+ * answer. {@code throw.METHOD} names a class of exception and, behind a blank, its message if it is to have one.
+ */
+final class Recorder {
+    private static final Properties SCRIPT = new Properties();
+    private static Path calls;
+
+    private Recorder() {}
+
+    static void open(String configPath) throws Exception {
+        calls = Paths.get(configPath + ".calls");
+        SCRIPT.clear();
+        try (Reader reader = Files.newBufferedReader(Paths.get(configPath))) {
+            SCRIPT.load(reader);
+        }
+    }
+
+    static String answer(String key) {
+        return SCRIPT.getProperty(key);
+    }
+
+    static void record(String method, Object... arguments) throws Exception {
+        if (answer("quiet") == null) {
+            String line = method + Arrays.stream(arguments).map(Recorder::shown).collect(
+                    Collectors.joining(",", "(", ")\n"));
+            Files.write(calls, line.getBytes(StandardCharsets.US_ASCII), StandardOpenOption.CREATE,
+                    StandardOpenOption.APPEND);
+        }
+        String exception = answer("throw." + method);
+        if (exception != null) {
+            String[] words = exception.split(" ", 2);
+            Class<?> type = Class.forName(words[0]);
+            throw (Exception) (words.length == 1 ? type.getDeclaredConstructor().newInstance()
+                                                 : type.getConstructor(String.class).newInstance(words[1]));
+        }
+    }
+
+    private static String shown(Object argument) {
+        if (argument instanceof Collection) {
+            return argument.getClass().getName() + ((Collection<?>) argument).stream().map(Recorder::shown).collect(
+                    Collectors.joining(" ", "[", "]"));
+        }
+        return String.valueOf(argument).chars().mapToObj(
+                c -> c < 0x7F ? String.valueOf((char) c) : String.format("\\u%04X", c)).collect(Collectors.joining());
+    }
+}

@@ -1,0 +1,183 @@
+#include "zvFSClientUtil.h"
+
+#include <algorithm>
+
+#include "zvJavaTest.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// An event 1300 with its files in a shadow directory.
+class zvFSClientUtilTest : public zvJavaTest {
+protected:
+    zvFSClientUtilTest() : m_args(zvEventMirror, "jdoe") {
+        m_args.setEventArgument("RootShadowDir", m_folder.file("root").c_str());
+        m_args.setEventArgument("EventShadowDir", "1300");
+        m_args.setEventArgument("DataFileName", "1300_data.xml");
+        m_args.setEventArgument("AttachmentsFileName", "1300_attachments.xml");
+        m_folder.write("root/1300/1300_data.xml", "<data/>");
+        m_folder.write("root/1300/1300_attachments.xml", "");
+    }
+
+    void attach(const std::string& path, int mode = 0, bool toBeDeleted = true) {
+        auto* const attachment = new zvAttachment;
+        attachment->setFilePath(path.c_str());
+        attachment->setFileTransferMode(mode);
+        attachment->setToBeDeleted(toBeDeleted);
+        m_attachments.addAttachment(attachment);
+    }
+    /// The path in the way that events have it.
+    std::string path(const std::string& name) const {
+        std::string text = m_folder.file(name);
+        std::replace(text.begin() + 1, text.end(), '/', '\\');
+        return text;
+    }
+    std::string put(const std::string& name, const std::string& remote) const {
+        return "put(" + m_folder.file(name) + "," + remote + ")";
+    }
+    std::string get(const std::string& remote, const std::string& name) const {
+        return "get(" + remote + "," + m_folder.file(name) + ")";
+    }
+    bool isThere(const std::string& name) const { return fs::exists(m_folder.path() / name); }
+
+    zvEventArguments m_args;
+    zvAttachmentList m_attachments;
+};
+
+struct Observer : zvTransferObserver {
+    void fileTransferred(const zvString& local, zvInt64 bytes, zvInt64 milliseconds) override {
+        EXPECT_GE(milliseconds, 0);
+        told.push_back(narrow(local) + " " + std::to_string(bytes));
+    }
+    Lines told;
+};
+
+TEST_F(zvFSClientUtilTest, CreatesTheEventsDirectory) {
+    connect();
+    EXPECT_TRUE(zvFSClientUtil::createShadowDir(m_args).isOk());
+    EXPECT_EQ(calls(), Lines{"mkDir(1300)"});
+}
+
+TEST_F(zvFSClientUtilTest, UploadsEveryFileInItsOwnModeAndRemovesThem) {
+    m_folder.write("a/text.txt", "12345");
+    m_folder.write("b/picture", "123");
+    m_folder.write("b/twice", "1");
+    attach(path("a/text.txt"), 1, true);
+    attach(path("b/picture"), 0, false);
+    attach(path("b/twice"), 7, true);
+    attach(path("b/twice"), 0, false);
+    connect();
+    Observer observer;
+    const zvResult result = zvFSClientUtil::uploadEventFiles(m_args, m_attachments, &observer);
+    EXPECT_TRUE(result.isOk());
+    EXPECT_TRUE(result.getAdditionalInformation().empty());
+    const Lines expected = {
+        "setFileTransferMode(0)", put("root/1300/1300_data.xml", "1300/1300_data.xml"),
+        "setFileTransferMode(0)", put("root/1300/1300_attachments.xml", "1300/1300_attachments.xml"),
+        "setFileTransferMode(1)", put("a/text.txt", "1300/text.txt"),
+        "setFileTransferMode(0)", put("b/picture", "1300/picture"),
+        "setFileTransferMode(0)", put("b/twice", "1300/twice")};
+    EXPECT_EQ(calls(), expected);
+    EXPECT_EQ(observer.told.size(), 5U);
+    EXPECT_EQ(observer.told[2], path("a/text.txt") + " 5");
+    EXPECT_FALSE(isThere("a/text.txt"));
+    EXPECT_TRUE(isThere("b/picture") && isThere("b/twice") && isThere("root/1300/1300_data.xml"));
+}
+
+TEST_F(zvFSClientUtilTest, DownloadsIntoTheShadowDirectory) {
+    fs::remove_all(m_folder.path() / "root" / "1300");
+    attach("C:\\elsewhere\\a.txt", 1);
+    attach("plain");
+    connect();
+    Observer observer;
+    EXPECT_TRUE(zvFSClientUtil::downloadEventFiles(m_args, m_attachments, &observer).isOk());
+    const Lines expected = {
+        "setFileTransferMode(0)", get("1300/1300_data.xml", "root/1300/1300_data.xml"),
+        "setFileTransferMode(0)", get("1300/1300_attachments.xml", "root/1300/1300_attachments.xml"),
+        "setFileTransferMode(1)", get("1300/a.txt", "root/1300/a.txt"),
+        "setFileTransferMode(0)", get("1300/plain", "root/1300/plain")};
+    EXPECT_EQ(calls(), expected);
+    EXPECT_EQ(observer.told.size(), 4U);
+    EXPECT_TRUE(isThere("root/1300"));
+}
+
+TEST_F(zvFSClientUtilTest, AFailureOnTheServerKeepsEveryLocalFileAndNamesTheOneThatFailed) {
+    m_folder.write("a.txt", "");
+    attach(path("a.txt"));
+    using Helper = zvResult (*)(const zvEventArguments&, const zvAttachmentList&, zvTransferObserver*);
+    const Helper create = [](const zvEventArguments& args, const zvAttachmentList&, zvTransferObserver*) {
+        return zvFSClientUtil::createShadowDir(args);
+    };
+    const std::string data = m_folder.file("root") + "\\1300\\1300_data.xml";
+    struct Case {
+        Helper helper;
+        std::string method, message;
+    };
+    const Case cases[] = {
+        {create, "mkDir", "Error in creating directory [1300]: full"},
+        {zvFSClientUtil::uploadEventFiles, "put", "Error in uploading file [" + data + "]: full"},
+        {zvFSClientUtil::uploadEventFiles, "setFileTransferMode",
+         "Error in uploading file [" + data + "]: full"},
+        {zvFSClientUtil::downloadEventFiles, "get", "Error in downloading file [" + data + "]: full"}};
+    for (const Case& c : cases) {
+        connect("throw." + c.method + "=java.io.IOException full");
+        const zvResult result = c.helper(m_args, m_attachments, nullptr);
+        EXPECT_EQ(result.getResult(), -1);
+        EXPECT_TRUE(zvResult::isFileTransferFailure(result.getFailureType()));
+        EXPECT_EQ(result.getMessage(), c.message.c_str());
+        EXPECT_EQ(result.getAdditionalInformation().find("java.io.IOException: full\n"), 0);
+        EXPECT_EQ(zvRecordingLogger::lines("error").back(), c.message);
+        EXPECT_TRUE(isThere("a.txt"));
+    }
+}
+
+TEST_F(zvFSClientUtilTest, RefusesWhatWouldLoseAFileBeforeAnythingMoves) {
+    m_folder.write("x/a.txt", "");
+    m_folder.write("y/A.TXT", "");
+    const std::string shadow = m_folder.file("root") + "\\1300\\";
+    const std::string same = "] would have the same name on the file server";
+    struct Case {
+        Lines attachments;
+        const char* missingArgument;
+        std::string message;
+    };
+    const Case cases[] = {
+        {{path("x/a.txt"), path("y/A.TXT")},
+         nullptr,
+         "The files [" + path("x/a.txt") + "] and [" + path("y/A.TXT") + same},
+        {{path("1300_data.xml")},
+         nullptr,
+         "The files [" + shadow + "1300_data.xml] and [" + path("1300_data.xml") + same},
+        {{path("x") + "\\.."}, nullptr, "The path [" + path("x") + "\\..] names no file"},
+        {{path("x") + "\\"}, nullptr, "The path [" + path("x") + "\\] names no file"},
+        {{path("missing")}, nullptr, "The file [" + path("missing") + "] cannot be read"},
+        {{},
+         "DataFileName",
+         "The argument \"DataFileName\" is missing, without which no file can be transferred"},
+        {{},
+         "EventShadowDir",
+         "The argument \"EventShadowDir\" is missing, without which no file can be transferred"}};
+    for (const Case& c : cases) {
+        m_attachments.clear();
+        std::for_each(c.attachments.begin(), c.attachments.end(), [this](const auto& a) { attach(a); });
+        if (c.missingArgument != nullptr) {
+            m_args.setEventArgument(c.missingArgument, "");
+        }
+        connect();
+        const zvResult result = zvFSClientUtil::uploadEventFiles(m_args, m_attachments);
+        EXPECT_EQ(result.getResult(), -1);
+        EXPECT_TRUE(zvResult::isBusinessFailure(result.getFailureType()));
+        EXPECT_EQ(result.getMessage(), c.message.c_str());
+        EXPECT_EQ(zvRecordingLogger::lines("error"), Lines{c.message});
+        EXPECT_TRUE(calls().empty());
+    }
+}
+
+TEST_F(zvFSClientUtilTest, NeedsAClient) {
+    const zvResult result = zvFSClientUtil::downloadEventFiles(m_args, m_attachments);
+    EXPECT_EQ(result.getMessage(), "There is no instance of FSClient to transfer the event's files");
+    EXPECT_TRUE(zvResult::isBusinessFailure(result.getFailureType()));
+}
+
+}  // namespace

@@ -1,0 +1,80 @@
+#ifndef ZV_JAVA_TEST_H
+#define ZV_JAVA_TEST_H
+
+#include <cstdlib>
+#include <functional>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "zvFSClient.h"
+#include "zvPlatform.h"
+#include "zvRecordingLogger.h"
+#include "zvTestSupport.h"
+
+using Lines = std::vector<std::string>;
+
+/// Gives an environment variable another value for as long as it lives.
+class zvScopedVariable {
+public:
+    zvScopedVariable(const char* name, const std::string& value) : m_name(name) {
+        const char* const before = std::getenv(name);
+        m_before = before == nullptr ? "" : before;
+        zvPlatform::setEnvironment(name, value.c_str());
+    }
+    zvScopedVariable(const zvScopedVariable&) = delete;
+    zvScopedVariable& operator=(const zvScopedVariable&) = delete;
+    ~zvScopedVariable() { zvPlatform::setEnvironment(m_name, m_before.c_str()); }
+
+private:
+    const char* m_name;
+    std::string m_before;
+};
+
+/// A test over a real Java, strict about its native callers, and the recording file-server client.
+class zvJavaTest : public zvLoggedTest {
+protected:
+    zvJavaTest() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
+    ~zvJavaTest() override { zvFSClient::destroyInstance(); }
+
+    /// A configuration file for the client, with what the recording one is to do.
+    std::string configuration(const std::string& script = "") const {
+        return m_folder.write("client.properties", script);
+    }
+    /// A new connection, with nothing recorded and nothing logged so far.
+    zvFSClient& connect(const std::string& script = "") {
+        zvFSClient::destroyInstance();
+        zvFSClient& client = *zvFSClient::getInstance(configuration(script).c_str());
+        forget();
+        return client;
+    }
+    /// The calls that arrived in Java.
+    Lines calls() const {
+        Lines lines;
+        std::istringstream recorded(readAll(m_folder.file("client.properties.calls")));
+        for (std::string line; std::getline(recorded, line);) {
+            lines.push_back(line);
+        }
+        return lines;
+    }
+    void forget() {
+        std::filesystem::remove(m_folder.file("client.properties.calls"));
+        zvRecordingLogger::reset();
+    }
+
+    /// Runs `test` in a process of its own, in which no Java runs yet.
+    static void inProcessOfItsOwn(const std::function<void()>& test) {
+        const auto run = [&] {
+            test();
+            std::exit(testing::Test::HasFailure() ? 1 : 0);
+        };
+        EXPECT_EXIT(run(), testing::ExitedWithCode(0), "");
+    }
+
+private:
+    const zvScopedVariable m_options{
+        "JAVA_TOOL_OPTIONS", "-Xcheck:jni -Xms32m -Xmx32m -XX:+AlwaysPreTouch -XX:TieredStopAtLevel=1"};
+    const zvScopedVariable m_classPath{"CLASSPATH", ZV_RECORDING_JAR};
+};
+
+#endif

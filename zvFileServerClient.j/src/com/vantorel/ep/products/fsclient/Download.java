@@ -1,0 +1,66 @@
+package com.vantorel.ep.products.fsclient;
+
+import java.io.IOException;
+import java.nio.file.Files;
+import java.nio.file.Path;
+import java.nio.file.StandardCopyOption;
+
+/**
+ * Fetches one file whole or not at all: it is written under a temporary name beside its target, compared in size, and
+ * only then renamed over the target.
+ */
+final class Download {
+    private final Transport transport;
+    private final Retry retry;
+    private final TransferMode mode;
+
+    Download(Transport transport, Retry retry, TransferMode mode) {
+        this.transport = transport;
+        this.retry = retry;
+        this.mode = mode;
+    }
+
+    /**
+     * Fetches a file. An existing target is replaced; after a failure it is as it was.
+     */
+    void run(RemotePath source, Path target) throws FileServerException {
+        if (Files.exists(target) && !Files.isRegularFile(target)) {
+            throw new FileServerException("'" + target + "' is not a regular file");
+        }
+        LocalFiles.directory(target.toAbsolutePath().getParent().toString());
+        Path temporary = target.resolveSibling(TemporaryName.forArriving());
+        try {
+            retry.run(() -> {
+                receive(source, temporary);
+                return null;
+            });
+            Files.move(temporary, target, StandardCopyOption.ATOMIC_MOVE, StandardCopyOption.REPLACE_EXISTING);
+        } catch (IOException e) {
+            throw LocalFiles.failure(e);
+        } finally {
+            remove(temporary);
+        }
+    }
+
+    private void receive(RemotePath source, Path temporary) throws FileServerException {
+        // The line ends of a text may change on the way, and with them its size.
+        long expected = mode == TransferMode.BINARY ? transport.size(source) : Transport.UNKNOWN_SIZE;
+        try (LocalTarget target = LocalTarget.create(temporary, expected)) {
+            transport.receive(source, mode, target);
+            if (expected != Transport.UNKNOWN_SIZE && target.count() != expected) {
+                throw new BrokenConnectionException(target.count() + " of " + expected + " bytes arrived");
+            }
+            target.force();
+        } catch (IOException e) {
+            throw LocalFiles.failure(e);
+        }
+    }
+
+    private static void remove(Path temporary) {
+        try {
+            Files.deleteIfExists(temporary);
+        } catch (IOException e) {
+            // What failed before is what the caller has to know; the name tells what the leftover is.
+        }
+    }
+}

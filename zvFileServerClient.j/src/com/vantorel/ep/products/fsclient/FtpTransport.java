@@ -1,0 +1,160 @@
+package com.vantorel.ep.products.fsclient;
+
+import java.io.InputStream;
+import java.io.OutputStream;
+import java.util.SortedMap;
+import java.util.TreeMap;
+import java.util.regex.Pattern;
+import org.apache.commons.net.ftp.FTPFile;
+import org.apache.commons.net.ftp.FTPReply;
+
+/**
+ * An FTP or FTPS server as file server. Names go to it as absolute paths, so nothing depends on where the session
+ * stands.
+ */
+final class FtpTransport implements Transport {
+    /** A listing's line for the directory itself or its parent; its name may be a whole path. */
+    private static final Pattern OWN_ENTRY = Pattern.compile("^(\\S*;)?type=[cp]dir;", Pattern.CASE_INSENSITIVE);
+
+    private final Settings settings;
+    private FtpSession session;
+
+    FtpTransport(Settings settings) {
+        this.settings = settings;
+    }
+
+    @Override
+    public void connect() throws FileServerException {
+        if (session == null || !session.isOpen()) {
+            session = new FtpSession(settings);
+        }
+    }
+
+    @Override
+    public void disconnect() {
+        if (session != null) {
+            session.close();
+        }
+    }
+
+    @Override
+    public Kind kind(RemotePath path) throws FileServerException {
+        if (path.isRoot()) {
+            return Kind.DIRECTORY;
+        }
+        String name = session.path(path);
+        if (session.ask(ftp -> ftp.hasFeature("MLST"))) {
+            FTPFile file = session.ask(ftp -> ftp.mlistFile(name));
+            return file == null ? absent() : kindOf(file);
+        }
+        if (session.ask(ftp -> ftp.changeWorkingDirectory(name))) {
+            return Kind.DIRECTORY;
+        }
+        session.useMode(TransferMode.BINARY);
+        if (session.ask(ftp -> ftp.getSize(name)) != null) {
+            return Kind.FILE;
+        }
+        return commandUnknown() ? kindInListing(path) : absent();
+    }
+
+    @Override
+    public long size(RemotePath file) throws FileServerException {
+        String name = session.path(file);
+        session.useMode(TransferMode.BINARY);
+        String size = session.ask(ftp -> ftp.getSize(name));
+        if (size == null && FTPReply.isNegativePermanent(session.replyCode())) {
+            // Some refuse to tell what they do send; if they refuse that too, they say better why.
+            return UNKNOWN_SIZE;
+        }
+        session.require(size != null);
+        return session.ask(ftp -> Long.parseLong(size.trim()));
+    }
+
+    @Override
+    public SortedMap<String, Kind> list(RemotePath directory) throws FileServerException {
+        String name = session.path(directory);
+        // Without an argument to the listing, no server takes a part of the name for an option or a pattern.
+        session.order(ftp -> ftp.changeWorkingDirectory(name));
+        FTPFile[] files = session.ask(ftp -> ftp.hasFeature("MLST") ? ftp.mlistDir() : ftp.listFiles());
+        session.require(FTPReply.isPositiveCompletion(session.replyCode()));
+        SortedMap<String, Kind> names = new TreeMap<>();
+        for (FTPFile file : files) {
+            if (file != null && !isDirectoryItself(file)) {
+                names.put(file.getName(), kindOf(file));
+            }
+        }
+        return names;
+    }
+
+    @Override
+    public void receive(RemotePath source, TransferMode mode, OutputStream target) throws FileServerException {
+        String name = session.path(source);
+        session.useMode(mode);
+        session.orderFile(ftp -> ftp.retrieveFile(name, target));
+    }
+
+    @Override
+    public void send(InputStream source, TransferMode mode, RemotePath target) throws FileServerException {
+        String name = session.path(target);
+        session.useMode(mode);
+        try (StallGuard guard = new StallGuard(settings.timeout, session::drop)) {
+            try {
+                session.order(ftp -> {
+                    ftp.setCopyStreamListener(guard);
+                    boolean stored = ftp.storeFile(name, source);
+                    ftp.setCopyStreamListener(null);
+                    return stored;
+                });
+            } catch (BrokenConnectionException e) {
+                throw guard.stalled() ? new BrokenConnectionException(
+                        "the server took nothing for " + settings.timeout.getSeconds() + " seconds") : e;
+            }
+        }
+    }
+
+    @Override
+    public void makeDirectory(RemotePath directory) throws FileServerException {
+        String name = session.path(directory);
+        session.order(ftp -> ftp.makeDirectory(name));
+    }
+
+    @Override
+    public void rename(RemotePath from, RemotePath to) throws FileServerException {
+        String source = session.path(from);
+        String target = session.path(to);
+        session.order(ftp -> ftp.rename(source, target));
+    }
+
+    @Override
+    public void delete(RemotePath file) throws FileServerException {
+        String name = session.path(file);
+        session.order(ftp -> ftp.deleteFile(name));
+    }
+
+    private Kind kindInListing(RemotePath path) throws FileServerException {
+        if (kind(path.parent()) != Kind.DIRECTORY) {
+            return Kind.ABSENT;
+        }
+        return list(path.parent()).getOrDefault(path.fileName(), Kind.ABSENT);
+    }
+
+    /** The server has no file of a name; unless its answer was about something else. */
+    private Kind absent() throws FileServerException {
+        session.require(session.replyCode() == FTPReply.FILE_UNAVAILABLE);
+        return Kind.ABSENT;
+    }
+
+    private boolean commandUnknown() {
+        return session.replyCode() >= 500 && session.replyCode() <= 504;
+    }
+
+    private static boolean isDirectoryItself(FTPFile file) {
+        String name = file.getName();
+        return name == null || name.equals(".") || name.equals("..")
+                || OWN_ENTRY.matcher(String.valueOf(file.getRawListing())).find();
+    }
+
+    private static Kind kindOf(FTPFile file) {
+        return file.isDirectory() ? Kind.DIRECTORY : file.isFile() ? Kind.FILE : Kind.OTHER;
+    }
+}

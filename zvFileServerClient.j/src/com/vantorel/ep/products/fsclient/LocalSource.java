@@ -1,0 +1,59 @@
+package com.vantorel.ep.products.fsclient;
+
+import java.io.FilterInputStream;
+import java.io.IOException;
+import java.nio.file.Files;
+import java.nio.file.Path;
+
+/**
+ * A local file being read. It counts, and its failures are {@link FileServerException}s, which tells them from those of
+ * the network.
+ */
+final class LocalSource extends FilterInputStream {
+    private long count;
+
+    /**
+     * @throws FileServerException when it is not a regular file that can be read
+     */
+    static LocalSource open(Path file) throws FileServerException {
+        if (Files.exists(file) && !Files.isRegularFile(file)) {
+            throw new FileServerException("'" + file + "' is not a regular file");
+        }
+        try {
+            return new LocalSource(file);
+        } catch (IOException e) {
+            throw LocalFiles.failure(e);
+        }
+    }
+
+    private LocalSource(Path file) throws IOException {
+        super(Files.newInputStream(file));
+    }
+
+    /** How many bytes have been read. */
+    long count() {
+        return count;
+    }
+
+    @Override
+    public int read() throws IOException {
+        byte[] one = new byte[1];
+        return read(one, 0, 1) < 0 ? -1 : one[0] & 0xff;
+    }
+
+    @Override
+    public int read(byte[] bytes, int offset, int length) throws IOException {
+        try {
+            int read = super.read(bytes, offset, length);
+            count += Math.max(read, 0);
+            return read;
+        } catch (IOException e) {
+            throw LocalFiles.failure(e);
+        }
+    }
+
+    @Override
+    public boolean markSupported() {
+        return false;
+    }
+}

@@ -1,0 +1,201 @@
+package com.vantorel.ep.products.fsclient;
+
+import java.io.BufferedOutputStream;
+import java.io.IOException;
+import java.io.InputStream;
+import java.io.OutputStream;
+import java.nio.channels.Channels;
+import java.nio.channels.FileChannel;
+import java.nio.file.DirectoryIteratorException;
+import java.nio.file.DirectoryStream;
+import java.nio.file.FileSystemException;
+import java.nio.file.Files;
+import java.nio.file.LinkOption;
+import java.nio.file.NoSuchFileException;
+import java.nio.file.Path;
+import java.nio.file.StandardCopyOption;
+import java.nio.file.StandardOpenOption;
+import java.nio.file.attribute.BasicFileAttributes;
+import java.util.Set;
+import java.util.SortedMap;
+import java.util.TreeMap;
+import org.apache.commons.net.io.FromNetASCIIInputStream;
+import org.apache.commons.net.io.ToNetASCIIOutputStream;
+
+/**
+ * A directory of this host as file server.
+ *
+ * <p>Below the root no symbolic link is followed, and the operation that meets one is refused. In ASCII mode both
+ * sides are this system, so a text that travels in either direction arrives with this system's line ends, as it would
+ * between two FTP hosts of its kind.
+ */
+final class LocalTransport implements Transport {
+    private final Path directory;
+    private Path root;
+
+    LocalTransport(Path directory) {
+        this.directory = directory;
+    }
+
+    @Override
+    public void connect() throws FileServerException {
+        if (!Files.isDirectory(directory)) {
+            throw new FileServerException("there is no directory '" + directory + "'");
+        }
+        if (root == null) {
+            root = attempt(directory::toRealPath);
+        }
+    }
+
+    @Override
+    public void disconnect() {
+        root = null;
+    }
+
+    @Override
+    public Kind kind(RemotePath path) throws FileServerException {
+        Path file = resolve(path);
+        return attempt(() -> kind(file));
+    }
+
+    @Override
+    public long size(RemotePath file) throws FileServerException {
+        Path path = regularFile(file);
+        return attempt(() -> Files.size(path));
+    }
+
+    @Override
+    public SortedMap<String, Kind> list(RemotePath directory) throws FileServerException {
+        Path path = resolve(directory);
+        return attempt(() -> {
+            SortedMap<String, Kind> names = new TreeMap<>();
+            try (DirectoryStream<Path> entries = Files.newDirectoryStream(path)) {
+                for (Path entry : entries) {
+                    names.put(entry.getFileName().toString(), kind(entry));
+                }
+            }
+            // An entry may have gone while the directory was being read.
+            names.values().removeIf(Kind.ABSENT::equals);
+            return names;
+        });
+    }
+
+    @Override
+    public void receive(RemotePath source, TransferMode mode, OutputStream target) throws FileServerException {
+        Path file = regularFile(source);
+        attempt(() -> {
+            try (InputStream content = Files.newInputStream(file, LinkOption.NOFOLLOW_LINKS)) {
+                return copy(content, target, mode);
+            }
+        });
+    }
+
+    @Override
+    public void send(InputStream source, TransferMode mode, RemotePath target) throws FileServerException {
+        requireDirectory(target.parent());
+        Path file = resolve(target);
+        attempt(() -> {
+            try (FileChannel channel = FileChannel.open(file, Set.of(StandardOpenOption.CREATE,
+                    StandardOpenOption.WRITE, StandardOpenOption.TRUNCATE_EXISTING, LinkOption.NOFOLLOW_LINKS))) {
+                copy(source, Channels.newOutputStream(channel), mode);
+                // The sender may remove its file once this one has its name.
+                channel.force(false);
+                return null;
+            }
+        });
+    }
+
+    @Override
+    public void makeDirectory(RemotePath directory) throws FileServerException {
+        Path path = resolve(directory);
+        attempt(() -> Files.createDirectory(path));
+    }
+
+    @Override
+    public void rename(RemotePath from, RemotePath to) throws FileServerException {
+        Path source = resolve(from);
+        Path target = resolve(to);
+        attempt(() -> Files.move(source, target, StandardCopyOption.ATOMIC_MOVE, StandardCopyOption.REPLACE_EXISTING));
+    }
+
+    @Override
+    public void delete(RemotePath file) throws FileServerException {
+        Path path = regularFile(file);
+        attempt(() -> {
+            Files.delete(path);
+            return null;
+        });
+    }
+
+    /** The path of a name below the root, of which no part is a symbolic link. */
+    private Path resolve(RemotePath name) throws FileServerException {
+        Path path = root;
+        for (String component : name.components()) {
+            path = LocalFiles.child(path, component);
+            if (Files.isSymbolicLink(path)) {
+                throw new FileServerException("'" + path + "' is a symbolic link, which is not followed");
+            }
+        }
+        return path;
+    }
+
+    private Path regularFile(RemotePath name) throws FileServerException {
+        Kind kind = kind(name);
+        if (kind != Kind.FILE) {
+            throw new FileServerException(kind == Kind.ABSENT ? "there is no file '" + name + "' on the file server"
+                                                              : "'" + name + "' is not a regular file");
+        }
+        return resolve(name);
+    }
+
+    private void requireDirectory(RemotePath name) throws FileServerException {
+        if (kind(name) != Kind.DIRECTORY) {
+            throw new FileServerException("there is no directory '" + name + "' on the file server");
+        }
+    }
+
+    private static Kind kind(Path path) throws IOException {
+        try {
+            BasicFileAttributes attributes =
+                    Files.readAttributes(path, BasicFileAttributes.class, LinkOption.NOFOLLOW_LINKS);
+            return attributes.isDirectory() ? Kind.DIRECTORY : attributes.isRegularFile() ? Kind.FILE : Kind.OTHER;
+        } catch (NoSuchFileException e) {
+            return Kind.ABSENT;
+        } catch (FileSystemException e) {
+            // Below a file there is nothing, though the system calls it a failure.
+            if (Files.isDirectory(path.getParent())) {
+                throw e;
+            }
+            return Kind.ABSENT;
+        }
+    }
+
+    private static long copy(InputStream source, OutputStream target, TransferMode mode) throws IOException {
+        if (mode == TransferMode.BINARY) {
+            return source.transferTo(target);
+        }
+        InputStream text = new FromNetASCIIInputStream(source);
+        if (!System.lineSeparator().equals("\r\n")) {
+            return text.transferTo(target);
+        }
+        // Here the network's line ends stay, and those that came without a carriage return get one.
+        BufferedOutputStream buffer = new BufferedOutputStream(target);
+        long count = text.transferTo(new ToNetASCIIOutputStream(buffer));
+        buffer.flush();
+        return count;
+    }
+
+    private interface Action<T> {
+        T run() throws IOException;
+    }
+
+    private static <T> T attempt(Action<T> action) throws FileServerException {
+        try {
+            return action.run();
+        } catch (DirectoryIteratorException e) {
+            throw LocalFiles.failure(e.getCause());
+        } catch (IOException e) {
+            throw LocalFiles.failure(e);
+        }
+    }
+}

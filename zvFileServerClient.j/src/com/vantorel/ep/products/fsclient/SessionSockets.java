@@ -1,0 +1,127 @@
+package com.vantorel.ep.products.fsclient;
+
+import java.io.FilterInputStream;
+import java.io.IOException;
+import java.io.InputStream;
+import java.net.InetAddress;
+import java.net.ServerSocket;
+import java.net.Socket;
+import java.util.Set;
+import java.util.concurrent.ConcurrentHashMap;
+import javax.net.ServerSocketFactory;
+import org.apache.commons.net.DefaultSocketFactory;
+
+/**
+ * Makes the sockets of one FTP session. It keeps hold of them, so that a stalled one can be closed from outside, and
+ * limits what a server can make the client read as an answer.
+ */
+final class SessionSockets extends DefaultSocketFactory {
+    private final Set<Socket> open = ConcurrentHashMap.newKeySet();
+    private long allowance;
+
+    /** How many bytes may come from now on. */
+    void allow(long bytes) {
+        allowance = bytes;
+    }
+
+    /** Closes every socket, also one that another thread is writing to or reading from. */
+    void closeAll() {
+        for (Socket socket : open) {
+            try {
+                socket.close();
+            } catch (IOException e) {
+                // It was to be dropped anyway.
+                open.remove(socket);
+            }
+        }
+    }
+
+    @Override
+    public Socket createSocket() {
+        return new SessionSocket();
+    }
+
+    /** Makes the sockets to which the server connects. */
+    ServerSocketFactory serverSockets() {
+        return new ServerSocketFactory() {
+            @Override
+            public ServerSocket createServerSocket(int port) throws IOException {
+                return new ListeningSocket(port, 1, null);
+            }
+
+            @Override
+            public ServerSocket createServerSocket(int port, int backlog) throws IOException {
+                return new ListeningSocket(port, backlog, null);
+            }
+
+            @Override
+            public ServerSocket createServerSocket(int port, int backlog, InetAddress address) throws IOException {
+                return new ListeningSocket(port, backlog, address);
+            }
+        };
+    }
+
+    /** Makes a data socket count as one to another port, which is where TLS then looks for a session to resume. */
+    static void presentAs(Socket socket, int port) {
+        ((SessionSocket) socket).presentedPort = port;
+    }
+
+    private final class ListeningSocket extends ServerSocket {
+        ListeningSocket(int port, int backlog, InetAddress address) throws IOException {
+            super(port, backlog, address);
+        }
+
+        @Override
+        public Socket accept() throws IOException {
+            Socket socket = createSocket();
+            implAccept(socket);
+            return socket;
+        }
+    }
+
+    private final class SessionSocket extends Socket {
+        private int presentedPort;
+
+        SessionSocket() {
+            open.add(this);
+        }
+
+        @Override
+        public int getPort() {
+            return presentedPort == 0 ? super.getPort() : presentedPort;
+        }
+
+        @Override
+        public InputStream getInputStream() throws IOException {
+            return new LimitedInput(super.getInputStream());
+        }
+
+        @Override
+        public void close() throws IOException {
+            open.remove(this);
+            super.close();
+        }
+    }
+
+    private final class LimitedInput extends FilterInputStream {
+        LimitedInput(InputStream in) {
+            super(in);
+        }
+
+        @Override
+        public int read() throws IOException {
+            byte[] one = new byte[1];
+            return read(one, 0, 1) < 0 ? -1 : one[0] & 0xff;
+        }
+
+        @Override
+        public int read(byte[] bytes, int offset, int length) throws IOException {
+            int count = super.read(bytes, offset, length);
+            allowance -= count;
+            if (allowance < 0) {
+                throw new IOException("the server's answer does not end");
+            }
+            return count;
+        }
+    }
+}

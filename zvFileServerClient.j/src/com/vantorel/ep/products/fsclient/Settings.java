@@ -1,0 +1,173 @@
+package com.vantorel.ep.products.fsclient;
+
+import java.net.URI;
+import java.net.URISyntaxException;
+import java.nio.charset.Charset;
+import java.nio.file.Path;
+import java.nio.file.Paths;
+import java.time.Duration;
+
+/**
+ * The client's configuration, checked. The keys and their defaults are described in this package's
+ * {@code fileserver.properties}.
+ */
+final class Settings {
+    private static final int IMPLICIT_FTPS_PORT = 990;
+    private static final int FTP_PORT = 21;
+    private static final int ONE_DAY = 24 * 60 * 60;
+
+    /** The kinds of url. */
+    enum Scheme { FILE, FTP, FTPS }
+
+    final Scheme scheme;
+    /** The url as text, for messages; it holds no password. */
+    final String url;
+    /** The root directory; with {@link Scheme#FILE} only. */
+    final Path directory;
+    final String host;
+    final int port;
+    /** The root, from the directory in which a login ends or from the server's top; empty for the former itself. */
+    final String serverPath;
+    final String user;
+    final String password;
+    final Duration connectTimeout;
+    final Duration timeout;
+    final int retries;
+    final Duration retryDelay;
+    final boolean passive;
+    final Charset encoding;
+    final boolean implicit;
+    final String[] protocols;
+    /** A PEM file, or null for what Java trusts. */
+    final Path certificates;
+    final boolean checkHost;
+
+    /**
+     * Reads a configuration file.
+     *
+     * @throws FileServerException naming the file, the key and the reason
+     */
+    static Settings read(Path file) throws FileServerException {
+        return new Settings(new PropertyFile(file));
+    }
+
+    private Settings(PropertyFile file) throws FileServerException {
+        implicit = file.choice("ftps-mode", "explicit", "implicit") == 1;
+        url = file.text("url");
+        URI uri = uri(file, url);
+        scheme = scheme(file, uri);
+        if (scheme == Scheme.FILE) {
+            directory = directory(file, uri);
+            host = null;
+            port = 0;
+            serverPath = null;
+        } else {
+            directory = null;
+            host = host(file, uri);
+            int usualPort = implicit && scheme == Scheme.FTPS ? IMPLICIT_FTPS_PORT : FTP_PORT;
+            port = uri.getPort() >= 0 ? uri.getPort() : usualPort;
+            serverPath = file.word("url", uri.getPath().isEmpty() ? "" : uri.getPath().substring(1));
+        }
+        user = file.word("user", file.text("user"));
+        password = password(file);
+        connectTimeout = seconds(file, "connect-timeout", 1);
+        timeout = seconds(file, "timeout", 1);
+        retries = file.number("retries", 1000);
+        retryDelay = seconds(file, "retry-delay", 0);
+        passive = file.flag("passive");
+        encoding = encoding(file);
+        protocols = file.words("ftps-protocols", "TLSv1.2", "TLSv1.3");
+        certificates = certificates(file);
+        checkHost = file.flag("ftps-check-host");
+    }
+
+    private static URI uri(PropertyFile file, String url) throws FileServerException {
+        if (url.isEmpty()) {
+            throw file.failure("url", "it is missing");
+        }
+        if (url.matches("(?i)ftps?:.*@.*")) {
+            throw file.failure("url",
+                    "an account belongs in the keys user and password, and an @ in the path is written %40");
+        }
+        try {
+            return new URI(url);
+        } catch (URISyntaxException e) {
+            throw file.failure("url", "'" + url + "' is not a url: " + e.getReason());
+        }
+    }
+
+    private static Scheme scheme(PropertyFile file, URI uri) throws FileServerException {
+        for (Scheme scheme : Scheme.values()) {
+            if (scheme.name().equalsIgnoreCase(uri.getScheme())) {
+                return scheme;
+            }
+        }
+        throw file.failure("url", "the scheme of '" + uri + "' is none of file, ftp, ftps");
+    }
+
+    private static Path directory(PropertyFile file, URI uri) throws FileServerException {
+        try {
+            return Paths.get(uri);
+        } catch (IllegalArgumentException e) {
+            throw file.failure("url", "'" + uri + "' names no directory of this host: " + e.getMessage());
+        }
+    }
+
+    private static String host(PropertyFile file, URI uri) throws FileServerException {
+        if (uri.getHost() == null) {
+            throw file.failure("url", "'" + uri + "' names no host");
+        }
+        if (uri.getPort() > 65535) {
+            throw file.failure("url", "'" + uri + "' has a port above 65535");
+        }
+        if (uri.getQuery() != null || uri.getFragment() != null) {
+            throw file.failure("url", "'" + uri + "' has a ? or # (write %3F or %23)");
+        }
+        // An IPv6 address stands in brackets in a url, and nowhere else.
+        return uri.getHost().replaceAll("[\\[\\]]", "");
+    }
+
+    private static String password(PropertyFile file) throws FileServerException {
+        String password = file.exactly("password");
+        String variable = file.text("password-env");
+        if (variable.isEmpty()) {
+            return file.word("password", password);
+        }
+        if (!password.isEmpty()) {
+            throw file.failure("password-env", "there is a password too");
+        }
+        password = System.getenv(variable);
+        if (password == null) {
+            throw file.failure("password-env", "there is no environment variable '" + variable + "'");
+        }
+        return file.word("password-env", password);
+    }
+
+    private static Duration seconds(PropertyFile file, String key, int lowest) throws FileServerException {
+        int seconds = file.number(key, ONE_DAY);
+        if (seconds < lowest) {
+            throw file.failure(key, "it must be at least " + lowest);
+        }
+        return Duration.ofSeconds(seconds);
+    }
+
+    private static Charset encoding(PropertyFile file) throws FileServerException {
+        try {
+            return Charset.forName(file.text("encoding"));
+        } catch (IllegalArgumentException e) {
+            throw file.failure("encoding", "'" + file.text("encoding") + "' is not known");
+        }
+    }
+
+    private static Path certificates(PropertyFile file) throws FileServerException {
+        String name = file.text("ftps-certificates");
+        if (name.isEmpty()) {
+            return null;
+        }
+        try {
+            return file.file().toAbsolutePath().resolveSibling(name);
+        } catch (IllegalArgumentException e) {
+            throw file.failure("ftps-certificates", "'" + name + "' is no file name on this host");
+        }
+    }
+}

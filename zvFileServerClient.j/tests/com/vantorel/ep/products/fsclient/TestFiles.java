@@ -1,0 +1,44 @@
+package com.vantorel.ep.products.fsclient;
+
+import static org.junit.Assert.assertThrows;
+import static org.junit.Assert.assertTrue;
+
+import java.io.IOException;
+import java.nio.file.Files;
+import java.nio.file.Path;
+import java.util.SortedMap;
+import java.util.TreeMap;
+import java.util.stream.Collectors;
+import java.util.stream.Stream;
+import org.junit.function.ThrowingRunnable;
+
+/** Directories and refusals, as the tests look at them. */
+final class TestFiles {
+    private TestFiles() {}
+
+    /** Makes files whose content is their name. */
+    static void fill(Path directory, String... names) throws IOException {
+        for (String name : names) {
+            Files.writeString(directory.resolve(name), name);
+        }
+    }
+
+    /** The regular files below a directory, with their content if it is short. */
+    static SortedMap<String, String> tree(Path directory) throws IOException {
+        try (Stream<Path> files = Files.walk(directory)) {
+            SortedMap<String, String> contents = new TreeMap<>();
+            for (Path file : files.filter(Files::isRegularFile).collect(Collectors.toList())) {
+                contents.put(directory.relativize(file).toString(),
+                        Files.size(file) < 1000 ? Files.readString(file) : Files.size(file) + " bytes");
+            }
+            return contents;
+        }
+    }
+
+    /** Expects a failure whose message says what could not be done and, as a pattern, why. */
+    static FileServerException refused(String reason, ThrowingRunnable operation) {
+        FileServerException failure = assertThrows(FileServerException.class, operation);
+        assertTrue(failure.getMessage(), failure.getMessage().matches("(?s)Cannot .*(" + reason + ").*"));
+        return failure;
+    }
+}
