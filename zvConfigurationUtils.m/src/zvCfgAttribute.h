@@ -1,0 +1,47 @@
+#ifndef ZV_CFG_ATTRIBUTE_H
+#define ZV_CFG_ATTRIBUTE_H
+
+#include "zvCfgOptionalAttributes.h"
+#include "zvCoreObject.h"
+#include "zvValue.h"
+
+/// An attribute that is carried across between the two systems: its names there, its type and its default.
+class ZV_EXPORT zvCfgAttribute : public zvCoreObjectCfg, public zvCfgOptionalAttributes {
+public:
+    /// No names, no default value, data type None.
+    zvCfgAttribute();
+    zvCfgAttribute(const zvCfgAttribute& other);
+    ~zvCfgAttribute() override;
+
+    zvCfgAttribute& operator=(const zvCfgAttribute& other);
+
+    /// The attribute's key in the configuration.
+    zvString getKeyName() const { return m_strKeyName; }
+    void setKeyName(zvString name) { m_strKeyName.swap(name); }
+    zvString getLocalName() const { return m_strLocalName; }
+    void setLocalName(zvString name) { m_strLocalName.swap(name); }
+    zvString getRemoteName() const { return m_strRemoteName; }
+    void setRemoteName(zvString name) { m_strRemoteName.swap(name); }
+    zvDataTypeEnum getDataType() const { return m_eDataType; }
+    void setDataType(zvDataTypeEnum type) { m_eDataType = type; }
+    /// The value to use when none is given.
+    zvString getDefaultValue() const { return m_strDefaultValue; }
+    void setDefaultValue(zvString value) { m_strDefaultValue.swap(value); }
+
+    bool isKeyAttribute() const { return !m_strKeyName.empty(); }
+    bool isDefaultValueSpecified() const { return !m_strDefaultValue.empty(); }
+
+    /// The names themselves, owned by the attribute.
+    const zvString& keyName() const { return m_strKeyName; }
+    const zvString& localName() const { return m_strLocalName; }
+    const zvString& remoteName() const { return m_strRemoteName; }
+
+private:
+    zvString m_strKeyName;
+    zvString m_strLocalName;
+    zvString m_strRemoteName;
+    zvDataTypeEnum m_eDataType = zvDataTypeNone;
+    zvString m_strDefaultValue;
+};
+
+#endif

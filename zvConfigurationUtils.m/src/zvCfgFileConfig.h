@@ -1,0 +1,49 @@
+#ifndef ZV_CFG_FILE_CONFIG_H
+#define ZV_CFG_FILE_CONFIG_H
+
+#include <set>
+
+#include "zvCfgFile.h"
+#include "zvCfgFileList.h"
+#include "zvCfgTypeIndex.h"
+#include "zvStringList.h"
+
+/// File extensions in the order of their addition, which are looked up without regard to case.
+class zvCfgExtensionList {
+public:
+    void add(const zvString& name);
+    bool has(zvString name) const;
+    const zvStringList& names() const { return m_names; }
+
+private:
+    zvStringList m_names;
+    std::set<zvString> m_lowered;
+};
+
+/// The store of the mapped file types. The object store owns them.
+class zvCfgFileConfig {
+public:
+    /// The file is not null and stays as it is.
+    void add(zvCfgFile* file);
+
+    /// Null for an unknown type.
+    const zvCfgFileList* byOotbType(const zvString& type) const { return m_byOotbType.find(type); }
+    const zvCfgFileList* byLocalType(const zvString& type) const { return m_byLocalType.find(type); }
+    const zvCfgFileList* byRemoteType(const zvString& type) const { return m_byRemoteType.find(type); }
+
+    const zvCfgExtensionList& importable() const { return m_importable; }
+    const zvCfgExtensionList& exportable() const { return m_exportable; }
+
+    /// In the order of addition.
+    const zvCfgFileList& files() const { return m_files; }
+
+private:
+    zvCfgTypeIndex<zvCfgFileList> m_byOotbType;
+    zvCfgTypeIndex<zvCfgFileList> m_byLocalType;
+    zvCfgTypeIndex<zvCfgFileList> m_byRemoteType;
+    zvCfgExtensionList m_importable;
+    zvCfgExtensionList m_exportable;
+    zvCfgFileList m_files;
+};
+
+#endif

@@ -1,0 +1,5 @@
+#include "zvCfgFileExtension.h"
+
+zvCfgFileExtension::zvCfgFileExtension() = default;
+
+zvCfgFileExtension::~zvCfgFileExtension() = default;

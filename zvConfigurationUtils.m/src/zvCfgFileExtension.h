@@ -1,0 +1,31 @@
+#ifndef ZV_CFG_FILE_EXTENSION_H
+#define ZV_CFG_FILE_EXTENSION_H
+
+#include "zvCfgObject.h"
+#include "zvTransferModeEnum.h"
+
+/// A file extension that a mapped file type allows. It is an object by inheritance only and uses nothing of
+/// it.
+class ZV_EXPORT zvCfgFileExtension : public zvCfgObject {
+public:
+    /// No name, neither import nor export, binary transfer.
+    zvCfgFileExtension();
+    ~zvCfgFileExtension() override;
+
+    zvString getName() const { return m_strName; }
+    void setName(zvString name) { m_strName.swap(name); }
+    bool isImportAllowed() const { return m_bImportAllowed; }
+    void setImportAllowed(bool allowed) { m_bImportAllowed = allowed; }
+    bool isExportAllowed() const { return m_bExportAllowed; }
+    void setExportAllowed(bool allowed) { m_bExportAllowed = allowed; }
+    zvTransferModeEnum getTransferMode() const { return m_eTransferMode; }
+    void setTransferMode(zvTransferModeEnum mode) { m_eTransferMode = mode; }
+
+private:
+    zvString m_strName;
+    bool m_bImportAllowed = false;
+    bool m_bExportAllowed = false;
+    zvTransferModeEnum m_eTransferMode = zvTransferModeBinary;
+};
+
+#endif

@@ -1,0 +1,43 @@
+#ifndef ZV_CFG_MGR_XML_PARSER_H
+#define ZV_CFG_MGR_XML_PARSER_H
+
+#include <memory>
+
+#include "zvCoreObject.h"
+#include "zvResult.h"
+#include "zvXMLParser.h"
+
+/// Reads a configuration file into the configuration manager, once per process and before any lookup. A
+/// further parse adds to what is there.
+class ZV_EXPORT zvCfgMgrXmlParser : public zvCoreObjectCfg {
+public:
+    zvCfgMgrXmlParser();
+    zvCfgMgrXmlParser(const zvCfgMgrXmlParser&) = delete;
+    zvCfgMgrXmlParser& operator=(const zvCfgMgrXmlParser&) = delete;
+    ~zvCfgMgrXmlParser() override;
+
+    /// Reads a file, `source` being its path, or the XML text that `source` is. Nothing is thrown.
+    ///
+    /// @return code 0, or a failure with the message that was logged: 1 for a source that cannot be loaded, 2
+    /// for a root without child elements, 3 for a root of another name, 4, 5 and 6 for a section with
+    /// objects, lifecycles and views that failed, and -1 for an exception such as a mapping rule's that is
+    /// none. A failure ends the parse; the manager keeps what was added before. Smaller errors are logged,
+    /// and what they concern is left out.
+    zvResult parse(const zvString& source, bool isFile);
+
+    /// The name of the remote system that the last parse found; empty when the file has none.
+    zvString getPdmSystemName() const { return m_strPdmSystemName; }
+
+protected:
+    /// The "PdmSystemName" of the root, which the cursor of the parser stands on.
+    zvString parsePdmSystemName();
+
+private:
+    zvResult parseDocument(const zvString& source, bool isFile);
+    zvResult parseSections(const zvString& source);
+
+    std::unique_ptr<zvXMLParser> m_pParser;  // there during parse() only
+    zvString m_strPdmSystemName;
+};
+
+#endif

@@ -1,0 +1,96 @@
+#include "zvCfgObject.h"
+
+#include "zvLogSource.h"
+#include "zvMapIndex.h"
+
+namespace {
+
+constexpr zvLogSource logger("zvConfigurationUtils.m/src/zvCfgObject");
+
+template <class Index>
+const zvCfgAttribute* findIn(const Index& index, const zvString& name) {
+    const auto found = index.find(name);
+    return found == index.end() ? nullptr : found->second;
+}
+
+}  // namespace
+
+zvCfgObject::zvCfgObject() = default;
+
+zvCfgObject::~zvCfgObject() = default;
+
+bool zvCfgObject::addAttribute(zvCfgAttribute* attribute) {
+    if (attribute == nullptr) {
+        logger.error("NULL pointer passed to function \"zvCfgObject::addAttribute\"");
+        return false;
+    }
+    m_attributes.add(attribute);
+    const zvString& localName = attribute->localName();
+    const zvString& remoteName = attribute->remoteName();
+    const zvString& key = attribute->keyName();
+    if (localName.empty() && remoteName.empty() && key.empty()) {
+        logger.warn("The attribute doesn't have any RemoteName or LocalName or Key!");
+        return false;
+    }
+    bool added = false;
+    if (!localName.empty()) {
+        added = m_byLocalName.try_emplace(localName, attribute).second;
+        if (!added) {
+            logger.warn("Attribute with Local Name : ", localName,
+                        " cannot be added to the object of local custom type : ", m_strLocalCustomType);
+        }
+    }
+    if (!remoteName.empty()) {
+        added = m_byRemoteName.try_emplace(remoteName, attribute).second;
+        if (!added) {
+            logger.warn("Attribute with Remote name : ", remoteName,
+                        " cannot be added to the object with local custom type : ", m_strLocalCustomType);
+        }
+    }
+    if (key.empty()) {
+        m_nonKeyAttributes.push_back(attribute);
+    } else {
+        added = m_byKey.try_emplace(key, attribute).second;
+        if (!added) {
+            logger.warn("Attribute with Key : ", key,
+                        " cannot be added to the object of local custom type : ", m_strLocalCustomType);
+        }
+    }
+    if (attribute->isDefaultValueSpecified()) {
+        m_defaultAttributes.push_back(attribute);
+    }
+    return added;
+}
+
+const zvCfgAttribute* zvCfgObject::getAttribute(int i) const { return m_attributes.at(i); }
+
+int zvCfgObject::numKeyAttributes() const { return static_cast<int>(m_byKey.size()); }
+
+const zvCfgAttribute* zvCfgObject::getKeyAttribute(int i) const {
+    const Index::value_type* const entry = zvMapEntryAt(m_byKey, i);
+    return entry == nullptr ? nullptr : entry->second;
+}
+
+int zvCfgObject::numNonKeyAttributes() const { return static_cast<int>(m_nonKeyAttributes.size()); }
+
+const zvCfgAttribute* zvCfgObject::getNonKeyAttribute(int i) const {
+    return zvCfgEntryAt(m_nonKeyAttributes, i);
+}
+
+int zvCfgObject::numDefaultAttributes() const { return static_cast<int>(m_defaultAttributes.size()); }
+
+const zvCfgAttribute* zvCfgObject::getDefaultAttribute(int i) const {
+    return zvCfgEntryAt(m_defaultAttributes, i);
+}
+
+const zvCfgAttribute* zvCfgObject::getAttributeByKey(const zvString& key) const {
+    return findIn(m_byKey, key);
+}
+
+const zvCfgAttribute* zvCfgObject::getAttributeByLocalName(const zvString& name) const {
+    return findIn(m_byLocalName, name);
+}
+
+const zvCfgAttribute* zvCfgObject::getAttributeByRemoteName(const zvString& name) const {
+    return findIn(m_byRemoteName, name);
+}

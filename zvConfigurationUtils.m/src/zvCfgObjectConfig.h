@@ -1,0 +1,32 @@
+#ifndef ZV_CFG_OBJECT_CONFIG_H
+#define ZV_CFG_OBJECT_CONFIG_H
+
+#include "zvCfgObject.h"
+#include "zvCfgObjectList.h"
+#include "zvCfgTypeIndex.h"
+
+/// The store of the mapped objects, files included. It owns them.
+class zvCfgObjectConfig {
+public:
+    /// Takes the object, which is not null.
+    void add(zvCfgObject* object);
+
+    /// Null for an unknown type.
+    const zvCfgObjectList* byOotbType(const zvString& type) const { return m_byOotbType.find(type); }
+    const zvCfgObjectList* byLocalType(const zvString& type) const { return m_byLocalType.find(type); }
+    const zvCfgObjectList* byRemoteType(const zvString& type) const { return m_byRemoteType.find(type); }
+    const zvCfgObjectList* byTypes(const zvString& localType, const zvString& remoteType) const;
+
+    /// In the order of addition.
+    int size() const { return m_objects.size(); }
+    const zvCfgObject* at(int i) const { return m_objects.at(i); }
+
+private:
+    zvCfgTypeIndex<zvCfgObjectList> m_byOotbType;
+    zvCfgTypeIndex<zvCfgObjectList> m_byLocalType;
+    zvCfgTypeIndex<zvCfgObjectList> m_byRemoteType;
+    zvCfgTypeIndex<zvCfgObjectList> m_byTypes;  // the two names, one behind the other
+    zvCfgOwner<zvCfgObject> m_objects;
+};
+
+#endif

@@ -1,0 +1,24 @@
+#ifndef ZV_CFG_OBJECT_XML_PARSER_H
+#define ZV_CFG_OBJECT_XML_PARSER_H
+
+#include "zvResult.h"
+#include "zvXMLParser.h"
+
+/// Reads the section with the mapped objects and file types of a configuration file into the configuration
+/// manager.
+class ZV_EXPORT zvCfgObjectXmlParser {
+public:
+    zvCfgObjectXmlParser();
+    zvCfgObjectXmlParser(const zvCfgObjectXmlParser& other);
+    virtual ~zvCfgObjectXmlParser();
+
+    zvCfgObjectXmlParser& operator=(const zvCfgObjectXmlParser& other);
+
+    /// Reads the section that the cursor of `parser` stands on. What is wrong in it is logged and left out;
+    /// the result is a failure only without an element to read.
+    ///
+    /// @throws zvException for a mapping rule that is none, with what came before it in the manager.
+    zvResult parseObjectConfig(zvXMLParser& parser) const;
+};
+
+#endif
