@@ -1,10 +1,18 @@
 #include "zvEventRoad.h"
 
+#include <filesystem>
+#include <system_error>
+
+#include "zvAttachmentList.h"
+#include "zvAttachmentParser.h"
 #include "zvCharString.h"
 #include "zvCommonUtils.h"
 #include "zvConsole.h"
 #include "zvDirFileUtils.h"
+#include "zvDocumentWatch.h"
+#include "zvException.h"
 #include "zvLogger.h"
+#include "zvMappingStep.h"
 #include "zvPlatform.h"
 #include "zvSecrets.h"
 #include "zvStepFailure.h"
@@ -19,6 +27,7 @@ constexpr int readAndWrite = 6;
 
 constexpr char homeStep[] = "gateway home";
 constexpr char shadowStep[] = "shadow directory";
+constexpr char attachmentsStep[] = "attachments";
 
 unsigned long accessError(const zvString& path, int mode) {
     return zvPlatform::accessError(zvCharString(path).data(), mode);
@@ -39,6 +48,21 @@ zvStepFailure homeFailure(const zvString& file, const std::string& reason) {
 
 zvStepFailure shadowFailure(const zvString& file, const std::string& reason) {
     return {zvExitCode::shadowDirectory, shadowStep, zvConsole::printablePath(file), reason};
+}
+
+zvStepFailure attachmentsFailure(const zvString& file, const std::string& reason) {
+    return {zvExitCode::attachments, attachmentsStep, zvConsole::printablePath(file), reason};
+}
+
+void requireReadable(const zvString& file) {
+    const unsigned long error = accessError(file, readable);
+    if (error != 0) {
+        throw attachmentsFailure(file, zvPlatform::errorText(error));
+    }
+}
+
+std::string modeOf(const zvAttachment& attachment) {
+    return zvConsole::printable(zvAttachment::getFileTransferModeStr(attachment.getFileTransferMode()));
 }
 
 // A home without a log configuration runs without a log; one whose configuration is of no use does not run.
@@ -75,6 +99,15 @@ void zvEventRoad::run() {
     requireArguments();
     findGatewayHome();
     prepareShadowDirectory();
+    const zvString dataFile = inShadowDirectory(argument("DataFileName"));
+    zvMappingStep(*m_pArguments, dataFile).run();
+    readAttachments();
+}
+
+zvString zvEventRoad::argument(const char* key) const { return m_pArguments->getEventArgumentValue(key); }
+
+zvString zvEventRoad::inShadowDirectory(const zvString& name) const {
+    return argument("RootShadowDir") + "\\" + argument("EventShadowDir") + "\\" + name;
 }
 
 void zvEventRoad::readArguments() {
@@ -99,14 +132,14 @@ void zvEventRoad::readArguments() {
 void zvEventRoad::requireArguments() const {
     std::string missing;
     for (const char* const key : requiredArguments) {
-        if (m_pArguments->getEventArgumentValue(key).empty()) {
+        if (argument(key).empty()) {
             missing += (missing.empty() ? "" : ", ") + std::string(key);
         }
     }
     if (!missing.empty()) {
         throw zvStepFailure{zvExitCode::usage, "arguments", missing, "missing (see zvgateway --help)"};
     }
-    const zvString event = m_pArguments->getEventArgumentValue("EventName");
+    const zvString event = argument("EventName");
     if (!isKnownEvent(event)) {
         zvConsole::fact("warning", "\"" + zvConsole::printable(event) + "\" is none of the known events");
     }
@@ -131,21 +164,65 @@ void zvEventRoad::findGatewayHome() {
 
 void zvEventRoad::prepareShadowDirectory() {
     zvConsole::step(shadowStep);
-    const zvString root = m_pArguments->getEventArgumentValue("RootShadowDir");
+    const zvString root = argument("RootShadowDir");
     const unsigned long error = accessError(root, readAndWrite);
     if (error != 0) {
         throw shadowFailure(root, zvPlatform::errorText(error));
     }
-    if (!zvEventArguments::populateEventArguments(root, *m_pArguments).isOk()) {
-        throw shadowFailure(root, zvPlatform::errorText(zvPlatform::lastError()));
+    const zvResult made = zvEventArguments::populateEventArguments(root, *m_pArguments);
+    const std::string reason =
+        made.getMessage().empty() ? "it could not be created" : zvConsole::printable(made.getMessage());
+    if (!made.isOk()) {
+        throw shadowFailure(root, reason);
     }
-    const zvString directory = root + "\\" + m_pArguments->getEventArgumentValue("EventShadowDir");
-    zvConsole::fact("directory", zvConsole::printablePath(directory));
+    zvConsole::fact("directory", zvConsole::printablePath(root + "\\" + argument("EventShadowDir")));
     for (const char* const key : {"DataFileName", "AttachmentsFileName"}) {
-        const zvString file = directory + "\\" + m_pArguments->getEventArgumentValue(key);
+        const zvString file = inShadowDirectory(argument(key));
         if (!zvDirFileUtils::isAccessible(file, existence)) {
-            throw shadowFailure(file, zvPlatform::errorText(zvPlatform::lastError()));
+            throw shadowFailure(file, reason);
         }
         zvConsole::fact(key, zvConsole::printablePath(file));
     }
+}
+
+void zvEventRoad::readAttachments() {
+    const zvString source = argument("AttachmentsFile");
+    if (source.empty()) {
+        return;
+    }
+    zvConsole::step(attachmentsStep);
+    requireReadable(source);
+    zvAttachmentList attachments;
+    const zvDocumentWatch watch;
+    try {
+        zvAttachmentParser().parse(&attachments, source, true);
+    } catch (const zvException& exception) {
+        throw attachmentsFailure(source, zvConsole::printable(exception.getResult().getMessage()));
+    }
+    if (!watch.complaint().empty()) {
+        throw attachmentsFailure(source, watch.complaint());
+    }
+    for (int i = 0; i < attachments.numAttachments(); ++i) {
+        const zvAttachment& attachment = *attachments.getAttachment(i);
+        requireReadable(attachment.getFilePath());
+        zvConsole::fact(modeOf(attachment), zvConsole::printablePath(attachment.getFilePath()) +
+                                                (attachment.getToBeDeleted() ? ", then deleted" : ""));
+    }
+    if (attachments.empty()) {
+        zvConsole::fact("none", "in " + zvConsole::printablePath(source));
+    }
+    copyIntoShadowDirectory(source);
+}
+
+// The event's directory has everything that belongs to the event.
+void zvEventRoad::copyIntoShadowDirectory(const zvString& attachmentsFile) const {
+    const zvString target = inShadowDirectory(argument("AttachmentsFileName"));
+    std::error_code error;
+    std::filesystem::copy_file(zvPlatform::nativePath(zvCharString(attachmentsFile).data()),
+                               zvPlatform::nativePath(zvCharString(target).data()),
+                               std::filesystem::copy_options::overwrite_existing, error);
+    if (error) {
+        throw attachmentsFailure(target, error.message());
+    }
+    zvConsole::fact("list", zvConsole::printablePath(target));
 }

@@ -25,6 +25,12 @@ private:
     void requireArguments() const;
     void findGatewayHome();
     void prepareShadowDirectory();
+    void readAttachments();
+    void copyIntoShadowDirectory(const zvString& attachmentsFile) const;
+
+    zvString argument(const char* key) const;
+    /// The path of `name` in the event's shadow directory.
+    zvString inShadowDirectory(const zvString& name) const;
 
     std::vector<std::string> m_commandLine;
     std::unique_ptr<zvEventArguments, Destroy> m_pArguments;

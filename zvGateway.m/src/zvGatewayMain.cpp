@@ -5,7 +5,9 @@
 #include <vector>
 
 #include "zvCharString.h"
+#include "zvCommonUtils.h"
 #include "zvConsole.h"
+#include "zvEvaluateCommand.h"
 #include "zvEventRoad.h"
 #include "zvException.h"
 #include "zvPlatform.h"
@@ -14,25 +16,33 @@
 
 namespace {
 
-constexpr char description[] = "Takes one event through the gateway.";
-
 constexpr char footer[] = R"(The event comes as arguments of the form key=value. Needed are
-  EventName             the event, as in publishLkPart
-  EventTriggeredByUser  the user
-  RootShadowDir         the folder under which the event gets a directory of its own
+  EventName              the event, as in publishLkPart
+  EventTriggeredByUser   the user
+  RootShadowDir          the folder under which the event gets a directory of its own
+and there may be
+  LocalType, RemoteType  the type of the event's object in the system that it comes from: it is mapped
+  attr.NAME              an attribute of the object
+  FromState, ToState     lifecycle states of the object: the way between them is shown
+  ConfigFile             the configuration, in the place of the gateway home's
+  AttachmentsFile        an XML file that lists the files which the event carries
 All others travel with the event. A "\" before a "=" puts the "=" into the key. The values of LoginPassword and
 KPDMPasswd are never shown.
 
 The environment variable GATEWAY_HOME names the gateway's home, with
   config/client-config.ini  "local-server-url=..."
   config/log4cxx.xml        what is logged and where; without it, nothing is
+  config/customization-config.xml  the mapping between the two systems
 
 Exit codes
   0  the event went the whole road
   1  something unexpected
-  2  the command line: an unknown option, or an argument is missing
+  2  the command line: an unknown option, an argument is missing or of no use
   3  the gateway home or a configuration file in it
-  4  the event's shadow directory)";
+  4  the event's shadow directory
+  5  the event's attachments
+  6  the configuration file
+  7  the mapping of the event's object)";
 
 int fail(zvExitCode code, const std::string& message) {
     std::fflush(stdout);
@@ -40,37 +50,65 @@ int fail(zvExitCode code, const std::string& message) {
     return static_cast<int>(code);
 }
 
-int takeEvent(const std::vector<std::string>& arguments) {
+zvExitCode takeEvent(const std::vector<std::string>& arguments) {
     for (const std::string& argument : arguments) {
         if (argument.rfind('-', 0) == 0) {
-            return fail(zvExitCode::usage,
-                        "unknown option " +
-                            zvConsole::printable(zvSecrets::maskedArgument(argument.c_str())) +
-                            " (see zvgateway --help)");
+            throw zvStepFailure{zvExitCode::usage, "options",
+                                zvConsole::printable(zvSecrets::maskedArgument(argument.c_str())),
+                                "there is no such option (see zvgateway --help)"};
         }
     }
-    try {
-        zvEventRoad(arguments).run();
-        return static_cast<int>(zvExitCode::success);
-    } catch (const zvStepFailure& failure) {
-        return fail(failure.exitCode, failure.step + ": " + failure.subject + ": " + failure.reason);
-    } catch (const zvException& exception) {
-        return fail(zvExitCode::unexpected, zvCharString(exception.getResult().getMessage()).data());
+    zvEventRoad(arguments).run();
+    return zvExitCode::success;
+}
+
+// The subcommands need no gateway home. Without one the library would say so on standard output, in the
+// middle of the answer: it is given one that holds nothing.
+void goWithoutHome() {
+    const zvString variable = zvCommonUtils::getGatewayHomeEnvVariable();
+    if (zvCommonUtils::getEnvironmentalVariable(variable).empty()) {
+        zvPlatform::setEnvironment(zvCharString(variable).data(), "no-gateway-home");
     }
+}
+
+// Declares the program's options, and runs what the command line asks for.
+int runProgram(int argc, char** argv) {
+    CLI::App program("Takes one event through the gateway: zvgateway key=value ...", "zvgateway");
+    program.footer(footer);
+    program.set_version_flag("--version", "zvgateway " ZV_VERSION);
+    program.allow_extras();
+
+    zvEvaluateCommand evaluation;
+    CLI::App& eval = *program.add_subcommand("eval", "Evaluates a condition, as mapping rules have them");
+    eval.add_option("condition", evaluation.condition, "As in \"{state} = 'RELEASED' AND NOT {rev} < '2'\"")
+        ->required();
+    eval.add_option("attributes", evaluation.attributes,
+                    "name=value or name:Type=value, the type being Integer, Float, String, Date or Boolean");
+    eval.add_flag("--explain", evaluation.explain, "Prints the outcome of every part");
+    eval.footer("Prints true or false. A condition or an attribute that is of no use: exit code 2.");
+
+    try {
+        program.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        // Prints the help, the version or what is wrong; the first two are no failures.
+        return program.exit(error) == 0 ? 0 : static_cast<int>(zvExitCode::usage);
+    }
+    if (!program.get_subcommands().empty()) {
+        goWithoutHome();
+    }
+    return static_cast<int>(eval.parsed() ? evaluation.run() : takeEvent(program.remaining()));
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+    zvPlatform::adoptUserLocale();
     try {
-        zvPlatform::adoptUserLocale();
-        CLI::App program(description, "zvgateway");
-        program.footer(footer);
-        program.set_version_flag("--version", "zvgateway " ZV_VERSION);
-        program.allow_extras();
-        program.allow_windows_style_options(false);
-        CLI11_PARSE(program, argc, argv);
-        return takeEvent(program.remaining());
+        return runProgram(argc, argv);
+    } catch (const zvStepFailure& failure) {
+        return fail(failure.exitCode, failure.step + ": " + failure.subject + ": " + failure.reason);
+    } catch (const zvException& exception) {
+        return fail(zvExitCode::unexpected, zvConsole::printable(exception.getResult().getMessage()));
     } catch (const std::exception& exception) {
         return fail(zvExitCode::unexpected, exception.what());
     }

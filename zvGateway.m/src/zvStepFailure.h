@@ -4,7 +4,16 @@
 #include <string>
 
 /// The program's exit codes; every step of the road has one of its own.
-enum class zvExitCode { success = 0, unexpected = 1, usage = 2, gatewayHome = 3, shadowDirectory = 4 };
+enum class zvExitCode {
+    success = 0,
+    unexpected = 1,
+    usage = 2,
+    gatewayHome = 3,
+    shadowDirectory = 4,
+    attachments = 5,
+    configuration = 6,
+    mapping = 7
+};
 
 /// Thrown by a step that could not do its job: it ends the road.
 struct zvStepFailure {

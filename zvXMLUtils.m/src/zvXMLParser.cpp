@@ -139,7 +139,7 @@ bool zvXMLParser::getRoot(zvString& tag) {
     if (m_pCurrentNode == nullptr) {
         return false;
     }
-    tag.clear();
+    tag.reset();
     DOMNode* root = nullptr;
     for (DOMNode* node = m_pCurrentNode; node != nullptr; node = node->getParentNode()) {
         if (asElement(node) != nullptr) {
@@ -157,7 +157,7 @@ bool zvXMLParser::getParent(zvString& tag) {
     if (m_pCurrentNode == nullptr) {
         return false;
     }
-    tag.clear();
+    tag.reset();
     return changeCurrentNode(m_pCurrentNode->getParentNode(), tag);
 }
 
@@ -165,12 +165,12 @@ bool zvXMLParser::getFirstChild(zvString& tag) {
     if (m_pCurrentNode == nullptr) {
         return false;
     }
-    tag.clear();
+    tag.reset();
     return changeCurrentNode(firstOf(DOMNode::ELEMENT_NODE, m_pCurrentNode->getFirstChild()), tag);
 }
 
 bool zvXMLParser::getNextSibling(zvString& tag) {
-    tag.clear();
+    tag.reset();
     return m_pCurrentNode != nullptr &&
            changeCurrentNode(firstOf(DOMNode::ELEMENT_NODE, m_pCurrentNode->getNextSibling()), tag);
 }
@@ -179,7 +179,7 @@ bool zvXMLParser::getTag(zvString& tag) const {
     if (m_pCurrentNode == nullptr) {
         return false;
     }
-    tag = toString(m_pCurrentNode->getNodeName());
+    zvXMLText::assign(tag, m_pCurrentNode->getNodeName());
     return !tag.empty();
 }
 
@@ -187,12 +187,12 @@ bool zvXMLParser::getMemberValue(zvString& value) const {
     if (m_pCurrentNode == nullptr) {
         return false;
     }
-    value.clear();
+    value.reset();
     const DOMNode* const text = getChildTextNode(m_pCurrentNode);
     if (text == nullptr) {
         return false;
     }
-    value = toString(text->getNodeValue());
+    zvXMLText::assign(value, text->getNodeValue());
     return true;
 }
 
@@ -201,14 +201,14 @@ bool zvXMLParser::getAttribute(const zvString& name, zvString& value) const {
 }
 
 bool zvXMLParser::getAttribute(DOMNode* node, const zvString& name, zvString& value) const {
-    value.clear();
+    value.reset();
     const DOMNamedNodeMap* const attributes = node == nullptr ? nullptr : node->getAttributes();
     const DOMNode* const attribute =
         attributes == nullptr ? nullptr : attributes->getNamedItem(zvXMLChars(name).get());
     if (attribute == nullptr) {
         return false;
     }
-    value = toString(attribute->getNodeValue());
+    zvXMLText::assign(value, attribute->getNodeValue());
     return true;
 }
 

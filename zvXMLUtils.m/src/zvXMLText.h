@@ -1,7 +1,7 @@
 #ifndef ZV_XML_TEXT_H
 #define ZV_XML_TEXT_H
 
-#include <algorithm>
+#include <cstring>
 #include <memory>
 #include <string_view>
 #include <type_traits>
@@ -15,20 +15,24 @@ namespace zvXMLText {
 
 static_assert(std::is_same_v<XMLCh, char16_t>, "zvString reads the XML library's characters as char16_t");
 
-/// Empty for null.
+/// Empty for null, as is the text in `out`, which keeps its buffer.
 inline zvString toString(const XMLCh* text) { return {text}; }
+inline void assign(zvString& out, const XMLCh* text) { out = text; }
 
 }  // namespace zvXMLText
 
 /// A zvString as the XML library takes it: 0-terminated, never null.
 class zvXMLChars {
 public:
-    explicit zvXMLChars(const zvString& text) : m_uLength(static_cast<std::size_t>(text.size())), m_inline{} {
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): most of the inline buffer is never looked at
+    explicit zvXMLChars(const zvString& text) : m_uLength(static_cast<std::size_t>(text.size())) {
         if (m_uLength >= inlineCapacity) {
             m_pHeap = std::make_unique<XMLCh[]>(m_uLength + 1);
         }
         XMLCh* const out = m_pHeap == nullptr ? m_inline : m_pHeap.get();
-        std::copy_n(text.data(), m_uLength, out);
+        if (m_uLength > 0) {
+            std::memcpy(out, text.data(), m_uLength * sizeof(XMLCh));
+        }
         out[m_uLength] = 0;
     }
     zvXMLChars(const zvXMLChars&) = delete;

@@ -1,0 +1,146 @@
+#include "zvConditionExplanation.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "zvCndConditionFactory.h"
+#include "zvCndParsingUtils.h"
+#include "zvConsole.h"
+#include "zvICndComparisonCondition.h"
+
+namespace {
+
+// A line indented further than this is no easier to read.
+constexpr std::size_t deepestIndent = 40;
+
+bool isComparison(zvCndConditionTypeEnum type) {
+    return type >= zvCndConditionEquals && type <= zvCndConditionGreaterThanEquals;
+}
+
+// The children of a logical condition, in the order of evaluation.
+std::vector<zvCndCondition> childrenOf(const zvCndCondition& condition) {
+    std::vector<zvCndCondition> children;
+    const auto collect = [&children](const auto& list) {
+        for (int i = 0; i < list->numConditions(); ++i) {
+            children.push_back(list->getCondition(i));
+        }
+    };
+    switch (condition->getConditionType()) {
+        case zvCndConditionAnd:
+            collect(zvCndConditionFactory::getAndCondition(condition));
+            break;
+        case zvCndConditionOr:
+            collect(zvCndConditionFactory::getOrCondition(condition));
+            break;
+        case zvCndConditionNot:
+            children.push_back(zvCndConditionFactory::getNotCondition(condition)->getCondition());
+            break;
+        default:
+            break;
+    }
+    return children;
+}
+
+const char* nameOf(zvCndConditionTypeEnum type) {
+    return type == zvCndConditionAnd ? "AND" : type == zvCndConditionOr ? "OR" : "NOT";
+}
+
+// The operand's value as the comparison sees it.
+std::string valueOf(const zvCndOperand& operand, const zvCndContext& context) {
+    if (operand.getValueType() == zvOperandConstant) {
+        return "'" + zvConsole::printable(operand.getValue().getValue()) + "'";
+    }
+    zvAttribute attribute;
+    return context.getAttribute(operand.getValue().getStrValue(), attribute)
+               ? "'" + zvConsole::printable(attribute.getValue().getValue()) + "'"
+               : "no such attribute";
+}
+
+}  // namespace
+
+zvConditionExplanation::zvConditionExplanation(const zvCndCondition& condition, const zvCndContext& context)
+    : m_context(context) {
+    evaluate(condition);
+}
+
+bool zvConditionExplanation::outcome() const { return *m_nodes.front().outcome; }
+
+namespace {
+
+// A part whose children are being visited.
+struct Visit {
+    std::size_t node;
+    zvCndConditionTypeEnum type;
+    std::vector<zvCndCondition> children;
+    std::size_t next;
+    bool leftOut;
+    // The outcome, once a child has settled it.
+    std::optional<bool> settled;
+
+    // Of a part all of whose children have been visited: an AND of nothing is false.
+    bool outcome() const { return settled.value_or(type == zvCndConditionAnd && !children.empty()); }
+
+    void take(bool childOutcome) {
+        if (type == zvCndConditionNot) {
+            settled = !childOutcome;
+        } else if (childOutcome == (type == zvCndConditionOr)) {
+            settled = childOutcome;
+        }
+    }
+};
+
+}  // namespace
+
+// With a stack of its own: a condition may be nested more deeply than the process's stack allows.
+void zvConditionExplanation::evaluate(const zvCndCondition& root) {
+    std::vector<Visit> open;
+    const auto enter = [&](const zvCndCondition& condition, bool leftOut) {
+        const zvCndConditionTypeEnum type = condition->getConditionType();
+        m_nodes.push_back({condition, open.size(), std::nullopt});
+        open.push_back({m_nodes.size() - 1, type, childrenOf(condition), 0, leftOut, std::nullopt});
+        if (isComparison(type) && !leftOut) {
+            open.back().settled = condition->evaluate(m_context);
+        }
+    };
+    enter(root, false);
+    while (!open.empty()) {
+        Visit& visit = open.back();
+        if (visit.next < visit.children.size()) {
+            const zvCndCondition child = visit.children[visit.next++];
+            enter(child, visit.leftOut || visit.settled.has_value());
+            continue;
+        }
+        const Visit done = std::move(visit);
+        open.pop_back();
+        if (!done.leftOut) {
+            m_nodes[done.node].outcome = done.outcome();
+            if (!open.empty()) {
+                open.back().take(done.outcome());
+            }
+        }
+    }
+}
+
+std::vector<std::string> zvConditionExplanation::lines() const {
+    std::vector<std::string> lines;
+    lines.reserve(m_nodes.size());
+    for (const Node& node : m_nodes) {
+        lines.push_back(std::string(2 * std::min(node.depth, deepestIndent), ' ') + describe(node));
+    }
+    return lines;
+}
+
+std::string zvConditionExplanation::describe(const Node& node) const {
+    const std::string outcome = !node.outcome.has_value() ? "left out" : *node.outcome ? "true" : "false";
+    const zvCndConditionTypeEnum type = node.condition->getConditionType();
+    if (!isComparison(type)) {
+        return std::string(nameOf(type)) + ": " + outcome;
+    }
+    const std::string text = zvConsole::printable(zvCndParsingUtils::createConditionString(node.condition));
+    if (!node.outcome.has_value()) {
+        return text + ": " + outcome;
+    }
+    const zvCndComparisonCondition comparison = zvCndConditionFactory::getComparisonCondition(node.condition);
+    return text + "  [" + valueOf(comparison->getLHSOperand(), m_context) + ", " +
+           valueOf(comparison->getRHSOperand(), m_context) + "]: " + outcome;
+}

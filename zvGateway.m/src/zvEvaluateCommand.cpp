@@ -1,0 +1,104 @@
+#include "zvEvaluateCommand.h"
+
+#include <cstdio>
+#include <optional>
+
+#include "zvCndParsingUtils.h"
+#include "zvConditionExplanation.h"
+#include "zvConsole.h"
+#include "zvTypedText.h"
+
+namespace {
+
+struct TypeWord {
+    const char* word;
+    zvDataTypeEnum type;
+};
+constexpr TypeWord typeWords[] = {{"Integer", zvDataTypeInteger},
+                                  {"Float", zvDataTypeFloat},
+                                  {"String", zvDataTypeString},
+                                  {"Date", zvDataTypeDate},
+                                  {"Boolean", zvDataTypeBoolean}};
+
+std::optional<zvDataTypeEnum> typeOf(const std::string& word) {
+    for (const TypeWord& candidate : typeWords) {
+        if (candidate.word == word) {
+            return candidate.type;
+        }
+    }
+    return std::nullopt;
+}
+
+zvStepFailure attributeFailure(const std::string& argument, const std::string& reason) {
+    return {zvExitCode::usage, "attribute", zvConsole::printable(argument.c_str()), reason};
+}
+
+zvAttribute attributeOf(const std::string& argument) {
+    const std::size_t separator = argument.find('=');
+    if (separator == std::string::npos || separator == 0) {
+        throw attributeFailure(argument, "it is not of the form name=value");
+    }
+    std::string name = argument.substr(0, separator);
+    zvDataTypeEnum type = zvDataTypeString;
+    const std::size_t colon = name.rfind(':');
+    if (colon != std::string::npos) {
+        const std::optional<zvDataTypeEnum> given = typeOf(name.substr(colon + 1));
+        if (!given.has_value()) {
+            throw attributeFailure(argument, "the type is none of Integer, Float, String, Date and Boolean");
+        }
+        type = *given;
+        name.resize(colon);
+    }
+    return {name.c_str(), zvTypedText(argument.c_str() + separator + 1, type)};
+}
+
+// The part of the condition around the fault, with a caret under it.
+void printFault(const zvString& condition, int position) {
+    constexpr int context = 60;
+    const int begin = position > context ? position - context : 0;
+    const std::string before = zvConsole::printable(condition.substr(begin, position - begin));
+    const std::string behind = zvConsole::printable(condition.substr(position, context));
+    const int columns = condition.substr(begin, position - begin).size();
+    std::fprintf(stderr, "  %s%s\n  %*s\n", before.c_str(), behind.c_str(), columns + 1, "^");
+}
+
+zvExitCode refuse(const zvString& condition, const zvException& exception) {
+    const zvResult result = exception.getResult();
+    const zvString position = result.getAdditionalInformation();
+    std::fprintf(stderr, "zvgateway: condition: %s\n", zvConsole::printable(result.getMessage()).c_str());
+    if (!position.empty()) {
+        printFault(condition, zvString::convertUnicodeToInt(position));
+    }
+    return zvExitCode::usage;
+}
+
+}  // namespace
+
+zvExitCode zvEvaluateCommand::run() const {
+    zvCndContext context;
+    for (const std::string& argument : attributes) {
+        zvAttribute attribute = attributeOf(argument);
+        if (!context.addAttribute(attribute)) {
+            throw attributeFailure(argument, "there is one of that name already");
+        }
+    }
+    const zvString text(condition.c_str());
+    try {
+        const bool outcome = evaluate(zvCndParsingUtils::createConditionStructure(text), context);
+        std::printf("%s\n", outcome ? "true" : "false");
+        return zvExitCode::success;
+    } catch (const zvException& exception) {
+        return refuse(text, exception);
+    }
+}
+
+bool zvEvaluateCommand::evaluate(const zvCndCondition& parsed, const zvCndContext& context) const {
+    if (!explain) {
+        return parsed->evaluate(context);
+    }
+    const zvConditionExplanation explanation(parsed, context);
+    for (const std::string& line : explanation.lines()) {
+        std::printf("%s\n", line.c_str());
+    }
+    return explanation.outcome();
+}

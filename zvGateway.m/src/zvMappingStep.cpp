@@ -1,0 +1,197 @@
+#include "zvMappingStep.h"
+
+#include <string>
+
+#include "zvCfgAttribute.h"
+#include "zvCfgLcmState.h"
+#include "zvCfgMgrXmlParser.h"
+#include "zvCfgTransition.h"
+#include "zvCfgTransitionPath.h"
+#include "zvCfgTransitionPathList.h"
+#include "zvCharString.h"
+#include "zvCommonUtils.h"
+#include "zvConsole.h"
+#include "zvDocumentWatch.h"
+#include "zvException.h"
+#include "zvPlatform.h"
+#include "zvSecrets.h"
+#include "zvStepFailure.h"
+#include "zvXMLParser.h"
+
+namespace {
+
+constexpr char attributePrefix[] = "attr.";
+constexpr char configurationStep[] = "configuration";
+constexpr char mappingStep[] = "mapping";
+constexpr int readable = 4;
+
+constexpr const char* typeWords[] = {"None", "Integer", "Float", "String", "Date", "Boolean"};
+
+zvStepFailure mappingFailure(const std::string& subject, const std::string& reason) {
+    return {zvExitCode::mapping, mappingStep, subject, reason};
+}
+
+// What XML 1.0 has no way to write.
+bool isXmlText(const zvString& text) {
+    for (int i = 0; i < text.size(); ++i) {
+        const wchar16 unit = text[i];
+        const bool isPair =
+            (unit & 0xFC00) == 0xD800 && i + 1 < text.size() && (text[i + 1] & 0xFC00) == 0xDC00;
+        if (isPair) {
+            ++i;
+        } else if ((unit < 0x20 && unit != '\t' && unit != '\n' && unit != '\r') ||
+                   (unit & 0xF800) == 0xD800 || unit >= 0xFFFE) {
+            return false;
+        }
+    }
+    return true;
+}
+
+std::string typesOf(const zvCfgObject& object) {
+    return zvConsole::printable(object.getLocalCustomType()) + " -> " +
+           zvConsole::printable(object.getRemoteCustomType());
+}
+
+std::string namesOf(const zvCfgLcmState& state) {
+    return zvConsole::printable(state.localName()) + " (" + zvConsole::printable(state.remoteName()) + ")";
+}
+
+}  // namespace
+
+zvMappingStep::zvMappingStep(const zvEventArguments& arguments, const zvString& dataFile)
+    : m_arguments(arguments),
+      m_strDataFile(dataFile),
+      m_strLocalType(arguments.getEventArgumentValue("LocalType")),
+      m_strRemoteType(arguments.getEventArgumentValue("RemoteType")) {}
+
+void zvMappingStep::run() {
+    if (m_strLocalType.empty() && m_strRemoteType.empty()) {
+        return;
+    }
+    readConfiguration();
+    mapObject();
+}
+
+void zvMappingStep::readConfiguration() const {
+    zvConsole::step(configurationStep);
+    zvString file = m_arguments.getEventArgumentValue("ConfigFile");
+    if (file.empty()) {
+        file = zvCommonUtils::getGatewayHomePath() + "\\config\\customization-config.xml";
+    }
+    const auto failure = [&file](const std::string& reason) {
+        return zvStepFailure{zvExitCode::configuration, configurationStep, zvConsole::printablePath(file),
+                             reason};
+    };
+    const unsigned long error = zvPlatform::accessError(zvCharString(file).data(), readable);
+    if (error != 0) {
+        throw failure(zvPlatform::errorText(error));
+    }
+    const zvDocumentWatch watch;
+    zvCfgMgrXmlParser parser;
+    const zvResult parsed = parser.parse(file, true);
+    if (!parsed.isOk()) {
+        throw failure(zvConsole::printable(parsed.getMessage()));
+    }
+    if (!watch.complaint().empty()) {
+        throw failure(watch.complaint());
+    }
+    const zvCfgConfigManager& configuration = *zvCfgConfigManager::getCfgConfigManager();
+    zvConsole::fact("file", zvConsole::printablePath(file));
+    zvConsole::fact("objects", std::to_string(configuration.numObjects()));
+}
+
+void zvMappingStep::mapObject() {
+    zvConsole::step(mappingStep);
+    const zvCfgConfigManager& configuration = *zvCfgConfigManager::getCfgConfigManager();
+    const bool isLocal = !m_strLocalType.empty();
+    const zvCfgObjectList* const candidates =
+        isLocal && !m_strRemoteType.empty() ? configuration.getObjects(m_strLocalType, m_strRemoteType)
+        : isLocal                           ? configuration.getObjectsByLocalType(m_strLocalType)
+                                            : configuration.getObjectsByRemoteType(m_strRemoteType);
+    const std::string type = zvConsole::printable(isLocal ? m_strLocalType : m_strRemoteType);
+    if (candidates == nullptr) {
+        throw mappingFailure(type, "the configuration has no object of this type");
+    }
+    zvObjectMapping mapping(
+        isLocal ? zvObjectMapping::Direction::localToRemote : zvObjectMapping::Direction::remoteToLocal,
+        attributeValues());
+    try {
+        if (!mapping.map(candidates)) {
+            throw mappingFailure(type, "no mapping rule of this type holds for the attributes");
+        }
+    } catch (const zvException& exception) {
+        throw mappingFailure(type, zvConsole::printable(exception.getResult().getMessage()));
+    }
+    zvConsole::fact("object", typesOf(mapping.object()));
+    for (const zvObjectMapping::Attribute& attribute : mapping.attributes()) {
+        zvConsole::fact(zvConsole::printable(attribute.to),
+                        zvConsole::printable(zvSecrets::maskedValue(attribute.to, attribute.value)) +
+                            (attribute.isDefault ? "  (default)" : ""));
+    }
+    for (const zvString& name : mapping.unmapped()) {
+        zvConsole::fact("without a mapping", zvConsole::printable(name));
+    }
+    writeData(mapping);
+    showTransition(mapping.object());
+}
+
+zvObjectMapping::Values zvMappingStep::attributeValues() const {
+    const zvString prefix(attributePrefix);
+    zvObjectMapping::Values values;
+    m_arguments.forEach([&](const zvString& key, const zvString& value) {
+        if (key.find(prefix, 0, prefix.size() - 1) == 0) {
+            values.emplace(key.substr(prefix.size(), key.size() - prefix.size()), value);
+        }
+    });
+    return values;
+}
+
+void zvMappingStep::writeData(const zvObjectMapping& mapping) const {
+    const zvCfgObject& object = mapping.object();
+    zvXMLParser document;
+    bool complete = document.createXMLTree("MappedObject") &&
+                    document.addAttribute("OOTBType", object.getOotbTypeStr()) &&
+                    document.addAttribute("LocalType", object.getLocalCustomType()) &&
+                    document.addAttribute("RemoteType", object.getRemoteCustomType());
+    for (const zvObjectMapping::Attribute& attribute : mapping.attributes()) {
+        if (!isXmlText(attribute.value) || !isXmlText(attribute.to)) {
+            throw mappingFailure(zvConsole::printable(attribute.from),
+                                 "it has a character that an XML file cannot hold");
+        }
+        complete =
+            complete && document.addStartTag("Attribute") && document.addAttribute("Name", attribute.to) &&
+            document.addAttribute("DataType", typeWords[attribute.type]) &&
+            (attribute.value.empty() || document.addMemberValue(attribute.value)) && document.addEndTag();
+    }
+    if (!complete || !document.writeTreeToFile(m_strDataFile, "UTF-8")) {
+        throw mappingFailure(zvConsole::printablePath(m_strDataFile),
+                             "it could not be written (see the log)");
+    }
+    zvConsole::fact("data file", zvConsole::printablePath(m_strDataFile));
+}
+
+void zvMappingStep::showTransition(const zvCfgObject& object) const {
+    const zvString from = m_arguments.getEventArgumentValue("FromState");
+    const zvString to = m_arguments.getEventArgumentValue("ToState");
+    if (from.empty() && to.empty()) {
+        return;
+    }
+    const zvCfgConfigManager& configuration = *zvCfgConfigManager::getCfgConfigManager();
+    zvCfgTransitionPathList paths;
+    for (const zvString& type : {object.getLocalCustomType(), object.getOotbTypeStr()}) {
+        if (configuration.getTransitionPaths(from, to, type, "", paths)) {
+            break;
+        }
+    }
+    if (paths.size() == 0) {
+        throw mappingFailure(zvConsole::printable(from) + " -> " + zvConsole::printable(to),
+                             "the object's lifecycle has no such way");
+    }
+    const zvCfgTransitionPath& path = *paths.get(0);
+    zvConsole::fact("from state", namesOf(*path.getStateAt(0)));
+    for (int i = 0; i < path.size(); ++i) {
+        zvConsole::fact(
+            zvConsole::printable(zvCfgTransition::typeName(path.getTransitionAt(i)->getType())) + " to",
+            namesOf(*path.getStateAt(i + 1)));
+    }
+}
