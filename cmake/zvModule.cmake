@@ -21,16 +21,17 @@ function(zv_add_layer NAME)
     set_property(GLOBAL APPEND PROPERTY ZV_PUBLIC_HEADERS ${ARG_PUBLIC_HEADERS})
 endfunction()
 
-# zv_add_tests(NAME SOURCES ... LIBRARIES ... [ENVIRONMENT variable=value])
+# zv_add_tests(NAME SOURCES ... LIBRARIES ... DEFINITIONS ... [ENVIRONMENT variable=value])
 #
 # Registers a GoogleTest program over the library's own objects and the recording logger; every test in it is
 # a CTest test of its own, which runs with ENVIRONMENT.
 function(zv_add_tests NAME)
-    cmake_parse_arguments(ARG "" "ENVIRONMENT" "SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(ARG "" "ENVIRONMENT" "SOURCES;LIBRARIES;DEFINITIONS" ${ARGN})
     list(TRANSFORM ARG_SOURCES PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
     set_property(GLOBAL APPEND PROPERTY ZV_TEST_PROGRAMS ${NAME})
     set_property(GLOBAL PROPERTY ZV_TEST_SOURCES_${NAME} ${ARG_SOURCES})
     set_property(GLOBAL PROPERTY ZV_TEST_LIBRARIES_${NAME} ${ARG_LIBRARIES})
+    set_property(GLOBAL PROPERTY ZV_TEST_DEFINITIONS_${NAME} ${ARG_DEFINITIONS})
     set_property(GLOBAL PROPERTY ZV_TEST_ENVIRONMENT_${NAME} ${ARG_ENVIRONMENT})
 endfunction()
 
@@ -44,6 +45,8 @@ function(zv_add_module_tests)
         get_property(libraries GLOBAL PROPERTY ZV_TEST_LIBRARIES_${program})
         add_executable(${program} ${sources})
         target_link_libraries(${program} PRIVATE zvTestSupport zvAllObjects GTest::gtest ${libraries})
+        get_property(definitions GLOBAL PROPERTY ZV_TEST_DEFINITIONS_${program})
+        target_compile_definitions(${program} PRIVATE ${definitions})
         get_property(environment GLOBAL PROPERTY ZV_TEST_ENVIRONMENT_${program})
         set(properties TIMEOUT 300)
         if(environment)

@@ -72,8 +72,7 @@ protected:
     }
 
 private:
-    const zvScopedVariable m_options{
-        "JAVA_TOOL_OPTIONS", "-Xcheck:jni -Xms32m -Xmx32m -XX:+AlwaysPreTouch -XX:TieredStopAtLevel=1"};
+    const zvScopedVariable m_options{"JAVA_TOOL_OPTIONS", "-Xcheck:jni -Xmx32m"};
     const zvScopedVariable m_classPath{"CLASSPATH", ZV_RECORDING_JAR};
 };
 

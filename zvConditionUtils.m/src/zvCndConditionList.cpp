@@ -14,14 +14,14 @@ zvCndConditionList::~zvCndConditionList() = default;
 
 zvCndConditionList& zvCndConditionList::operator=(const zvCndConditionList& other) = default;
 
-bool zvCndConditionList::addCondition(const zvCndCondition& condition) {
-    if (condition.IsNull()) {
+bool zvCndConditionList::append(zvICndCondition* condition) {
+    if (condition == nullptr) {
         return false;
     }
     if (m_conditions.capacity() == 0) {
         m_conditions.reserve(usualSize);
     }
-    m_conditions.push_back(condition);
+    m_conditions.emplace_back(condition);
     return true;
 }
 

@@ -15,10 +15,10 @@ public:
     zvCndConditionList& operator=(const zvCndConditionList& other);
 
     /// False, with nothing changed, for a null handle.
-    bool addCondition(const zvCndCondition& condition);
+    bool addCondition(const zvCndCondition& condition) { return append(condition.operator->()); }
     template <class Implementation>
     bool addCondition(const zvCndHandle<Implementation>& condition) {
-        return addCondition(zvCndCondition(condition.operator->()));
+        return append(condition.operator->());
     }
     /// A null handle for an index that is out of range.
     zvCndCondition getCondition(int index) const;
@@ -32,6 +32,8 @@ public:
 
 private:
     friend class zvICndListCondition;
+
+    bool append(zvICndCondition* condition);
 
     std::vector<zvCndCondition> m_conditions;
 };

@@ -21,6 +21,7 @@
 
 #include "zvCharString.h"
 #include "zvLogSource.h"
+#include "zvPlatform.h"
 #include "zvXMLLocation.h"
 #include "zvXMLMemory.h"
 #include "zvXMLText.h"
@@ -58,6 +59,8 @@ constexpr XMLSize_t mostAttributes = 10'000;                // of an element
 constexpr std::size_t largestContentModel = 2'048;          // names and operators: compiled by recursion
 constexpr std::size_t mostContentStates = 4'096;            // of a content model
 constexpr std::size_t mostContentTransitions = 10'000'000;  // of all content models
+
+constexpr int readable = 4;
 
 struct ContentModel {
     std::size_t nodes = 0;
@@ -139,7 +142,8 @@ InputSource* zvXMLGuardedParser::resolveEntity(XMLResourceIdentifier* entity) {
     if (error) {
         file = fs::canonical(zvXMLLocation::percentDecoded(path), error);
     }
-    if (error || !fs::is_regular_file(file, error)) {
+    if (error || !fs::is_regular_file(file, error) ||
+        !zvPlatform::isAccessible(file.string().c_str(), readable)) {
         logger.raise("XML document refused: its external entity \"", name,
                      "\" is not a file that can be read");
     }

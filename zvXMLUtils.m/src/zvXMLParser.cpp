@@ -81,28 +81,30 @@ bool zvXMLParser::loadXMLFromString(const zvString& source, bool isFile) {
         return false;
     }
     return isFile ? loadXMLFromString(source.getChars(), true)
-                  : load([&](zvDOMLoader& loader) { return loader.parseText(source); });
+                  : replaceDocument([&](zvDOMLoader& loader) { return loader.parseText(source); });
 }
 
 bool zvXMLParser::loadXMLFromString(const char* source, bool isFile) {
-    return source != nullptr && load([&](zvDOMLoader& loader) { return loader.parse(source, isFile); });
+    return source != nullptr &&
+           replaceDocument([&](zvDOMLoader& loader) { return loader.parse(source, isFile); });
 }
 
 bool zvXMLParser::createXMLTree(const zvString& rootName, const zvString& namespaceURI) {
-    return load([&](zvDOMLoader& loader) { return loader.createDocument(rootName, namespaceURI); });
+    return replaceDocument(
+        [&](zvDOMLoader& loader) { return loader.createDocument(rootName, namespaceURI); });
 }
 
 bool zvXMLParser::createXMLTree(const zvString& rootName) { return createXMLTree(rootName, zvString()); }
 
-// Replaces the document: the nodes of the one before go with it.
-template <typename Load>
-bool zvXMLParser::load(Load load) {
+// The nodes of the document before go with it.
+template <typename Make>
+bool zvXMLParser::replaceDocument(Make make) {
     if (m_pLoader == nullptr) {
         return false;
     }
     m_pCurrentNode = nullptr;
     m_pRootNode = nullptr;
-    if (load(*m_pLoader) && validateDOMDocument()) {
+    if (make(*m_pLoader) && validateDOMDocument()) {
         return true;
     }
     m_pLoader->releaseDocument();
@@ -347,6 +349,8 @@ zvXERCESDOMNODEList* zvXMLParser::getChildNodes(DOMElement* element, const zvStr
     }
     return list.release();
 }
+
+zvString zvXMLParser::getStringFromXMLCh(const XMLCh* text) { return toString(text); }
 
 zvString zvXMLParser::getStringFromXMLCh(const unsigned short* text) { return {text}; }
 

@@ -1,6 +1,7 @@
 #ifndef ZV_XML_PARSER_H
 #define ZV_XML_PARSER_H
 
+#include <cstddef>
 #include <memory>
 #include <xercesc/util/XercesDefs.hpp>
 
@@ -117,6 +118,8 @@ public:
     zvXERCESDOMNODEList* getChildNodes(xercesc::DOMElement* element, const zvString& name) const;
     /// Text as the XML library keeps it, up to its terminator; empty for null.
     static zvString getStringFromXMLCh(const unsigned short* text);
+    static zvString getStringFromXMLCh(const XMLCh* text);
+    static zvString getStringFromXMLCh(std::nullptr_t) { return {}; }
 
     /// Writes the document with its declaration and single line feeds in `encoding`, UTF-8 for an empty one:
     /// to a file, the folder of which has to be there, or to standard output for an empty path. @return
@@ -129,8 +132,8 @@ public:
 
 private:
     void init();
-    template <typename Load>
-    bool load(Load load);
+    template <typename Make>
+    bool replaceDocument(Make make);
     bool validateDOMDocument();
     bool changeCurrentNode(xercesc::DOMNode* node, zvString& tag);
     template <typename Change>

@@ -129,6 +129,7 @@ TEST_F(zvXMLParserTest, findsTexts) {
     EXPECT_EQ("", narrow(m_parser.getChildTextTrim(root(), "object")));
     const unsigned short units[] = {'a', 0xE4, 0xD83D, 0xDE00, 0};
     EXPECT_EQ("a\xC3\xA4\xF0\x9F\x98\x80", narrow(zvXMLParser::getStringFromXMLCh(units)));
+    EXPECT_EQ("Config", narrow(zvXMLParser::getStringFromXMLCh(root()->getTagName())));
     EXPECT_TRUE(zvXMLParser::getStringFromXMLCh(nullptr).empty());
 }
 

@@ -210,9 +210,14 @@ zvString::zvString(long v) : zvString(formatted(L"%li", v)) {}
 
 zvString::zvString(double v) : zvString(formatted(L"%lf", v)) {}
 
+// Few strings have a narrow copy and many have no buffer: the test spares most of the calls.
 zvString::~zvString() {
-    ::operator delete(m_pBuffer);
-    ::operator delete(m_pNarrowCache);
+    if (m_pBuffer != nullptr) {
+        ::operator delete(m_pBuffer);
+    }
+    if (m_pNarrowCache != nullptr) {
+        ::operator delete(m_pNarrowCache);
+    }
 }
 
 void zvString::init() {
@@ -225,7 +230,9 @@ void zvString::init() {
 
 void zvString::_clearCache() {
     m_bCacheUnchanged = false;
-    releaseString(m_pNarrowCache);
+    if (m_pNarrowCache != nullptr) {
+        releaseString(m_pNarrowCache);
+    }
 }
 
 // Takes `buffer`, which holds `length` characters in an exact fit, in the place of the present one.
@@ -284,8 +291,7 @@ void zvString::assign(const Unit* text, int length) {
     if (m_iCapacity <= length && !adopt(allocate<wchar16>(static_cast<std::size_t>(length) + 1), length)) {
         return;
     }
-    static_assert(sizeof(Unit) == sizeof(wchar16));
-    std::memcpy(m_pBuffer, text, static_cast<std::size_t>(length) * sizeof(Unit));
+    std::copy_n(text, length, m_pBuffer);
     m_pBuffer[length] = 0;
     m_iLength = length;
 }

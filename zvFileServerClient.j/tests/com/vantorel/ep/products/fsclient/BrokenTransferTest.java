@@ -172,7 +172,7 @@ public class BrokenTransferTest {
         }
     }
 
-    @Test
+    @Test(timeout = 60_000)
     public void aListingWithoutEndIsLeft() throws IOException {
         try (TestServer server = new TestServer(remote, "--endless-listing")) {
             FileServerClient client = server.client(home);
