@@ -122,8 +122,8 @@ public:
     /// Makes a new directory for the event in `rootShadowDir`, named by the time in seconds or the next free
     /// number, with an empty data file and an empty attachments file in it, and sets "EventShadowDir"
     /// (relative to the root), "DataFileName" and "AttachmentsFileName".
-    /// @return the outcome of the last file's creation, which is 0 also for a file that the system refused. The
-    /// message is the system's reason for a refusal.
+    /// @return the outcome of the last file's creation, which is 0 also for a file that the system refused.
+    /// The message is the system's reason for a refusal.
     static zvResult populateEventArguments(const zvString& rootShadowDir, zvEventArguments& args);
     /// Sets "EventShadowDir" of `out` to that of `in` without its "RootShadowDir", with which it has to
     /// begin.

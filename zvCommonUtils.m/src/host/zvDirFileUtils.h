@@ -18,8 +18,8 @@ public:
 
     /// Appends one backslash, also behind another one.
     static void appendPathDelimiter(zvString& path);
-    /// Creates one directory, not its parents. An existing one is a failure. What the system refuses, here and in
-    /// createFile(), has the system's reason as the result's message.
+    /// Creates one directory, not its parents. An existing one is a failure. What the system refuses, here
+    /// and in createFile(), has the system's reason as the result's message.
     static zvResult createDirectory(const zvString& path);
     /// Creates a new, empty file; an existing one is a failure. A file that the system refuses to create is
     /// logged and yet answered with 0: who needs the file tests for it with isAccessible().
