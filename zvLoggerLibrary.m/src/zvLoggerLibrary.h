@@ -16,8 +16,8 @@ extern "C" {
 /// "/" both separate folders. Calling it again with the same path changes nothing; another path takes its
 /// place.
 /// @return true when messages can be written; false when the file is missing, is no usable configuration or
-/// names nothing that can be written to. The reason goes to standard error, and what was configured before
-/// stays.
+/// names nothing that can be written to. What is wrong with a file goes to standard error; a missing one is
+/// no fault. What was configured before stays.
 ZV_LOGGER_API bool InitializeLogger(const char* configurationPath);
 
 /// Each writes one event of its level under the logger `loggerName`, with `file` and `line` as its location;

@@ -5,7 +5,7 @@
 #include "zvException.h"
 
 /// The configuration files name these "Integer", "Float", "String", "Date" and "Boolean".
-enum zvDataTypeEnum {
+enum zvDataTypeEnum : int {
     zvDataTypeNone = 0,
     zvDataTypeInteger = 1,
     zvDataTypeFloat = 2,

@@ -9,7 +9,7 @@
 #include "zvStringToStringMap.h"
 
 /// The events; getStringForEventNameEnum gives the texts that receiving programs match on.
-enum zvEventNameEnum {
+enum zvEventNameEnum : int {
     zvEventMirror = 0,
     zvEventPublishKpdmPart = 1,
     zvEventPublishLkPart = 2,
