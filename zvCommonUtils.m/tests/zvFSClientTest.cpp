@@ -211,7 +211,8 @@ TEST_F(zvFSClientTest, AnyTextGoesBothWays) {
         // A line of a properties file loses its first blanks.
         Client& client = connect("list=|" + escaped);
         client.put(text, text);
-        EXPECT_EQ(calls(), Lines{"put(" + escaped + "," + escaped + ")"});
+        const std::string put = std::string("put(").append(escaped).append(",").append(escaped).append(")");
+        EXPECT_EQ(calls(), Lines{put});
         zvStringList out;
         client.list("d", out);
         EXPECT_EQ(out.getString(0), "");

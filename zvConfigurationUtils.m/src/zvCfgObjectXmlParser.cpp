@@ -202,7 +202,7 @@ zvCfgObjectXmlParser::zvCfgObjectXmlParser(const zvCfgObjectXmlParser& other) = 
 
 zvCfgObjectXmlParser::~zvCfgObjectXmlParser() = default;
 
-zvCfgObjectXmlParser& zvCfgObjectXmlParser::operator=(const zvCfgObjectXmlParser& other) = default;
+zvCfgObjectXmlParser& zvCfgObjectXmlParser::operator=(const zvCfgObjectXmlParser&) = default;
 
 zvResult zvCfgObjectXmlParser::parseObjectConfig(zvXMLParser& parser) const {
     logger.debug("Inside function zvCfgObjectXmlParser::parseObjectConfig");
