@@ -5,6 +5,7 @@
 #include "zvDirFileUtils.h"
 #include "zvGatewayHome.h"
 #include "zvLogSource.h"
+#include "zvPlatform.h"
 #include "zvProperties.h"
 #include "zvUtf8.h"
 
@@ -12,7 +13,6 @@ namespace {
 
 constexpr zvLogSource logger("zvCommunicationUtils.m/src/zvHttpUtils");
 
-constexpr int existence = 0;
 constexpr int longestTimeout = 86400;
 constexpr long firstErrorStatus = 400;
 
@@ -108,7 +108,7 @@ void zvHttpUtils::readTimeouts() {
     }
     const zvString path = zvGatewayHome::configFile(home, "client-config.ini");
     zvProperties properties;
-    if (zvDirFileUtils::isAccessible(path, existence) && properties.parse(path).isOk()) {
+    if (zvDirFileUtils::isAccessible(path, zvPlatform::existence) && properties.parse(path).isOk()) {
         readSeconds(properties, "http-connect-timeout", m_lConnectSeconds);
         readSeconds(properties, "http-stall-timeout", m_lStallSeconds);
     }

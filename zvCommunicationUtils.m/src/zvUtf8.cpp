@@ -1,11 +1,9 @@
 #include "zvUtf8.h"
 
+#include "zvSurrogate.h"
+
 namespace zvUtf8 {
 namespace {
-
-bool isSurrogate(wchar16 unit) { return (unit & 0xF800u) == 0xD800u; }
-bool isHighSurrogate(wchar16 unit) { return (unit & 0xFC00u) == 0xD800u; }
-bool isLowSurrogate(wchar16 unit) { return (unit & 0xFC00u) == 0xDC00u; }
 
 void append(std::string& bytes, char32_t character) {
     constexpr char32_t leads[] = {0x00, 0xC0, 0xE0, 0xF0};
@@ -26,10 +24,10 @@ std::string encode(const zvString& text) {
     for (int i = 0; i < text.size(); ++i) {
         char32_t character = text[i];
         // The terminator stands behind the last unit.
-        if (isHighSurrogate(text[i]) && isLowSurrogate(text[i + 1])) {
-            character = 0x10000u + ((text[i] & 0x3FFu) << 10u) + (text[i + 1] & 0x3FFu);
+        if (zvSurrogate::isHigh(text[i]) && zvSurrogate::isLow(text[i + 1])) {
+            character = zvSurrogate::join(text[i], text[i + 1]);
             ++i;
-        } else if (isSurrogate(text[i])) {
+        } else if (zvSurrogate::isAny(text[i])) {
             character = replacement;
         }
         append(bytes, character);

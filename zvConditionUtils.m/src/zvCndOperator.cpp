@@ -6,23 +6,21 @@
 
 namespace {
 
+// The formatter takes "operator<" for the beginning of a template.
+// clang-format off
 constexpr zvCndOperator operators[] = {
-    {zvCndConditionEquals, "Equals", "=", zvCndConditionPrecedenceNone, &zvValue::operator== },
-     {zvCndConditionNotEquals, "NotEquals", "!=", zvCndConditionPrecedenceNone, &zvValue::operator!= },
-      {zvCndConditionLessThan, "LessThan", "<", zvCndConditionPrecedenceNone, &zvValue::operator<},
-       {zvCndConditionLessThanEquals, "LessThanEquals", "<=", zvCndConditionPrecedenceNone,
-        &zvValue::operator<= },
-        {zvCndConditionGreaterThan, "GreaterThan", ">", zvCndConditionPrecedenceNone, &zvValue::operator> },
-         {
-             zvCndConditionGreaterThanEquals,
-             "GreaterThanEquals",
-             ">=",
-             zvCndConditionPrecedenceNone,
-             &zvValue::operator>= },
-             {zvCndConditionAnd, "And", "AND", zvCndConditionPrecedenceAnd, nullptr},
-             {zvCndConditionOr, "Or", "OR", zvCndConditionPrecedenceOr, nullptr},
-             {zvCndConditionNot, "Not", "NOT", zvCndConditionPrecedenceNot, nullptr},
-        };
+    {zvCndConditionEquals, "Equals", "=", zvCndConditionPrecedenceNone, &zvValue::operator==},
+    {zvCndConditionNotEquals, "NotEquals", "!=", zvCndConditionPrecedenceNone, &zvValue::operator!=},
+    {zvCndConditionLessThan, "LessThan", "<", zvCndConditionPrecedenceNone, &zvValue::operator<},
+    {zvCndConditionLessThanEquals, "LessThanEquals", "<=", zvCndConditionPrecedenceNone, &zvValue::operator<=},
+    {zvCndConditionGreaterThan, "GreaterThan", ">", zvCndConditionPrecedenceNone, &zvValue::operator>},
+    {zvCndConditionGreaterThanEquals, "GreaterThanEquals", ">=", zvCndConditionPrecedenceNone,
+     &zvValue::operator>=},
+    {zvCndConditionAnd, "And", "AND", zvCndConditionPrecedenceAnd, nullptr},
+    {zvCndConditionOr, "Or", "OR", zvCndConditionPrecedenceOr, nullptr},
+    {zvCndConditionNot, "Not", "NOT", zvCndConditionPrecedenceNot, nullptr},
+};
+// clang-format on
 
 constexpr int longestToken = sizeof(zvCndOperator::token) - 1;
 

@@ -1,5 +1,7 @@
 #include "zvCfgLifecycleConfig.h"
 
+#include "zvMapIndex.h"
+
 bool zvCfgLifecycleConfig::addState(zvCfgLcmState* state, const zvString& objectType) {
     zvCfgLcmGraph*& graph = m_byObjectType[objectType];
     if (graph == nullptr) {
@@ -10,6 +12,6 @@ bool zvCfgLifecycleConfig::addState(zvCfgLcmState* state, const zvString& object
 }
 
 zvCfgLcmGraph* zvCfgLifecycleConfig::find(const zvString& objectType) const {
-    const auto found = m_byObjectType.find(objectType);
-    return found == m_byObjectType.end() ? nullptr : found->second;
+    zvCfgLcmGraph* const* const graph = zvMapFind(m_byObjectType, objectType);
+    return graph == nullptr ? nullptr : *graph;
 }

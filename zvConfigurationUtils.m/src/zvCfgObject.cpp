@@ -9,8 +9,8 @@ constexpr zvLogSource logger("zvConfigurationUtils.m/src/zvCfgObject");
 
 template <class Index>
 const zvCfgAttribute* findIn(const Index& index, const zvString& name) {
-    const auto found = index.find(name);
-    return found == index.end() ? nullptr : found->second;
+    const auto* const attribute = zvMapFind(index, name);
+    return attribute == nullptr ? nullptr : *attribute;
 }
 
 }  // namespace

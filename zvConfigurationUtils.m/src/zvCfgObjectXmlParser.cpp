@@ -5,6 +5,7 @@
 
 #include "zvCfgConfigManager.h"
 #include "zvCndParsingUtils.h"
+#include "zvDataTypeWords.h"
 #include "zvLogSource.h"
 #include "zvXMLElement.h"
 
@@ -47,28 +48,21 @@ bool setField(Target& target, const TextField<Target> (&fields)[count], View nam
     return false;
 }
 
-template <class Code>
-struct Word {
+struct TransferMode {
     View text;
-    Code code;
+    zvTransferModeEnum mode;
 };
 
-constexpr Word<zvDataTypeEnum> dataTypes[] = {
-    {u"Integer", zvDataTypeInteger}, {u"Float", zvDataTypeFloat},     {u"String", zvDataTypeString},
-    {u"Date", zvDataTypeDate},       {u"Boolean", zvDataTypeBoolean},
-};
-
-constexpr Word<zvTransferModeEnum> transferModes[] = {
+constexpr TransferMode transferModes[] = {
     {u"ASCII", zvTransferModeAscii},
     {u"BINARY", zvTransferModeBinary},
 };
 
-// Null for a text that is none of the words.
-template <class Code, std::size_t count>
-const Code* findWord(const Word<Code> (&words)[count], View text) {
-    for (const Word<Code>& word : words) {
-        if (word.text == text) {
-            return &word.code;
+// Null for a text that is none of the modes.
+const zvTransferModeEnum* findTransferMode(View text) {
+    for (const TransferMode& candidate : transferModes) {
+        if (candidate.text == text) {
+            return &candidate.mode;
         }
     }
     return nullptr;
@@ -79,8 +73,7 @@ std::unique_ptr<zvCfgAttribute> parseAttribute(const zvXMLElement& element) {
     attribute->setDataType(zvDataTypeString);
     element.forEachAttribute([&](View name, View value) {
         if (name == u"DataType") {
-            const zvDataTypeEnum* const type = findWord(dataTypes, value);
-            attribute->setDataType(type == nullptr ? zvDataTypeNone : *type);
+            attribute->setDataType(zvDataTypeWords::typeOf(value));
         } else if (!setField(*attribute, attributeFields, name, value) &&
                    !attribute->addOptionalAttribute(toString(name), toString(value))) {
             logger.error("Error occured while adding optional attribute : ", toString(name));
@@ -120,7 +113,7 @@ void addFileExtension(const zvXMLElement& element, zvCfgFile& file) {
         } else if (name == u"Export") {
             extension->setExportAllowed(value == u"True");
         } else if (name == u"TransferMode") {
-            mode = findWord(transferModes, value);
+            mode = findTransferMode(value);
         }
     });
     if (!hasAttributes) {

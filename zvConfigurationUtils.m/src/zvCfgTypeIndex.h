@@ -3,6 +3,7 @@
 
 #include <map>
 
+#include "zvMapIndex.h"
 #include "zvString.h"
 
 /// A list for each type name.
@@ -12,10 +13,7 @@ public:
     /// The list under `type`, empty at first.
     List& at(const zvString& type) { return m_lists[type]; }
     /// Null for a type without a list.
-    const List* find(const zvString& type) const {
-        const auto found = m_lists.find(type);
-        return found == m_lists.end() ? nullptr : &found->second;
-    }
+    const List* find(const zvString& type) const { return zvMapFind(m_lists, type); }
 
 private:
     std::map<zvString, List> m_lists;

@@ -1,16 +1,11 @@
 #include "zvCfgViewConfig.h"
 
 #include "zvLogSource.h"
+#include "zvMapIndex.h"
 
 namespace {
 
 constexpr zvLogSource logger("zvConfigurationUtils.m/src/zvCfgViewConfig");
-
-template <class Map>
-const typename Map::mapped_type* findIn(const Map& map, const zvString& key) {
-    const auto found = map.find(key);
-    return found == map.end() ? nullptr : &found->second;
-}
 
 }  // namespace
 
@@ -56,21 +51,21 @@ zvString zvCfgViewConfig::collectionAt(int i) const {
 }
 
 const zvCfgViewList* zvCfgViewConfig::viewsIn(const zvString& collection) const {
-    const Collection* const found = findIn(m_collections, collection);
+    const Collection* const found = zvMapFind(m_collections, collection);
     return found == nullptr ? nullptr : &found->views;
 }
 
 const zvCfgView* zvCfgViewConfig::defaultViewIn(const zvString& collection) const {
-    const Collection* const found = findIn(m_collections, collection);
+    const Collection* const found = zvMapFind(m_collections, collection);
     return found == nullptr ? nullptr : found->first;
 }
 
 const zvCfgView* zvCfgViewConfig::byLocalName(const zvString& name) const {
-    const zvCfgView* const* const found = findIn(m_byLocalName, name);
+    const zvCfgView* const* const found = zvMapFind(m_byLocalName, name);
     return found == nullptr ? nullptr : *found;
 }
 
 const zvCfgView* zvCfgViewConfig::byRemoteName(const zvString& name) const {
-    const zvCfgView* const* const found = findIn(m_byRemoteName, name);
+    const zvCfgView* const* const found = zvMapFind(m_byRemoteName, name);
     return found == nullptr ? nullptr : *found;
 }

@@ -56,17 +56,6 @@ std::string valueOf(const zvCndOperand& operand, const zvCndContext& context) {
                : "no such attribute";
 }
 
-}  // namespace
-
-zvConditionExplanation::zvConditionExplanation(const zvCndCondition& condition, const zvCndContext& context)
-    : m_context(context) {
-    evaluate(condition);
-}
-
-bool zvConditionExplanation::outcome() const { return *m_nodes.front().outcome; }
-
-namespace {
-
 // A part whose children are being visited.
 struct Visit {
     std::size_t node;
@@ -90,6 +79,13 @@ struct Visit {
 };
 
 }  // namespace
+
+zvConditionExplanation::zvConditionExplanation(const zvCndCondition& condition, const zvCndContext& context)
+    : m_context(context) {
+    evaluate(condition);
+}
+
+bool zvConditionExplanation::outcome() const { return *m_nodes.front().outcome; }
 
 // With a stack of its own: a condition may be nested more deeply than the process's stack allows.
 void zvConditionExplanation::evaluate(const zvCndCondition& root) {

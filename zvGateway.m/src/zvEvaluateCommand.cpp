@@ -1,33 +1,14 @@
 #include "zvEvaluateCommand.h"
 
 #include <cstdio>
-#include <optional>
 
 #include "zvCndParsingUtils.h"
 #include "zvConditionExplanation.h"
 #include "zvConsole.h"
+#include "zvDataTypeWords.h"
 #include "zvTypedText.h"
 
 namespace {
-
-struct TypeWord {
-    const char* word;
-    zvDataTypeEnum type;
-};
-constexpr TypeWord typeWords[] = {{"Integer", zvDataTypeInteger},
-                                  {"Float", zvDataTypeFloat},
-                                  {"String", zvDataTypeString},
-                                  {"Date", zvDataTypeDate},
-                                  {"Boolean", zvDataTypeBoolean}};
-
-std::optional<zvDataTypeEnum> typeOf(const std::string& word) {
-    for (const TypeWord& candidate : typeWords) {
-        if (candidate.word == word) {
-            return candidate.type;
-        }
-    }
-    return std::nullopt;
-}
 
 zvStepFailure attributeFailure(const std::string& argument, const std::string& reason) {
     return {zvExitCode::usage, "attribute", zvConsole::printable(argument.c_str()), reason};
@@ -42,11 +23,11 @@ zvAttribute attributeOf(const std::string& argument) {
     zvDataTypeEnum type = zvDataTypeString;
     const std::size_t colon = name.rfind(':');
     if (colon != std::string::npos) {
-        const std::optional<zvDataTypeEnum> given = typeOf(name.substr(colon + 1));
-        if (!given.has_value()) {
+        const std::u16string word(name.begin() + static_cast<std::ptrdiff_t>(colon) + 1, name.end());
+        type = zvDataTypeWords::typeOf(word);
+        if (type == zvDataTypeNone) {
             throw attributeFailure(argument, "the type is none of Integer, Float, String, Date and Boolean");
         }
-        type = *given;
         name.resize(colon);
     }
     return {name.c_str(), zvTypedText(argument.c_str() + separator + 1, type)};

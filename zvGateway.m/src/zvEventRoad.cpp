@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "zvAccessFault.h"
 #include "zvAttachmentList.h"
 #include "zvAttachmentParser.h"
 #include "zvCharString.h"
@@ -11,6 +12,7 @@
 #include "zvDirFileUtils.h"
 #include "zvDocumentWatch.h"
 #include "zvException.h"
+#include "zvGatewayHome.h"
 #include "zvLogger.h"
 #include "zvMappingStep.h"
 #include "zvPlatform.h"
@@ -21,17 +23,9 @@ namespace {
 
 constexpr const char* requiredArguments[] = {"EventName", "EventTriggeredByUser", "RootShadowDir"};
 
-constexpr int existence = 0;
-constexpr int readable = 4;
-constexpr int readAndWrite = 6;
-
 constexpr char homeStep[] = "gateway home";
 constexpr char shadowStep[] = "shadow directory";
 constexpr char attachmentsStep[] = "attachments";
-
-unsigned long accessError(const zvString& path, int mode) {
-    return zvPlatform::accessError(zvCharString(path).data(), mode);
-}
 
 bool isKnownEvent(const zvString& name) {
     for (int event = zvEventMirror; event <= zvEventMirrorFromLK; ++event) {
@@ -55,9 +49,9 @@ zvStepFailure attachmentsFailure(const zvString& file, const std::string& reason
 }
 
 void requireReadable(const zvString& file) {
-    const unsigned long error = accessError(file, readable);
-    if (error != 0) {
-        throw attachmentsFailure(file, zvPlatform::errorText(error));
+    const std::string fault = zvAccessFault(file, zvPlatform::readable);
+    if (!fault.empty()) {
+        throw attachmentsFailure(file, fault);
     }
 }
 
@@ -67,8 +61,8 @@ std::string modeOf(const zvAttachment& attachment) {
 
 // A home without a log configuration runs without a log; one whose configuration is of no use does not run.
 void checkLog(const zvString& home) {
-    const zvString configuration = home + "\\config\\log4cxx.xml";
-    if (accessError(configuration, existence) != 0) {
+    const zvString configuration = zvGatewayHome::configFile(home, "log4cxx.xml");
+    if (!zvAccessFault(configuration, zvPlatform::existence).empty()) {
         zvConsole::fact("log", "off: there is no " + zvConsole::printablePath(configuration));
         return;
     }
@@ -80,12 +74,12 @@ void checkLog(const zvString& home) {
 }
 
 void checkLocalServer(const zvString& home) {
-    const zvString configuration = home + "\\config\\client-config.ini";
+    const zvString configuration = zvGatewayHome::configFile(home, "client-config.ini");
     const zvString url = zvCommonUtils::getLocalServerUrl();
     if (url.empty()) {
-        const unsigned long error = accessError(configuration, readable);
-        throw homeFailure(configuration, error != 0 ? zvPlatform::errorText(error)
-                                                    : "\"local-server-url\" cannot be found in it");
+        const std::string fault = zvAccessFault(configuration, zvPlatform::readable);
+        throw homeFailure(configuration,
+                          fault.empty() ? "\"local-server-url\" cannot be found in it" : fault);
     }
     zvConsole::fact("local server", zvConsole::printable(url));
 }
@@ -153,9 +147,9 @@ void zvEventRoad::findGatewayHome() {
         throw zvStepFailure{zvExitCode::gatewayHome, homeStep, zvConsole::printable(variable),
                             "the environment variable is not set"};
     }
-    const unsigned long error = accessError(home, existence);
-    if (error != 0) {
-        throw homeFailure(home, zvPlatform::errorText(error));
+    const std::string fault = zvAccessFault(home, zvPlatform::existence);
+    if (!fault.empty()) {
+        throw homeFailure(home, fault);
     }
     zvConsole::fact("folder", zvConsole::printablePath(home));
     checkLog(home);
@@ -165,9 +159,9 @@ void zvEventRoad::findGatewayHome() {
 void zvEventRoad::prepareShadowDirectory() {
     zvConsole::step(shadowStep);
     const zvString root = argument("RootShadowDir");
-    const unsigned long error = accessError(root, readAndWrite);
-    if (error != 0) {
-        throw shadowFailure(root, zvPlatform::errorText(error));
+    const std::string fault = zvAccessFault(root, zvPlatform::readAndWrite);
+    if (!fault.empty()) {
+        throw shadowFailure(root, fault);
     }
     const zvResult made = zvEventArguments::populateEventArguments(root, *m_pArguments);
     const std::string reason =
@@ -178,7 +172,7 @@ void zvEventRoad::prepareShadowDirectory() {
     zvConsole::fact("directory", zvConsole::printablePath(root + "\\" + argument("EventShadowDir")));
     for (const char* const key : {"DataFileName", "AttachmentsFileName"}) {
         const zvString file = inShadowDirectory(argument(key));
-        if (!zvDirFileUtils::isAccessible(file, existence)) {
+        if (!zvDirFileUtils::isAccessible(file, zvPlatform::existence)) {
             throw shadowFailure(file, reason);
         }
         zvConsole::fact(key, zvConsole::printablePath(file));

@@ -2,20 +2,22 @@
 
 #include <string>
 
+#include "zvAccessFault.h"
 #include "zvCfgAttribute.h"
 #include "zvCfgLcmState.h"
 #include "zvCfgMgrXmlParser.h"
 #include "zvCfgTransition.h"
 #include "zvCfgTransitionPath.h"
 #include "zvCfgTransitionPathList.h"
-#include "zvCharString.h"
 #include "zvCommonUtils.h"
 #include "zvConsole.h"
+#include "zvDataTypeWords.h"
 #include "zvDocumentWatch.h"
 #include "zvException.h"
-#include "zvPlatform.h"
+#include "zvGatewayHome.h"
 #include "zvSecrets.h"
 #include "zvStepFailure.h"
+#include "zvSurrogate.h"
 #include "zvXMLParser.h"
 
 namespace {
@@ -23,9 +25,6 @@ namespace {
 constexpr char attributePrefix[] = "attr.";
 constexpr char configurationStep[] = "configuration";
 constexpr char mappingStep[] = "mapping";
-constexpr int readable = 4;
-
-constexpr const char* typeWords[] = {"None", "Integer", "Float", "String", "Date", "Boolean"};
 
 zvStepFailure mappingFailure(const std::string& subject, const std::string& reason) {
     return {zvExitCode::mapping, mappingStep, subject, reason};
@@ -35,12 +34,11 @@ zvStepFailure mappingFailure(const std::string& subject, const std::string& reas
 bool isXmlText(const zvString& text) {
     for (int i = 0; i < text.size(); ++i) {
         const wchar16 unit = text[i];
-        const bool isPair =
-            (unit & 0xFC00) == 0xD800 && i + 1 < text.size() && (text[i + 1] & 0xFC00) == 0xDC00;
-        if (isPair) {
+        // The terminator stands behind the last unit.
+        if (zvSurrogate::isHigh(unit) && zvSurrogate::isLow(text[i + 1])) {
             ++i;
         } else if ((unit < 0x20 && unit != '\t' && unit != '\n' && unit != '\r') ||
-                   (unit & 0xF800) == 0xD800 || unit >= 0xFFFE) {
+                   zvSurrogate::isAny(unit) || unit >= 0xFFFE) {
             return false;
         }
     }
@@ -76,15 +74,15 @@ void zvMappingStep::readConfiguration() const {
     zvConsole::step(configurationStep);
     zvString file = m_arguments.getEventArgumentValue("ConfigFile");
     if (file.empty()) {
-        file = zvCommonUtils::getGatewayHomePath() + "\\config\\customization-config.xml";
+        file = zvGatewayHome::configFile(zvCommonUtils::getGatewayHomePath(), "customization-config.xml");
     }
     const auto failure = [&file](const std::string& reason) {
         return zvStepFailure{zvExitCode::configuration, configurationStep, zvConsole::printablePath(file),
                              reason};
     };
-    const unsigned long error = zvPlatform::accessError(zvCharString(file).data(), readable);
-    if (error != 0) {
-        throw failure(zvPlatform::errorText(error));
+    const std::string fault = zvAccessFault(file, zvPlatform::readable);
+    if (!fault.empty()) {
+        throw failure(fault);
     }
     const zvDocumentWatch watch;
     zvCfgMgrXmlParser parser;
@@ -160,7 +158,7 @@ void zvMappingStep::writeData(const zvObjectMapping& mapping) const {
         }
         complete =
             complete && document.addStartTag("Attribute") && document.addAttribute("Name", attribute.to) &&
-            document.addAttribute("DataType", typeWords[attribute.type]) &&
+            document.addAttribute("DataType", zvDataTypeWords::wordOf(attribute.type).data()) &&
             (attribute.value.empty() || document.addMemberValue(attribute.value)) && document.addEndTag();
     }
     if (!complete || !document.writeTreeToFile(m_strDataFile, "UTF-8")) {

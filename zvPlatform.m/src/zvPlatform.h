@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <ctime>
+#include <memory>
 #include <string>
 
 #include "zvTypes.h"
@@ -32,12 +33,19 @@ bool createDirectory(const wchar16* path);
 Handle createFile(const wchar16* path);
 /// False for refusedHandle, lastError() then still being createFile's.
 bool closeHandle(Handle handle);
-/// `mode` is 0 (exists), 2 (writable), 4 (readable) or 6 (both); any other answers false.
+/// What an access test asks for.
+enum AccessMode : int { existence = 0, writable = 2, readable = 4, readAndWrite = 6 };
+/// False for a `mode` that is none of AccessMode's.
 bool isAccessible(const char* path, int mode);
 /// The same, with the system's number for the reason; 0 when the path is accessible.
 unsigned long accessError(const char* path, int mode);
+/// Closes the file that it owns.
+struct CloseFile {
+    void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
+};
+using File = std::unique_ptr<std::FILE, CloseFile>;
 /// Opens a file for reading as text; null for a directory and for what cannot be opened.
-std::FILE* openForReading(const char* path);
+File openForReading(const char* path);
 /// Removes one file.
 bool removeFile(const char* path);
 /// Carries out "rmdir /s/q" with `arguments`, which follow the switches at once: a blank, then paths that are
@@ -50,6 +58,8 @@ void* loadLibrary(const char* name);
 /// Null when `library` has no function of that name.
 void* findFunction(void* library, const char* name);
 
+/// A variable of this process's environment; empty when it is not set.
+std::string environment(const char* name);
 /// Sets a variable of this process's environment.
 void setEnvironment(const char* name, const char* value);
 /// For a program's start: the user's locale, with UTF-8 in the place of a locale that has another encoding.

@@ -14,6 +14,7 @@
 #include <filesystem>
 #include <system_error>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include "zvPlatform.h"
@@ -124,25 +125,18 @@ bool closeHandle(Handle handle) {
 bool isAccessible(const char* path, int mode) { return accessError(path, mode) == 0; }
 
 unsigned long accessError(const char* path, int mode) {
-    constexpr int readAndWrite = R_OK | W_OK;
-    if ((mode & ~readAndWrite) != 0) {
+    if (!isAccessMode(mode)) {
         return EINVAL;
     }
     return ::access(nativePath(path).c_str(), mode) == 0 ? 0 : static_cast<unsigned long>(errno);
 }
 
-std::FILE* openForReading(const char* path) {
-    std::FILE* const file = std::fopen(nativePath(path).c_str(), "re");
-    if (file == nullptr) {
-        return nullptr;
-    }
+File openForReading(const char* path) {
+    File file(std::fopen(nativePath(path).c_str(), "re"));
     struct stat status {};
-    if (::fstat(::fileno(file), &status) == 0 && S_ISDIR(status.st_mode)) {
-        static_cast<void>(std::fclose(file));
-        errno = EISDIR;
-        return nullptr;
-    }
-    return file;
+    const bool isDirectory =
+        file != nullptr && ::fstat(::fileno(file.get()), &status) == 0 && S_ISDIR(status.st_mode);
+    return isDirectory ? nullptr : std::move(file);
 }
 
 bool removeFile(const char* path) { return std::remove(nativePath(path).c_str()) == 0; }
@@ -174,6 +168,11 @@ void* loadLibrary(const char* name) {
 
 void* findFunction(void* library, const char* name) {
     return library == nullptr ? nullptr : ::dlsym(library, name);
+}
+
+std::string environment(const char* name) {
+    const char* const value = std::getenv(name);
+    return value == nullptr ? "" : value;
 }
 
 void setEnvironment(const char* name, const char* value) { ::setenv(name, value, 1); }

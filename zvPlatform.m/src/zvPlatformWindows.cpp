@@ -51,14 +51,13 @@ bool closeHandle(Handle handle) {
 bool isAccessible(const char* path, int mode) { return accessError(path, mode) == 0; }
 
 unsigned long accessError(const char* path, int mode) {
-    constexpr int readAndWrite = 6;
-    if ((mode & ~readAndWrite) != 0) {
+    if (!isAccessMode(mode)) {
         return ERROR_INVALID_PARAMETER;
     }
     return ::_access(path, mode) == 0 ? 0 : _doserrno;
 }
 
-std::FILE* openForReading(const char* path) { return std::fopen(path, "r"); }
+File openForReading(const char* path) { return File(std::fopen(path, "r")); }
 
 bool removeFile(const char* path) { return std::remove(path) == 0; }
 
@@ -72,6 +71,11 @@ void* findFunction(void* library, const char* name) {
     return library == nullptr
                ? nullptr
                : reinterpret_cast<void*>(::GetProcAddress(reinterpret_cast<HMODULE>(library), name));
+}
+
+std::string environment(const char* name) {
+    const char* const value = std::getenv(name);
+    return value == nullptr ? "" : value;
 }
 
 void setEnvironment(const char* name, const char* value) {

@@ -5,13 +5,12 @@
 #include <cstring>
 #include <cwchar>
 
+#include "zvSurrogate.h"
+
 namespace zvTextCodec {
 namespace {
 
 constexpr bool unitsAreWideCharacters = sizeof(wchar_t) == sizeof(wchar16);
-
-bool isHighSurrogate(wchar16 unit) { return (unit & 0xFC00u) == 0xD800u; }
-bool isLowSurrogate(wchar16 unit) { return (unit & 0xFC00u) == 0xDC00u; }
 
 // Folded over the whole text rather than left at the first hit, so that it is done many bytes at a time.
 template <typename Character>
@@ -51,10 +50,10 @@ template <typename Take>
 bool encode(const wchar16* text, std::size_t length, Take take) {
     std::mbstate_t state{};
     for (std::size_t i = 0; i < length; ++i) {
-        unsigned long character = text[i];
-        if (!unitsAreWideCharacters && isHighSurrogate(text[i]) && i + 1 < length &&
-            isLowSurrogate(text[i + 1])) {
-            character = 0x10000u + ((text[i] & 0x3FFu) << 10u) + (text[i + 1] & 0x3FFu);
+        char32_t character = text[i];
+        if (!unitsAreWideCharacters && zvSurrogate::isHigh(text[i]) && i + 1 < length &&
+            zvSurrogate::isLow(text[i + 1])) {
+            character = zvSurrogate::join(text[i], text[i + 1]);
             ++i;
         }
         char bytes[MB_LEN_MAX];
@@ -95,10 +94,10 @@ std::size_t widen(const char* text, wchar16* out, std::size_t capacity) {
         if (units > capacity - written) {
             return false;
         }
-        const auto value = static_cast<unsigned long>(character);
+        const auto value = static_cast<char32_t>(character);
         if (units == 2) {
-            out[written] = static_cast<wchar16>(0xD800u + ((value - 0x10000u) >> 10u));
-            out[written + 1] = static_cast<wchar16>(0xDC00u + ((value - 0x10000u) & 0x3FFu));
+            out[written] = zvSurrogate::highOf(value);
+            out[written + 1] = zvSurrogate::lowOf(value);
         } else {
             out[written] = static_cast<wchar16>(value);
         }

@@ -50,10 +50,10 @@ TEST(zvPlatform, NoOpenedFileHasTheHandle0) {
 TEST(zvPlatform, OpensNoDirectoryForReading) {
     const zvTemporaryFolder folder;
     EXPECT_EQ(zvPlatform::openForReading(folder.path().string().c_str()), nullptr);
-    std::FILE* const file = zvPlatform::openForReading(folder.write("file", "x").c_str());
+    zvPlatform::File file = zvPlatform::openForReading(folder.write("file", "x").c_str());
     ASSERT_NE(file, nullptr);
-    EXPECT_EQ(std::fgetc(file), 'x');
-    EXPECT_EQ(std::fclose(file), 0);
+    EXPECT_EQ(std::fgetc(file.get()), 'x');
+    EXPECT_EQ(std::fclose(file.release()), 0);
 }
 
 }  // namespace

@@ -60,8 +60,6 @@ constexpr std::size_t largestContentModel = 2'048;          // names and operato
 constexpr std::size_t mostContentStates = 4'096;            // of a content model
 constexpr std::size_t mostContentTransitions = 10'000'000;  // of all content models
 
-constexpr int readable = 4;
-
 struct ContentModel {
     std::size_t nodes = 0;
     std::size_t names = 0;
@@ -143,7 +141,7 @@ InputSource* zvXMLGuardedParser::resolveEntity(XMLResourceIdentifier* entity) {
         file = fs::canonical(zvXMLLocation::percentDecoded(path), error);
     }
     if (error || !fs::is_regular_file(file, error) ||
-        !zvPlatform::isAccessible(file.string().c_str(), readable)) {
+        !zvPlatform::isAccessible(file.string().c_str(), zvPlatform::readable)) {
         logger.raise("XML document refused: its external entity \"", name,
                      "\" is not a file that can be read");
     }

@@ -74,10 +74,6 @@ bool serialise(DOMDocument& document, XMLFormatTarget& target, const XMLCh* enco
     return serializer->write(&document, output.get());
 }
 
-struct CloseFile {
-    void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
-};
-
 bool refuse(const char* target) {
     const zvString reason(std::generic_category().message(errno).c_str());
     logger.error("The data cannot be written to ", target, ": ", reason);
@@ -110,7 +106,7 @@ bool zvXMLWriter::write(DOMDocument& document, XMLFormatTarget& target, const zv
 
 bool zvXMLWriter::toFile(const MemBufFormatTarget& bytes, const zvString& path) {
     const std::string name = zvPlatform::nativePath(zvCharString(path).data());
-    std::unique_ptr<std::FILE, CloseFile> file(std::fopen(name.c_str(), "wb"));
+    zvPlatform::File file(std::fopen(name.c_str(), "wb"));
     if (file == nullptr) {
         return refuse(name.c_str());
     }

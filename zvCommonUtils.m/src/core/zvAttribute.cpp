@@ -8,15 +8,9 @@ zvAttribute::zvAttribute(const zvAttribute& other) = default;
 
 zvAttribute::~zvAttribute() = default;
 
-zvAttribute& zvAttribute::operator=(const zvAttribute& other) {
-    copy(other);
-    return *this;
-}
+zvAttribute& zvAttribute::operator=(const zvAttribute& other) = default;
 
-void zvAttribute::copy(const zvAttribute& other) {
-    m_strName = other.m_strName;
-    m_value = other.m_value;
-}
+void zvAttribute::copy(const zvAttribute& other) { *this = other; }
 
 zvString zvAttribute::getName() const { return m_strName; }
 void zvAttribute::setName(const zvString& name) { m_strName = name; }

@@ -69,21 +69,9 @@ zvDateTime::zvDateTime(const zvDateTime& other) = default;
 
 zvDateTime::~zvDateTime() = default;
 
-zvDateTime& zvDateTime::operator=(const zvDateTime& other) {
-    copy(other);
-    return *this;
-}
+zvDateTime& zvDateTime::operator=(const zvDateTime& other) = default;
 
-void zvDateTime::copy(const zvDateTime& other) {
-    m_sYear = other.m_sYear;
-    m_sMonth = other.m_sMonth;
-    m_sDay = other.m_sDay;
-    m_sHour = other.m_sHour;
-    m_sMinute = other.m_sMinute;
-    m_sSecond = other.m_sSecond;
-    m_bHasOwnFormat = other.m_bHasOwnFormat;
-    m_strFormat = other.m_strFormat;
-}
+void zvDateTime::copy(const zvDateTime& other) { *this = other; }
 
 zvString zvDateTime::getDateFormat() const { return m_bHasOwnFormat ? m_strFormat : zvString(defaultFormat); }
 

@@ -10,10 +10,7 @@ zvException::zvException(const zvException& other) = default;
 
 zvException::~zvException() = default;
 
-zvException& zvException::operator=(const zvException& other) {
-    copy(other);
-    return *this;
-}
+zvException& zvException::operator=(const zvException& other) = default;
 
 zvResult zvException::getResult() const { return m_result; }
 void zvException::setResult(const zvResult& result) { m_result = result; }
@@ -25,7 +22,4 @@ void zvException::initialize() {
     m_strMessage.clear();
 }
 
-void zvException::copy(const zvException& other) {
-    m_result = other.m_result;
-    m_strMessage = other.m_strMessage;
-}
+void zvException::copy(const zvException& other) { *this = other; }

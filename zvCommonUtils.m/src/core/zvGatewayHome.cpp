@@ -1,10 +1,9 @@
 #include "zvGatewayHome.h"
 
 #include <cstdio>
-#include <cstdlib>
 
 #include "zvCharString.h"
-#include "zvTextBuilder.h"
+#include "zvPlatform.h"
 
 bool zvGatewayHome::m_bIsGatewayHomeSet = false;
 zvString zvGatewayHome::m_strGatewayHomeEnvVariable;
@@ -34,9 +33,5 @@ zvString zvGatewayHome::getPath() {
 }
 
 zvString zvGatewayHome::readEnvironment(const zvString& name) {
-    return std::getenv(zvCharString(name).data());
-}
-
-zvString zvGatewayHome::configFile(const zvString& home, const char* name) {
-    return zvTextBuilder::concat(home, "\\config\\", name);
+    return zvPlatform::environment(zvCharString(name).data()).c_str();
 }

@@ -14,7 +14,7 @@ public:
     /// The variable's value; empty when it is not set.
     static zvString readEnvironment(const zvString& name);
     /// The file `name` of the folder "config" in the home folder `home`.
-    static zvString configFile(const zvString& home, const char* name);
+    static zvString configFile(const zvString& home, const char* name) { return home + "\\config\\" + name; }
 
 private:
     static bool m_bIsGatewayHomeSet;

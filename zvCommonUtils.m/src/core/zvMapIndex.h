@@ -9,4 +9,11 @@ const typename Map::value_type* zvMapEntryAt(const Map& map, int i) {
     return i >= 0 && i < static_cast<int>(map.size()) ? &*std::next(map.begin(), i) : nullptr;
 }
 
+/// The value under `key` in a map; null without one.
+template <typename Map, typename Key>
+auto* zvMapFind(Map& map, const Key& key) {
+    const auto found = map.find(key);
+    return found == map.end() ? nullptr : &found->second;
+}
+
 #endif

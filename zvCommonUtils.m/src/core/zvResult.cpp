@@ -17,10 +17,7 @@ zvResult::zvResult(const zvResult& other) = default;
 
 zvResult::~zvResult() = default;
 
-zvResult& zvResult::operator=(const zvResult& other) {
-    copy(other);
-    return *this;
-}
+zvResult& zvResult::operator=(const zvResult& other) = default;
 
 zvResult& zvResult::operator=(int code) {
     m_iResult = code;
@@ -56,9 +53,4 @@ void zvResult::initialize() {
     m_iFailureType = businessFailure;
 }
 
-void zvResult::copy(const zvResult& other) {
-    m_iResult = other.m_iResult;
-    m_strMessage = other.m_strMessage;
-    m_iFailureType = other.m_iFailureType;
-    m_strAdditionalInformation = other.m_strAdditionalInformation;
-}
+void zvResult::copy(const zvResult& other) { *this = other; }

@@ -32,8 +32,7 @@ void zvStringToAttrMap::updateAttr(const zvString& key, const zvAttribute& attri
 }
 
 const zvAttribute* zvStringToAttrMap::findAttr(const zvString& key) const {
-    const auto found = m_pImpl->attributes.find(key);
-    return found == m_pImpl->attributes.end() ? nullptr : &found->second;
+    return zvMapFind(m_pImpl->attributes, key);
 }
 
 bool zvStringToAttrMap::getAttr(const zvString& key, zvAttribute& out) const {

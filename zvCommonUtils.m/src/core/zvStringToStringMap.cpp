@@ -19,8 +19,8 @@ void zvStringToStringMap::setValue(const zvString& key, const zvString& value) {
 }
 
 zvString zvStringToStringMap::getValue(const zvString& key) const {
-    const auto found = m_map.find(key);
-    return found == m_map.end() ? zvString() : found->second;
+    const zvString* const value = zvMapFind(m_map, key);
+    return value == nullptr ? zvString() : *value;
 }
 
 zvString zvStringToStringMap::getKey(int i) const {

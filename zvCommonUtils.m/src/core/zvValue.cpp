@@ -65,10 +65,7 @@ zvValue::zvValue(zvValue&& other) noexcept = default;
 
 zvValue::~zvValue() = default;
 
-zvValue& zvValue::operator=(const zvValue& other) {
-    copy(other);
-    return *this;
-}
+zvValue& zvValue::operator=(const zvValue& other) = default;
 
 void zvValue::initialize() {
     m_bValue = false;
@@ -78,15 +75,7 @@ void zvValue::initialize() {
     m_eDataType = zvDataTypeNone;
 }
 
-void zvValue::copy(const zvValue& other) {
-    m_bValue = other.m_bValue;
-    m_iValue = other.m_iValue;
-    m_fValue = other.m_fValue;
-    m_iPrecision = other.m_iPrecision;
-    m_strValue = other.m_strValue;
-    m_dateValue = other.m_dateValue;
-    m_eDataType = other.m_eDataType;
-}
+void zvValue::copy(const zvValue& other) { *this = other; }
 
 void zvValue::setBoolValue(bool value) {
     m_bValue = value;

@@ -11,9 +11,6 @@ namespace {
 
 constexpr zvLogSource logger("zvCommonUtils.m/src/zvEventArguments");
 
-constexpr int existence = 0;
-constexpr int readAndWrite = 6;
-
 constexpr const char* eventNames[] = {"mirror",
                                       "publishKpdmPart",
                                       "publishLkPart",
@@ -93,11 +90,11 @@ zvResult createEventDirectory(const zvString& root, zvString& name, zvString& pa
          candidate = nextCandidate(candidate)) {
         name = zvString(static_cast<long>(candidate));
         path = zvPath::join(root, name);
-        if (zvDirFileUtils::isAccessible(path, existence)) {
+        if (zvDirFileUtils::isAccessible(path, zvPlatform::existence)) {
             continue;
         }
         const zvResult created = zvDirFileUtils::createDirectory(path);
-        if (created.isOk() || !zvDirFileUtils::isAccessible(path, existence)) {
+        if (created.isOk() || !zvDirFileUtils::isAccessible(path, zvPlatform::existence)) {
             return created;
         }
     }
@@ -231,7 +228,7 @@ zvResult zvEventArguments::populateEventArguments(const zvString& rootShadowDir,
         logger.error("Empty RootShadowDir name is recieved in populateEventArguments");
         return result;
     }
-    if (!zvDirFileUtils::isAccessible(rootShadowDir, readAndWrite)) {
+    if (!zvDirFileUtils::isAccessible(rootShadowDir, zvPlatform::readAndWrite)) {
         logger.error("Error in accessing RootShadowDir : ", rootShadowDir);
         return result;
     }

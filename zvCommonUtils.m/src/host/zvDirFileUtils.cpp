@@ -1,7 +1,6 @@
 #include "zvDirFileUtils.h"
 
 #include <cstring>
-#include <memory>
 #include <string>
 
 #include "zvCharString.h"
@@ -13,14 +12,7 @@ namespace {
 
 constexpr zvLogSource logger("zvCommonUtils.m/src/zvDirFileUtils");
 
-constexpr int existence = 0;
-
 zvString lastErrorCode() { return zvString(static_cast<long>(zvPlatform::lastError())); }
-
-struct CloseFile {
-    void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
-};
-using File = std::unique_ptr<std::FILE, CloseFile>;
 
 // Reads up to a line feed, in pieces of 1023 characters; a zero byte ends the line as it ends a text.
 void readLine(std::FILE* file, std::string& line) {
@@ -56,7 +48,7 @@ zvResult zvDirFileUtils::createDirectory(const zvString& path) {
         logger.error("Empty directory path received in zvDirFileUtils::createDirectory.");
         return result;
     }
-    if (isAccessible(path, existence)) {
+    if (isAccessible(path, zvPlatform::existence)) {
         logger.warn("Directory \"", path, "\" already exist");
         return result;
     }
@@ -75,7 +67,7 @@ zvResult zvDirFileUtils::createFile(const zvString& path) {
         logger.error("Empty file path received in zvDirFileUtils::createDirectory.");
         return result;
     }
-    if (isAccessible(path, existence)) {
+    if (isAccessible(path, zvPlatform::existence)) {
         logger.warn("File \"", path, "\" already exist");
         return result;
     }
@@ -130,7 +122,7 @@ zvResult zvDirFileUtils::readFile(const zvString& path, zvStringList& lines) {
         lines.clear();
         return result;
     }
-    const File file(zvPlatform::openForReading(zvCharString(path).data()));
+    const zvPlatform::File file = zvPlatform::openForReading(zvCharString(path).data());
     if (file == nullptr) {
         logger.error("Error in opening file : \"", path, "\"");
         lines.clear();

@@ -2,7 +2,6 @@
 
 #include <clocale>
 #include <cstdio>
-#include <cstdlib>
 #include <string>
 
 #include "zvCharString.h"
@@ -24,11 +23,6 @@ constexpr const char* searchPathHints[] = {
 constexpr const char* versionProperties[] = {"java.runtime.name", "java.runtime.version", "java.vm.name",
                                              "java.vm.version"};
 
-std::string environment(const char* variable) {
-    const char* const value = std::getenv(variable);
-    return value == nullptr ? "" : value;
-}
-
 // A starting machine takes the encoding of file names from the environment's locale, which it makes that of
 // the whole process. It is shown the process's own instead, unless that was never chosen, and the process
 // keeps it.
@@ -36,8 +30,8 @@ class LocaleKeeper {
 public:
     LocaleKeeper()
         : m_locale(std::setlocale(LC_ALL, nullptr)),
-          m_variable(environment("LC_ALL").empty() ? "LC_CTYPE" : "LC_ALL"),
-          m_value(environment(m_variable)) {
+          m_variable(zvPlatform::environment("LC_ALL").empty() ? "LC_CTYPE" : "LC_ALL"),
+          m_value(zvPlatform::environment(m_variable)) {
         const std::string characters = std::setlocale(LC_CTYPE, nullptr);
         if (characters != "C" && characters != "POSIX") {
             zvPlatform::setEnvironment(m_variable, characters.c_str());
@@ -131,7 +125,7 @@ bool zvC2JBridge::initialize() {
         logger.fatal("Failed to load the Java virtual machine");
         return false;
     }
-    std::string classPath = environment("CLASSPATH");
+    std::string classPath = zvPlatform::environment("CLASSPATH");
     if (classPath.empty()) {
         classPath = ".";
     }

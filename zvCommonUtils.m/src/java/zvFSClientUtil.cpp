@@ -22,9 +22,6 @@ constexpr zvLogSource logger("zvCommonUtils.m/src/zvFSClientUtil");
 constexpr int binary = 0;
 constexpr int ascii = 1;
 
-constexpr int existence = 0;
-constexpr int readable = 4;
-
 // One of the event's files, where it was before it ever was sent, and how it is to be transferred.
 struct EventFile {
     zvString path;
@@ -194,7 +191,7 @@ zvResult zvFSClientUtil::uploadEventFiles(const zvEventArguments& args, const zv
     return resultOf([&](zvResult& result) {
         const EventFiles files = collectFiles(args, attachments, localDirectory(args));
         for (const EventFile& file : files) {
-            if (!zvDirFileUtils::isAccessible(file.path, readable)) {
+            if (!zvDirFileUtils::isAccessible(file.path, zvPlatform::readable)) {
                 logger.raise("The file [", file.path, "] cannot be read");
             }
         }
@@ -212,7 +209,7 @@ zvResult zvFSClientUtil::downloadEventFiles(const zvEventArguments& args, const 
     return resultOf([&](zvResult&) {
         const zvString localDir = localDirectory(args);
         const EventFiles files = collectFiles(args, attachments, localDir);
-        if (!zvDirFileUtils::isAccessible(localDir, existence) &&
+        if (!zvDirFileUtils::isAccessible(localDir, zvPlatform::existence) &&
             !zvDirFileUtils::createDirectory(localDir).isOk()) {
             logger.raise("The directory [", localDir, "] cannot be created");
         }

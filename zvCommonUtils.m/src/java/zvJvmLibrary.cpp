@@ -1,6 +1,5 @@
 #include "zvJvmLibrary.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <sstream>
 #include <system_error>
@@ -27,11 +26,6 @@ constexpr const char* files[] = {"lib/server/libjvm.so",
 
 constexpr const char* programs[] = {"java", "java.exe"};
 
-std::string environment(const char* variable) {
-    const char* const value = std::getenv(variable);
-    return value == nullptr ? "" : value;
-}
-
 void loadFrom(const fs::path& home, zvJvmLibrary& library) {
     for (const char* const file : files) {
         const fs::path path = home / file;
@@ -46,7 +40,7 @@ void loadFrom(const fs::path& home, zvJvmLibrary& library) {
 
 void loadFromPath(zvJvmLibrary& library) {
     constexpr char separator = fs::path::preferred_separator == '/' ? ':' : ';';
-    std::istringstream folders(environment("PATH"));
+    std::istringstream folders(zvPlatform::environment("PATH"));
     for (std::string folder; library.handle == nullptr && std::getline(folders, folder, separator);) {
         for (const char* const program : programs) {
             // The program on the path is a link into the home, as a rule.
@@ -71,7 +65,7 @@ zvJvmLibrary zvJvmLibrary::load() {
     if (library.handle != nullptr) {
         return library;
     }
-    const std::string home = environment("JAVA_HOME");
+    const std::string home = zvPlatform::environment("JAVA_HOME");
     library.tried += home.empty() ? "; JAVA_HOME, which is not set" : "; JAVA_HOME: " + home;
     if (!home.empty()) {
         loadFrom(zvPlatform::nativePath(home.c_str()), library);
