@@ -85,6 +85,15 @@ TEST_F(zvFSClientUtilTest, UploadsEveryFileInItsOwnModeAndRemovesThem) {
     EXPECT_TRUE(isThere("b/picture") && isThere("b/twice") && isThere("root/1300/1300_data.xml"));
 }
 
+TEST_F(zvFSClientUtilTest, NamesWhatItCannotRemove) {
+    m_folder.write("full/of/files", "");  // nothing that is removed like a file
+    attach(path("full/of"));
+    connect();
+    const zvResult result = zvFSClientUtil::uploadEventFiles(m_args, m_attachments);
+    EXPECT_TRUE(result.isOk());
+    EXPECT_EQ(result.getAdditionalInformation(), ("Not removed: " + path("full/of")).c_str());
+}
+
 TEST_F(zvFSClientUtilTest, DownloadsIntoTheShadowDirectory) {
     fs::remove_all(m_folder.path() / "root" / "1300");
     attach("C:\\elsewhere\\a.txt", 1);
@@ -172,6 +181,38 @@ TEST_F(zvFSClientUtilTest, RefusesWhatWouldLoseAFileBeforeAnythingMoves) {
         EXPECT_EQ(zvRecordingLogger::lines("error"), Lines{c.message});
         EXPECT_TRUE(calls().empty());
     }
+}
+
+// With the product's own Java client, and where the environment names no encoding.
+TEST_F(zvFSClientUtilTest, AnEventGoesToTheFileServerAndBack) {
+    const zvScopedVariable classPath("CLASSPATH", ZV_CLIENT_JAR);
+    const zvScopedVariable all("LC_ALL", "");
+    const zvScopedVariable language("LANG", "C");
+    inProcessOfItsOwn([this] {
+        const std::string name = u8"\u00E9 \u4E2D\U0001F600.txt";
+        m_folder.write("server/other", "");
+        m_folder.write("a/" + name, "some\ntext");
+        attach(path("a/" + name), 1);
+        connect("url=file://" + m_folder.file("server"));
+        EXPECT_TRUE(zvFSClientUtil::createShadowDir(m_args).isOk());
+        EXPECT_EQ(narrow(zvFSClientUtil::uploadEventFiles(m_args, m_attachments).getMessage()), "");
+        EXPECT_FALSE(isThere("a/" + name));
+        zvStringList names;
+        zvFSClient::getInstance()->list("1300", names);
+        EXPECT_EQ(names.numStrings(), 3);
+        EXPECT_NE(names.getStringIndex(name.c_str()), -1);
+
+        m_args.setEventArgument("RootShadowDir", path("back").c_str());
+        fs::create_directory(m_folder.path() / "back");
+        EXPECT_TRUE(zvFSClientUtil::downloadEventFiles(m_args, m_attachments).isOk());
+        EXPECT_EQ(readAll(m_folder.file("back/1300/" + name)), "some\ntext");
+        EXPECT_EQ(readAll(m_folder.file("back/1300/1300_data.xml")), "<data/>");
+
+        fs::remove(m_folder.file("server/1300/" + name));
+        const zvResult gone = zvFSClientUtil::downloadEventFiles(m_args, m_attachments);
+        EXPECT_TRUE(zvResult::isFileTransferFailure(gone.getFailureType()));
+        EXPECT_NE(narrow(gone.getMessage()).find(name), std::string::npos);
+    });
 }
 
 TEST_F(zvFSClientUtilTest, NeedsAClient) {

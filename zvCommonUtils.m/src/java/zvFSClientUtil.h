@@ -23,7 +23,7 @@ public:
 /// A result that is not OK names the file and the reason. Its failure type is file transfer when the file
 /// server refused, with the Java stack trace as additional information, and business when an argument is
 /// missing, a local file cannot be read or the names of the files do not go together. Every failure is
-/// logged.
+/// logged. The client keeps the transfer mode of the last file.
 class ZV_EXPORT zvFSClientUtil {
 public:
     /// Creates the event's directory on the file server.
