@@ -1,5 +1,7 @@
 #include "zvCfgLcmGraph.h"
 
+#include <utility>
+
 #include "zvCfgPathSearch.h"
 #include "zvLogSource.h"
 
@@ -26,7 +28,8 @@ public:
 
     // A transition that a state has twice is one way.
     void add(int from, int to, const zvCfgTransition& transition) {
-        int& lastFrom = m_lastFrom[transition.getType()][static_cast<std::size_t>(to)];
+        int& lastFrom =
+            m_lastFrom[transition.getType() == zvCfgTransitionDemote][static_cast<std::size_t>(to)];
         if (lastFrom != from) {
             lastFrom = from;
             m_search.addEdge(from, to);

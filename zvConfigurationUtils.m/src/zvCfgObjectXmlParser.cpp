@@ -91,9 +91,10 @@ void addAttribute(const zvXMLElement& element, zvCfgObject& object) {
 }
 
 void setMappingRule(const zvXMLElement& element, zvCfgObject& object) {
-    zvString rule = element.text();
-    rule.trim();
-    if (!rule.empty()) {
+    const zvString rule = element.text();
+    zvString trimmed = rule;
+    trimmed.trim();
+    if (!trimmed.empty()) {
         object.setMappingRule(zvCndParsingUtils::createConditionStructure(rule));
     }
 }

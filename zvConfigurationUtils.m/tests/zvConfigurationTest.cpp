@@ -1,58 +1,14 @@
-#include <string>
-#include <vector>
-
 #include "zvCfgAttribute.h"
-#include "zvCfgConfigManager.h"
 #include "zvCfgFile.h"
 #include "zvCfgFileExtension.h"
 #include "zvCfgFileList.h"
-#include "zvCfgLcmState.h"
-#include "zvCfgMgrXmlParser.h"
 #include "zvCfgObject.h"
 #include "zvCfgObjectList.h"
-#include "zvCfgTransitionPath.h"
-#include "zvCfgTransitionPathList.h"
 #include "zvCfgView.h"
 #include "zvCfgViewList.h"
-#include "zvRecordingLogger.h"
-#include "zvTestSupport.h"
+#include "zvConfigurationTestSupport.h"
 
 namespace {
-
-using Lines = std::vector<std::string>;
-
-class zvConfigurationTest : public zvLoggedTest {
-protected:
-    ~zvConfigurationTest() override { zvCfgConfigManager::destroyCfgConfigManager(); }
-
-    static zvCfgConfigManager& manager() { return *zvCfgConfigManager::getCfgConfigManager(); }
-
-    static zvResult parse(const std::string& content) {
-        zvRecordingLogger::reset();
-        return zvCfgMgrXmlParser().parse(
-            ("<CustomizationConfig>" + content + "</CustomizationConfig>").c_str(), false);
-    }
-
-    static zvResult parseObjects(const std::string& objects) {
-        return parse("<ObjectConfig>" + objects + "</ObjectConfig>");
-    }
-
-    // Every way from one state to another, as in "A>B>C".
-    static Lines ways(const char* from, const char* to, const char* type, const char* selector) {
-        zvCfgTransitionPathList paths;
-        const bool any = manager().getTransitionPaths(from, to, type, selector, paths);
-        EXPECT_EQ(any, paths.size() > 0);
-        Lines all;
-        for (int i = 0; i < paths.size(); ++i) {
-            std::string way;
-            for (int state = 0; state <= paths.get(i)->size(); ++state) {
-                way += (state == 0 ? "" : ">") + narrow(paths.get(i)->getStateAt(state)->getLocalName());
-            }
-            all.push_back(way);
-        }
-        return all;
-    }
-};
 
 zvCfgAttribute* attribute(const char* key, const char* local, const char* remote, const char* fallback = "") {
     auto* const made = new zvCfgAttribute;
