@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "zvCharString.h"
+#include "zvCheckCommand.h"
 #include "zvCommonUtils.h"
 #include "zvConsole.h"
 #include "zvEvaluateCommand.h"
@@ -12,6 +13,7 @@
 #include "zvException.h"
 #include "zvPlatform.h"
 #include "zvSecrets.h"
+#include "zvShowCommand.h"
 #include "zvStepFailure.h"
 
 namespace {
@@ -41,7 +43,7 @@ Exit codes
   3  the gateway home or a configuration file in it
   4  the event's shadow directory
   5  the event's attachments
-  6  the configuration file
+  6  the configuration file, or an error that "check" finds in it
   7  the mapping of the event's object)";
 
 int fail(zvExitCode code, const std::string& message) {
@@ -71,12 +73,42 @@ void goWithoutHome() {
     }
 }
 
+constexpr char checkFooter[] = R"(Prints a line for each fault, and their number at the end.
+Errors
+  what is left out when the file is read, and what ends the reading
+  an object that nothing reaches: an earlier one of the same types has no mapping rule
+  an attribute whose data type is none of the five
+Warnings
+  a name that is another attribute's already; an extension without a transfer mode
+  an object that is not reached from its local, or its remote, type alone; an object without types
+  an extension that is neither imported nor exported, or differs from another one in case only
+  "Import" or "Export" that is neither "True" nor "False"; a file object without extensions
+  a lifecycle that is empty, or has a state to which no way leads from the first one
+  a view collection without a view; an element that is not known where it stands
+Exit code 6 for errors, and with --strict for warnings.)";
+
+CLI::App& declareCheck(CLI::App& program, zvCheckCommand& command) {
+    CLI::App& check = *program.add_subcommand("check", "Says everything that is wrong with a configuration");
+    check.add_option("file", command.file, "The configuration file")->required();
+    check.add_flag("--strict", command.strict, "Warnings fail as errors do");
+    check.footer(checkFooter);
+    return check;
+}
+
+CLI::App& declareShow(CLI::App& program, zvShowCommand& command) {
+    CLI::App& show = *program.add_subcommand("show", "Prints a configuration for people");
+    show.add_option("file", command.file, "The configuration file")->required();
+    show.add_option("--html", command.page, "Writes it as a page with a search field and pictures instead");
+    show.footer(
+        "A configuration that is not read to its end: exit code 6. A page that cannot be written: 2.");
+    return show;
+}
+
 // Declares the program's options, and runs what the command line asks for.
 int runProgram(int argc, char** argv) {
     CLI::App program("Takes one event through the gateway: zvgateway key=value ...", "zvgateway");
     program.footer(footer);
     program.set_version_flag("--version", "zvgateway " ZV_VERSION);
-    program.allow_extras();
 
     zvEvaluateCommand evaluation;
     CLI::App& eval = *program.add_subcommand("eval", "Evaluates a condition, as mapping rules have them");
@@ -86,6 +118,11 @@ int runProgram(int argc, char** argv) {
                     "name=value or name:Type=value, the type being Integer, Float, String, Date or Boolean");
     eval.add_flag("--explain", evaluation.explain, "Prints the outcome of every part");
     eval.footer("Prints true or false. A condition or an attribute that is of no use: exit code 2.");
+    zvCheckCommand checking;
+    const CLI::App& check = declareCheck(program, checking);
+    zvShowCommand showing;
+    const CLI::App& show = declareShow(program, showing);
+    program.allow_extras();  // behind the subcommands, which would inherit it
 
     try {
         program.parse(argc, argv);
@@ -96,7 +133,10 @@ int runProgram(int argc, char** argv) {
     if (!program.get_subcommands().empty()) {
         goWithoutHome();
     }
-    return static_cast<int>(eval.parsed() ? evaluation.run() : takeEvent(program.remaining()));
+    return static_cast<int>(eval.parsed()    ? evaluation.run()
+                            : check.parsed() ? checking.run()
+                            : show.parsed()  ? showing.run()
+                                             : takeEvent(program.remaining()));
 }
 
 }  // namespace

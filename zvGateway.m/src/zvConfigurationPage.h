@@ -1,0 +1,26 @@
+#ifndef ZV_CONFIGURATION_PAGE_H
+#define ZV_CONFIGURATION_PAGE_H
+
+#include <string>
+
+#include "zvCfgConfigManager.h"
+
+/// A configuration as one HTML page in UTF-8, which needs nothing beside itself: tables that a search field
+/// filters, and the lifecycles as pictures. "#search=TEXT" behind the page's address begins a search.
+class zvConfigurationPage {
+public:
+    /// The title, a printable text, stands above the page.
+    zvConfigurationPage(const zvCfgConfigManager& configuration, const std::string& title);
+
+    const std::string& html() const { return m_html; }
+
+private:
+    void addObjects(const zvCfgConfigManager& configuration);
+    void addFiles(const zvCfgConfigManager& configuration);
+    void addViews(const zvCfgConfigManager& configuration);
+    void addLifecycles(const zvCfgConfigManager& configuration);
+
+    std::string m_html;
+};
+
+#endif
