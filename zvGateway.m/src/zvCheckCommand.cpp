@@ -27,10 +27,6 @@ void print(const zvFinding& finding) {
                 finding.where.c_str(), finding.where.empty() ? "" : ": ", finding.what.c_str());
 }
 
-std::string counted(std::ptrdiff_t count, const char* noun) {
-    return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
-}
-
 }  // namespace
 
 zvExitCode zvCheckCommand::run() const {
@@ -42,7 +38,7 @@ zvExitCode zvCheckCommand::run() const {
     });
     const auto warnings = static_cast<std::ptrdiff_t>(findings.size()) - errors;
     std::printf("%s: %s, %s%s\n", zvConsole::printable(file.c_str()).c_str(),
-                counted(errors, "error").c_str(), counted(warnings, "warning").c_str(),
+                zvConsole::counted(errors, "error").c_str(), zvConsole::counted(warnings, "warning").c_str(),
                 reading.isComplete() ? "" : "; the file was not read to its end");
     return errors > 0 || (strict && warnings > 0) ? zvExitCode::configuration : zvExitCode::success;
 }

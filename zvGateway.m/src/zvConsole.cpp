@@ -2,11 +2,20 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <iterator>
 
 #include "zvCharString.h"
 #include "zvPlatform.h"
 
+namespace {
+
+std::FILE* out = stdout;
+
+}  // namespace
+
 namespace zvConsole {
+
+void leaveStandardOutput() { out = stderr; }
 
 std::string printable(const zvString& text) {
     std::string narrow = zvCharString(text).data();
@@ -17,11 +26,34 @@ std::string printable(const zvString& text) {
 
 std::string printablePath(const zvString& path) { return zvPlatform::nativePath(printable(path).c_str()); }
 
-void step(const char* name) { std::printf("%s\n", name); }
+void step(const char* name) { std::fprintf(out, "%s\n", name); }
 
 void fact(const std::string& name, const std::string& value) {
-    std::printf("  %-22s %s\n", name.c_str(), value.c_str());
-    std::fflush(stdout);
+    std::fprintf(out, "  %-22s %s\n", name.c_str(), value.c_str());
+    std::fflush(out);
+}
+
+std::string size(double bytes) {
+    constexpr const char* units[] = {"bytes", "kB", "MB", "GB", "TB"};
+    constexpr double thousand = 1000;
+    std::size_t unit = 0;
+    while (bytes >= thousand && unit + 1 < std::size(units)) {
+        bytes /= thousand;
+        ++unit;
+    }
+    constexpr std::size_t width = 40;
+    char text[width];
+    std::snprintf(text, width, unit == 0 ? "%.0f %s" : "%.1f %s", bytes, units[unit]);
+    return text;
+}
+
+std::string rate(double bytes, double milliseconds) {
+    constexpr double perSecond = 1000;
+    return size(bytes * perSecond / std::max(milliseconds, 1.0)) + "/s";
+}
+
+std::string counted(std::ptrdiff_t count, const char* noun) {
+    return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
 }
 
 }  // namespace zvConsole

@@ -1,39 +1,36 @@
 #ifndef ZV_EVENT_ROAD_H
 #define ZV_EVENT_ROAD_H
 
-#include <memory>
 #include <string>
 #include <vector>
 
-#include "zvEventArguments.h"
+#include "zvRoadEvent.h"
+#include "zvRoadReport.h"
 
-/// The road of one event through the gateway: each step prints what it does and throws a zvStepFailure when
-/// it cannot do it.
+/// The road of one event through the gateway, step by step. Each step prints what it does; the first one that
+/// cannot do its job ends the road.
 class zvEventRoad {
 public:
-    /// `arguments` are the event's, `key=value` each.
-    explicit zvEventRoad(std::vector<std::string> arguments);
+    /// The event's arguments, `key=value` each.
+    std::vector<std::string> arguments;
+    /// Does everything but what leaves this host.
+    bool isDryRun = false;
+    /// The summary goes to standard output as JSON, and everything else to standard error.
+    bool asJson = false;
 
+    /// Throws, behind the summary, what a step threw: a zvStepFailure as a rule.
     void run();
 
 private:
-    struct Destroy {
-        void operator()(zvEventArguments* arguments) const { arguments->destroy(); }
-    };
+    void walk();
+    void summarize(zvExitCode exitCode);
 
-    void readArguments();
+    zvStepOutcome readArguments();
     void requireArguments() const;
-    void findGatewayHome();
-    void prepareShadowDirectory();
-    void readAttachments();
-    void copyIntoShadowDirectory(const zvString& attachmentsFile) const;
+    zvStepOutcome findGatewayHome();
 
-    zvString argument(const char* key) const;
-    /// The path of `name` in the event's shadow directory.
-    zvString inShadowDirectory(const zvString& name) const;
-
-    std::vector<std::string> m_commandLine;
-    std::unique_ptr<zvEventArguments, Destroy> m_pArguments;
+    zvRoadReport m_report;
+    zvRoadEvent m_event;
 };
 
 #endif

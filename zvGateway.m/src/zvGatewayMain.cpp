@@ -28,6 +28,8 @@ and there may be
   FromState, ToState     lifecycle states of the object: the way between them is shown
   ConfigFile             the configuration, in the place of the gateway home's
   AttachmentsFile        an XML file that lists the files which the event carries
+  EventShadowDir         the directory, below RootShadowDir, of an earlier run of the event: it goes on there, and
+                         what arrived is not sent again
 All others travel with the event. A "\" before a "=" puts the "=" into the key. The values of LoginPassword and
 KPDMPasswd are never shown.
 
@@ -35,6 +37,8 @@ The environment variable GATEWAY_HOME names the gateway's home, with
   config/client-config.ini  "local-server-url=..."
   config/log4cxx.xml        what is logged and where; without it, nothing is
   config/customization-config.xml  the mapping between the two systems
+  config/fileserver.properties     the file server; without it, the event's files stay where they are
+Files are sent by the Java client on CLASSPATH; when that is not set, by the one that came with the program.
 
 Exit codes
   0  the event went the whole road
@@ -44,7 +48,9 @@ Exit codes
   4  the event's shadow directory
   5  the event's attachments
   6  the configuration file, or an error that "check" finds in it
-  7  the mapping of the event's object)";
+  7  the mapping of the event's object
+  8  the transfer of the event's files
+  9  the post to the local server)";
 
 int fail(zvExitCode code, const std::string& message) {
     std::fflush(stdout);
@@ -52,7 +58,7 @@ int fail(zvExitCode code, const std::string& message) {
     return static_cast<int>(code);
 }
 
-zvExitCode takeEvent(const std::vector<std::string>& arguments) {
+zvExitCode takeEvent(zvEventRoad& road, std::vector<std::string> arguments) {
     for (const std::string& argument : arguments) {
         if (argument.rfind('-', 0) == 0) {
             throw zvStepFailure{zvExitCode::usage, "options",
@@ -60,8 +66,18 @@ zvExitCode takeEvent(const std::vector<std::string>& arguments) {
                                 "there is no such option (see zvgateway --help)"};
         }
     }
-    zvEventRoad(arguments).run();
+    road.arguments = std::move(arguments);
+    road.run();
     return zvExitCode::success;
+}
+
+// What the program was started for has been printed, and must not be lost without a word.
+int finish(zvExitCode code) {
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+        const int failed = fail(zvExitCode::unexpected, "standard output could not be written to its end");
+        return code == zvExitCode::success ? failed : static_cast<int>(code);
+    }
+    return static_cast<int>(code);
 }
 
 // The subcommands need no gateway home. Without one the library would say so on standard output, in the
@@ -95,13 +111,12 @@ CLI::App& declareCheck(CLI::App& program, zvCheckCommand& command) {
     return check;
 }
 
-CLI::App& declareShow(CLI::App& program, zvShowCommand& command) {
+void declareShow(CLI::App& program, zvShowCommand& command) {
     CLI::App& show = *program.add_subcommand("show", "Prints a configuration for people");
     show.add_option("file", command.file, "The configuration file")->required();
     show.add_option("--html", command.page, "Writes it as a page with a search field and pictures instead");
     show.footer(
         "A configuration that is not read to its end: exit code 6. A page that cannot be written: 2.");
-    return show;
 }
 
 // Declares the program's options, and runs what the command line asks for.
@@ -109,6 +124,10 @@ int runProgram(int argc, char** argv) {
     CLI::App program("Takes one event through the gateway: zvgateway key=value ...", "zvgateway");
     program.footer(footer);
     program.set_version_flag("--version", "zvgateway " ZV_VERSION);
+    zvEventRoad road;
+    program.add_flag("--dry-run", road.isDryRun, "Does everything but the transfer and the post");
+    program.add_flag("--json", road.asJson,
+                     "The summary goes to standard output as JSON, and everything else to standard error");
 
     zvEvaluateCommand evaluation;
     CLI::App& eval = *program.add_subcommand("eval", "Evaluates a condition, as mapping rules have them");
@@ -121,7 +140,7 @@ int runProgram(int argc, char** argv) {
     zvCheckCommand checking;
     const CLI::App& check = declareCheck(program, checking);
     zvShowCommand showing;
-    const CLI::App& show = declareShow(program, showing);
+    declareShow(program, showing);
     program.allow_extras();  // behind the subcommands, which would inherit it
 
     try {
@@ -130,13 +149,12 @@ int runProgram(int argc, char** argv) {
         // Prints the help, the version or what is wrong; the first two are no failures.
         return program.exit(error) == 0 ? 0 : static_cast<int>(zvExitCode::usage);
     }
-    if (!program.get_subcommands().empty()) {
-        goWithoutHome();
+    if (program.get_subcommands().empty()) {
+        const zvExitCode code = takeEvent(road, program.remaining());
+        return road.asJson ? finish(code) : static_cast<int>(code);
     }
-    return static_cast<int>(eval.parsed()    ? evaluation.run()
-                            : check.parsed() ? checking.run()
-                            : show.parsed()  ? showing.run()
-                                             : takeEvent(program.remaining()));
+    goWithoutHome();
+    return finish(eval.parsed() ? evaluation.run() : check.parsed() ? checking.run() : showing.run());
 }
 
 }  // namespace

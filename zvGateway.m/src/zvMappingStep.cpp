@@ -56,23 +56,24 @@ std::string namesOf(const zvCfgLcmState& state) {
 
 }  // namespace
 
-zvMappingStep::zvMappingStep(const zvEventArguments& arguments, const zvString& dataFile)
-    : m_arguments(arguments),
-      m_strDataFile(dataFile),
-      m_strLocalType(arguments.getEventArgumentValue("LocalType")),
-      m_strRemoteType(arguments.getEventArgumentValue("RemoteType")) {}
+zvMappingStep::zvMappingStep(const zvRoadEvent& event)
+    : m_event(event),
+      m_strLocalType(event.argument("LocalType")),
+      m_strRemoteType(event.argument("RemoteType")) {}
 
-void zvMappingStep::run() {
-    if (m_strLocalType.empty() && m_strRemoteType.empty()) {
-        return;
-    }
-    readConfiguration();
-    mapObject();
+std::string zvMappingStep::reasonToLeaveOut() const {
+    return m_strLocalType.empty() && m_strRemoteType.empty()  ? "the event has no object"
+           : m_event.progress->hasArrived(m_event.dataFile()) ? "the data file arrived before"
+                                                              : "";
 }
 
-void zvMappingStep::readConfiguration() const {
+zvStepOutcome zvMappingStep::readConfiguration() const {
+    const std::string reason = reasonToLeaveOut();
+    if (!reason.empty()) {
+        return zvStepOutcome::leftOut(reason);
+    }
     zvConsole::step(configurationStep);
-    zvString file = m_arguments.getEventArgumentValue("ConfigFile");
+    zvString file = m_event.argument("ConfigFile");
     if (file.empty()) {
         file = zvGatewayHome::configFile(zvCommonUtils::getGatewayHomePath(), "customization-config.xml");
     }
@@ -96,30 +97,48 @@ void zvMappingStep::readConfiguration() const {
     const zvCfgConfigManager& configuration = *zvCfgConfigManager::getCfgConfigManager();
     zvConsole::fact("file", zvConsole::printablePath(file));
     zvConsole::fact("objects", std::to_string(configuration.numObjects()));
+    return zvStepOutcome::done(zvConsole::counted(configuration.numObjects(), "object"));
 }
 
-void zvMappingStep::mapObject() {
-    zvConsole::step(mappingStep);
-    const zvCfgConfigManager& configuration = *zvCfgConfigManager::getCfgConfigManager();
-    const bool isLocal = !m_strLocalType.empty();
-    const zvCfgObjectList* const candidates =
-        isLocal && !m_strRemoteType.empty() ? configuration.getObjects(m_strLocalType, m_strRemoteType)
-        : isLocal                           ? configuration.getObjectsByLocalType(m_strLocalType)
-                                            : configuration.getObjectsByRemoteType(m_strRemoteType);
-    const std::string type = zvConsole::printable(isLocal ? m_strLocalType : m_strRemoteType);
-    if (candidates == nullptr) {
-        throw mappingFailure(type, "the configuration has no object of this type");
+zvStepOutcome zvMappingStep::mapObject() const {
+    const std::string reason = reasonToLeaveOut();
+    if (!reason.empty()) {
+        return zvStepOutcome::leftOut(reason);
     }
+    zvConsole::step(mappingStep);
+    const bool isLocal = !m_strLocalType.empty();
+    const std::string type = zvConsole::printable(isLocal ? m_strLocalType : m_strRemoteType);
     zvObjectMapping mapping(
         isLocal ? zvObjectMapping::Direction::localToRemote : zvObjectMapping::Direction::remoteToLocal,
         attributeValues());
     try {
-        if (!mapping.map(candidates)) {
+        if (!mapping.map(&candidates())) {
             throw mappingFailure(type, "no mapping rule of this type holds for the attributes");
         }
     } catch (const zvException& exception) {
         throw mappingFailure(type, zvConsole::printable(exception.getResult().getMessage()));
     }
+    showMapping(mapping);
+    writeData(mapping);
+    showTransition(mapping.object());
+    return zvStepOutcome::done(typesOf(mapping.object()));
+}
+
+const zvCfgObjectList& zvMappingStep::candidates() const {
+    const zvCfgConfigManager& configuration = *zvCfgConfigManager::getCfgConfigManager();
+    const bool isLocal = !m_strLocalType.empty();
+    const zvCfgObjectList* const found = isLocal && !m_strRemoteType.empty()
+                                             ? configuration.getObjects(m_strLocalType, m_strRemoteType)
+                                         : isLocal ? configuration.getObjectsByLocalType(m_strLocalType)
+                                                   : configuration.getObjectsByRemoteType(m_strRemoteType);
+    if (found == nullptr) {
+        throw mappingFailure(zvConsole::printable(isLocal ? m_strLocalType : m_strRemoteType),
+                             "the configuration has no object of this type");
+    }
+    return *found;
+}
+
+void zvMappingStep::showMapping(const zvObjectMapping& mapping) const {
     zvConsole::fact("object", typesOf(mapping.object()));
     for (const zvObjectMapping::Attribute& attribute : mapping.attributes()) {
         zvConsole::fact(zvConsole::printable(attribute.to),
@@ -129,14 +148,12 @@ void zvMappingStep::mapObject() {
     for (const zvString& name : mapping.unmapped()) {
         zvConsole::fact("without a mapping", zvConsole::printable(name));
     }
-    writeData(mapping);
-    showTransition(mapping.object());
 }
 
 zvObjectMapping::Values zvMappingStep::attributeValues() const {
     const zvString prefix(attributePrefix);
     zvObjectMapping::Values values;
-    m_arguments.forEach([&](const zvString& key, const zvString& value) {
+    m_event.arguments->forEach([&](const zvString& key, const zvString& value) {
         if (key.find(prefix, 0, prefix.size() - 1) == 0) {
             values.emplace(key.substr(prefix.size(), key.size() - prefix.size()), value);
         }
@@ -161,16 +178,16 @@ void zvMappingStep::writeData(const zvObjectMapping& mapping) const {
             document.addAttribute("DataType", zvDataTypeWords::wordOf(attribute.type).data()) &&
             (attribute.value.empty() || document.addMemberValue(attribute.value)) && document.addEndTag();
     }
-    if (!complete || !document.writeTreeToFile(m_strDataFile, "UTF-8")) {
-        throw mappingFailure(zvConsole::printablePath(m_strDataFile),
-                             "it could not be written (see the log)");
+    const zvString file = m_event.dataFile();
+    if (!complete || !document.writeTreeToFile(file, "UTF-8")) {
+        throw mappingFailure(zvConsole::printablePath(file), "it could not be written (see the log)");
     }
-    zvConsole::fact("data file", zvConsole::printablePath(m_strDataFile));
+    zvConsole::fact("data file", zvConsole::printablePath(file));
 }
 
 void zvMappingStep::showTransition(const zvCfgObject& object) const {
-    const zvString from = m_arguments.getEventArgumentValue("FromState");
-    const zvString to = m_arguments.getEventArgumentValue("ToState");
+    const zvString from = m_event.argument("FromState");
+    const zvString to = m_event.argument("ToState");
     if (from.empty() && to.empty()) {
         return;
     }

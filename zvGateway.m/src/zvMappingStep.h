@@ -1,32 +1,33 @@
 #ifndef ZV_MAPPING_STEP_H
 #define ZV_MAPPING_STEP_H
 
-#include "zvEventArguments.h"
 #include "zvObjectMapping.h"
+#include "zvRoadEvent.h"
+#include "zvRoadReport.h"
 
-/// The steps of the road that need the configuration: it is read, the event's object is mapped into the
-/// event's data file, and the way between two lifecycle states is told.
+/// The steps that need the configuration: it is read, and the event's object is mapped into the event's data
+/// file, and the way between two lifecycle states is told.
 ///
 /// The arguments: "ConfigFile" (absent: "customization-config.xml" in the home's folder "config"),
 /// "LocalType" or "RemoteType", "attr.NAME" for each attribute, "FromState" and "ToState". An event without a
-/// type has no object to map and needs no configuration.
+/// type has no object to map and needs no configuration, and a data file that has arrived is not made again.
 class zvMappingStep {
 public:
-    /// Both are kept by reference: the arguments, and the path of the event's data file.
-    zvMappingStep(const zvEventArguments& arguments, const zvString& dataFile);
+    explicit zvMappingStep(const zvRoadEvent& event);
 
-    /// Throws a zvStepFailure.
-    void run();
+    /// The two steps in their order. They throw a zvStepFailure.
+    zvStepOutcome readConfiguration() const;
+    zvStepOutcome mapObject() const;
 
 private:
-    void readConfiguration() const;
-    void mapObject();
+    std::string reasonToLeaveOut() const;
+    const zvCfgObjectList& candidates() const;
+    void showMapping(const zvObjectMapping& mapping) const;
     void writeData(const zvObjectMapping& mapping) const;
     void showTransition(const zvCfgObject& object) const;
     zvObjectMapping::Values attributeValues() const;
 
-    const zvEventArguments& m_arguments;
-    const zvString& m_strDataFile;
+    const zvRoadEvent& m_event;
     zvString m_strLocalType;
     zvString m_strRemoteType;
 };

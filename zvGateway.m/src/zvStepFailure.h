@@ -12,7 +12,9 @@ enum class zvExitCode {
     shadowDirectory = 4,
     attachments = 5,
     configuration = 6,
-    mapping = 7
+    mapping = 7,
+    fileTransfer = 8,
+    post = 9
 };
 
 /// Thrown by a step that could not do its job: it ends the road.

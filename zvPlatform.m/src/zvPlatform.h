@@ -22,7 +22,7 @@ constexpr Handle refusedHandle = -1;
 /// The path as this system's own interfaces, and other libraries on it, expect it.
 std::string nativePath(const char* path);
 
-/// The system's number for the last refusal of createDirectory, createFile or closeHandle.
+/// The system's number for the last refusal of createDirectory, createFile, closeHandle or claimFile.
 unsigned long lastError();
 /// The system's text for such a number.
 std::string errorText(unsigned long error);
@@ -67,6 +67,14 @@ void adoptUserLocale();
 
 /// The number by which the system knows this process.
 unsigned long processId();
+/// The path of this process's program file; empty when the system does not tell it.
+std::string programPath();
+
+/// What became of an attempt to take a file.
+enum class Claim { taken, takenByAnother, refused };
+/// Takes a file, which is created if need be, for this process until it ends: an agreement among those who
+/// ask, which keeps nobody from reading or writing. lastError() has the reason for `refused`.
+Claim claimFile(const char* path);
 
 /// Puts the calling thread to sleep.
 void sleep(unsigned long milliseconds);

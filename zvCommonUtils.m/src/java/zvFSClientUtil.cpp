@@ -141,6 +141,9 @@ void tell(zvTransferObserver& observer, const zvString& local, std::chrono::stea
 
 void transfer(const EventFile& file, const zvString& local, const zvString& remoteDir,
               const Direction& direction, zvTransferObserver* observer) {
+    if (observer != nullptr) {
+        observer->fileBegins(local);
+    }
     const auto start = std::chrono::steady_clock::now();
     onFileServer(direction.failure, local, [&] {
         client().setFileType(file.mode);
@@ -155,7 +158,8 @@ void transfer(const EventFile& file, const zvString& local, const zvString& remo
 zvString removeLocal(const EventFiles& files) {
     zvTextBuilder left;
     for (const EventFile& file : files) {
-        if (file.toBeDeleted && !zvDirFileUtils::deleteFile(file.path)) {
+        if (file.toBeDeleted && zvDirFileUtils::isAccessible(file.path, zvPlatform::existence) &&
+            !zvDirFileUtils::deleteFile(file.path)) {
             left.append(left.empty() ? "Not removed: " : ", ").append(file.path);
         }
     }
@@ -178,6 +182,10 @@ zvResult resultOf(Action action) {
 
 zvTransferObserver::~zvTransferObserver() = default;
 
+bool zvTransferObserver::hasArrived(const zvString&) { return false; }
+
+void zvTransferObserver::fileBegins(const zvString&) {}
+
 zvResult zvFSClientUtil::createShadowDir(const zvEventArguments& args) {
     return resultOf([&](zvResult&) {
         const zvString directory = required(args, "EventShadowDir");
@@ -190,14 +198,19 @@ zvResult zvFSClientUtil::uploadEventFiles(const zvEventArguments& args, const zv
                                           zvTransferObserver* observer) {
     return resultOf([&](zvResult& result) {
         const EventFiles files = collectFiles(args, attachments, localDirectory(args));
+        EventFiles toBeSent;
         for (const EventFile& file : files) {
+            if (observer != nullptr && observer->hasArrived(file.path)) {
+                continue;
+            }
             if (!zvDirFileUtils::isAccessible(file.path, zvPlatform::readable)) {
                 logger.raise("The file [", file.path, "] cannot be read");
             }
+            toBeSent.push_back(file);
         }
         const zvString remoteDir = required(args, "EventShadowDir");
         client();
-        for (const EventFile& file : files) {
+        for (const EventFile& file : toBeSent) {
             transfer(file, file.path, remoteDir, upload, observer);
         }
         result.setAdditionalInformation(removeLocal(files));

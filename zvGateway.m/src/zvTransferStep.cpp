@@ -1,0 +1,156 @@
+#include "zvTransferStep.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "zvAccessFault.h"
+#include "zvCommonUtils.h"
+#include "zvConsole.h"
+#include "zvException.h"
+#include "zvFSClient.h"
+#include "zvGatewayHome.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr char name[] = "file transfer";
+
+// From here on a person wants to know what is going on before the file is there.
+constexpr zvInt64 largeFile = 16'000'000;
+
+// The delivered Java client, from where the program is: as installed, and as built.
+constexpr const char* clientJars[] = {"../" ZV_DATA_FOLDER "/zvFileServerClient.jar",
+                                      "../zvFileServerClient.j/zvFileServerClient.jar"};
+
+// A site's own client, on CLASSPATH, comes first.
+void offerClient() {
+    if (!zvPlatform::environment("CLASSPATH").empty()) {
+        return;
+    }
+    const fs::path folder = fs::path(zvPlatform::programPath()).parent_path();
+    for (const char* const jar : clientJars) {
+        std::error_code ignored;
+        if (fs::exists(folder / jar, ignored)) {
+            zvPlatform::setEnvironment("CLASSPATH", fs::canonical(folder / jar, ignored).string().c_str());
+            return;
+        }
+    }
+}
+
+// The connection to the file server, as long as it lives.
+class Connection {
+public:
+    explicit Connection(const zvString& configuration) { zvFSClient::getInstance(configuration); }
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+    ~Connection() { zvFSClient::destroyInstance(); }
+};
+
+zvInt64 sizeOf(const zvString& file) {
+    std::error_code error;
+    const auto size = fs::file_size(zvPlatform::nativePath(zvCharString(file).data()), error);
+    return error ? 0 : static_cast<zvInt64>(size);
+}
+
+std::string sizeText(zvInt64 bytes) { return zvConsole::size(static_cast<double>(bytes)); }
+
+}  // namespace
+
+zvStepOutcome zvTransferStep::run() {
+    zvConsole::step(name);
+    const zvString configuration =
+        zvGatewayHome::configFile(zvCommonUtils::getGatewayHomePath(), "fileserver.properties");
+    if (!zvAccessFault(configuration, zvPlatform::existence).empty()) {
+        return zvStepOutcome::leftOut("there is no " + zvConsole::printablePath(configuration));
+    }
+    zvConsole::fact("by", zvConsole::printablePath(configuration));
+    if (m_event.progress->isTransferred()) {
+        return zvStepOutcome::leftOut("done before");
+    }
+    if (m_event.isDryRun) {
+        return showFiles();
+    }
+    const auto failure = [&](const zvString& reason) {
+        return zvStepFailure{zvExitCode::fileTransfer, name, zvConsole::printablePath(configuration),
+                             zvConsole::printable(reason)};
+    };
+    const std::string fault = zvAccessFault(configuration, zvPlatform::readable);
+    if (!fault.empty()) {
+        throw failure(fault.c_str());
+    }
+    try {
+        return send(configuration);
+    } catch (const zvException& exception) {
+        const zvString message = exception.getMessage();
+        throw failure(message.empty() ? exception.getResult().getMessage() : message);
+    }
+}
+
+zvStepOutcome zvTransferStep::showFiles() {
+    int count = 0;
+    const auto show = [&](const zvString& file) {
+        if (!hasArrived(file)) {
+            ++count;
+            zvConsole::fact("to be sent", zvConsole::printablePath(file) + ", " + sizeText(sizeOf(file)));
+        }
+    };
+    show(m_event.dataFile());
+    show(m_event.attachmentsFile());
+    for (int i = 0; i < m_event.attachments.numAttachments(); ++i) {
+        show(m_event.attachments.getAttachment(i)->getFilePath());
+    }
+    return zvStepOutcome::leftOut("dry run: " + zvConsole::counted(count, "file"));
+}
+
+zvStepOutcome zvTransferStep::send(const zvString& configuration) {
+    offerClient();
+    const Connection connection(configuration);
+    require(zvFSClientUtil::createShadowDir(*m_event.arguments));
+    const zvResult sent = zvFSClientUtil::uploadEventFiles(*m_event.arguments, m_event.attachments, this);
+    m_event.progress->requireWritten();
+    require(sent);
+    const zvString notRemoved = sent.getAdditionalInformation();
+    if (notRemoved.empty()) {
+        m_event.progress->setTransferred();
+        m_event.progress->requireWritten();
+    } else {
+        // The event may be run again to remove them.
+        zvConsole::fact("warning", zvConsole::printable(notRemoved));
+    }
+    return zvStepOutcome::done(zvConsole::counted(m_lSentFiles, "file") + ", " + sizeText(m_lSentBytes));
+}
+
+void zvTransferStep::require(const zvResult& result) {
+    if (!result.isOk()) {
+        throw zvException(result);
+    }
+}
+
+bool zvTransferStep::hasArrived(const zvString& local) {
+    if (!m_event.progress->hasArrived(local)) {
+        return false;
+    }
+    zvConsole::fact("arrived before", zvConsole::printablePath(local));
+    m_report.addFile({zvConsole::printablePath(local), "arrived before", sizeOf(local), 0});
+    return true;
+}
+
+void zvTransferStep::fileBegins(const zvString& local) {
+    m_event.progress->begin(local);
+    const zvInt64 bytes = sizeOf(local);
+    if (bytes >= largeFile) {
+        zvConsole::fact("sending", zvConsole::printablePath(local) + ", " + sizeText(bytes));
+    }
+}
+
+void zvTransferStep::fileTransferred(const zvString& local, zvInt64 bytes, zvInt64 milliseconds) {
+    m_event.progress->setArrived(local);
+    ++m_lSentFiles;
+    m_lSentBytes += bytes;
+    const std::string path = zvConsole::printablePath(local);
+    zvConsole::fact("sent",
+                    path + ", " + sizeText(bytes) + ", " +
+                        zvConsole::rate(static_cast<double>(bytes), static_cast<double>(milliseconds)));
+    m_report.addFile({path, "sent", bytes, static_cast<double>(milliseconds)});
+}
