@@ -85,6 +85,27 @@ TEST_F(zvFSClientUtilTest, UploadsEveryFileInItsOwnModeAndRemovesThem) {
     EXPECT_TRUE(isThere("b/picture") && isThere("b/twice") && isThere("root/1300/1300_data.xml"));
 }
 
+TEST_F(zvFSClientUtilTest, SendsNothingAgainThatHasArrived) {
+    struct Resumed : Observer {
+        bool hasArrived(const zvString& local) override { return local.find("text.txt") == -1; }
+        void fileBegins(const zvString& local) override { told.push_back("begins " + narrow(local)); }
+    };
+    m_folder.write("a/text.txt", "12345");
+    m_folder.write("b/left", "1");
+    attach(path("a/text.txt"), 1, true);
+    attach(path("b/left"), 0, true);
+    attach(path("b/removed before"), 0, true);
+    connect();
+    Resumed observer;
+    const zvResult result = zvFSClientUtil::uploadEventFiles(m_args, m_attachments, &observer);
+    EXPECT_TRUE(result.isOk());
+    EXPECT_TRUE(result.getAdditionalInformation().empty());
+    EXPECT_EQ(observer.told,
+              (Lines{"begins " + narrow(path("a/text.txt")), narrow(path("a/text.txt")) + " 5"}));
+    EXPECT_FALSE(isThere("a/text.txt"));
+    EXPECT_FALSE(isThere("b/left"));
+}
+
 TEST_F(zvFSClientUtilTest, NamesWhatItCannotRemove) {
     m_folder.write("full/of/files", "");  // nothing that is removed like a file
     attach(path("full/of"));

@@ -1,6 +1,7 @@
 #include "zvPlatform.h"
 
 #include <cstdlib>
+#include <filesystem>
 
 #include "zvString.h"
 #include "zvTestSupport.h"
@@ -54,6 +55,20 @@ TEST(zvPlatform, OpensNoDirectoryForReading) {
     ASSERT_NE(file, nullptr);
     EXPECT_EQ(std::fgetc(file.get()), 'x');
     EXPECT_EQ(std::fclose(file.release()), 0);
+}
+
+TEST(zvPlatform, AFileIsClaimedOnce) {
+    const zvTemporaryFolder folder;
+    const std::string path = folder.file("claimed");
+    EXPECT_EQ(zvPlatform::claimFile(path.c_str()), zvPlatform::Claim::taken);
+    EXPECT_EQ(zvPlatform::claimFile(path.c_str()), zvPlatform::Claim::takenByAnother);
+    EXPECT_NE(zvPlatform::openForReading(path.c_str()), nullptr);
+    EXPECT_EQ(zvPlatform::claimFile(folder.file("no/claimed").c_str()), zvPlatform::Claim::refused);
+    EXPECT_EQ(zvPlatform::errorText(zvPlatform::lastError()), "No such file or directory");
+}
+
+TEST(zvPlatform, KnowsItsProgram) {
+    EXPECT_TRUE(std::filesystem::is_regular_file(zvPlatform::programPath()));
 }
 
 }  // namespace
