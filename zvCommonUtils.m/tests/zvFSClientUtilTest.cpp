@@ -100,8 +100,7 @@ TEST_F(zvFSClientUtilTest, SendsNothingAgainThatHasArrived) {
     const zvResult result = zvFSClientUtil::uploadEventFiles(m_args, m_attachments, &observer);
     EXPECT_TRUE(result.isOk());
     EXPECT_TRUE(result.getAdditionalInformation().empty());
-    EXPECT_EQ(observer.told,
-              (Lines{"begins " + narrow(path("a/text.txt")), narrow(path("a/text.txt")) + " 5"}));
+    EXPECT_EQ(observer.told, (Lines{"begins " + path("a/text.txt"), path("a/text.txt") + " 5"}));
     EXPECT_FALSE(isThere("a/text.txt"));
     EXPECT_FALSE(isThere("b/left"));
 }
