@@ -31,6 +31,10 @@ zvStepFailure homeFailure(const zvString& file, const std::string& reason) {
     return {zvExitCode::gatewayHome, homeStep, zvConsole::printablePath(file), reason};
 }
 
+zvString homePath() {
+    return zvCommonUtils::getEnvironmentalVariable(zvCommonUtils::getGatewayHomeEnvVariable());
+}
+
 // A home without a log configuration runs without a log; one whose configuration is of no use does not run.
 void checkLog(const zvString& home) {
     const zvString configuration = zvGatewayHome::configFile(home, "log4cxx.xml");
@@ -76,6 +80,10 @@ void zvEventRoad::run() {
 
 void zvEventRoad::walk() {
     m_event.isDryRun = isDryRun;
+    if (homePath().empty()) {
+        // The library, when it is asked first, says so on standard output, in the middle of everything else.
+        m_report.take(homeStep, [this] { return findGatewayHome(); });
+    }
     m_report.take("arguments", [this] { return readArguments(); });
     m_report.take(homeStep, [this] { return findGatewayHome(); });
     m_report.take("shadow directory", [this] { return zvShadowDirectoryStep(m_event).run(); });
@@ -145,10 +153,10 @@ void zvEventRoad::requireArguments() const {
 
 zvStepOutcome zvEventRoad::findGatewayHome() {
     zvConsole::step(homeStep);
-    const zvString variable = zvCommonUtils::getGatewayHomeEnvVariable();
-    const zvString home = zvCommonUtils::getEnvironmentalVariable(variable);
+    const zvString home = homePath();
     if (home.empty()) {
-        throw zvStepFailure{zvExitCode::gatewayHome, homeStep, zvConsole::printable(variable),
+        throw zvStepFailure{zvExitCode::gatewayHome, homeStep,
+                            zvConsole::printable(zvCommonUtils::getGatewayHomeEnvVariable()),
                             "the environment variable is not set"};
     }
     const std::string fault = zvAccessFault(home, zvPlatform::existence);
