@@ -65,9 +65,7 @@ void serve(const std::string& folder, int status) {
     server.listen_after_bind();
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int runProgram(int argc, char** argv) {
     CLI::App program(
         "Receives what gateway programs post, on a free port of this host, until it is stopped.");
     std::string folder;
@@ -76,9 +74,15 @@ int main(int argc, char** argv) {
         ->required();
     program.add_option("--status", status, "The HTTP status of every answer")->capture_default_str();
     CLI11_PARSE(program, argc, argv);
+    serve(folder, status);
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
     try {
-        serve(folder, status);
-        return 0;
+        return runProgram(argc, argv);
     } catch (const std::exception& exception) {
         std::fprintf(stderr, "zvdemoreceiver: %s\n", exception.what());
         return 1;
