@@ -69,7 +69,7 @@ zvConfigurationDocument::zvConfigurationDocument(const std::string& file) {
     zvString root;
     if (m_parser.loadXMLFromString(file.c_str(), true) && m_parser.getRoot(root) &&
         "CustomizationConfig" == root) {
-        visit(root, "");
+        readElement(root, "");
     }
 }
 
@@ -78,7 +78,7 @@ std::string zvConfigurationDocument::objectAt(int i) const {
 }
 
 // The cursor is on an element that is read. As deep as the table, whatever the file.
-void zvConfigurationDocument::visit(const zvString& tag, const std::string& outer) {
+void zvConfigurationDocument::readElement(const zvString& tag, const std::string& outer) {
     const std::string owner = ownerAt(tag, outer);
     if ("Extn" == tag) {
         checkExtension(owner);
@@ -90,7 +90,7 @@ void zvConfigurationDocument::visit(const zvString& tag, const std::string& oute
         do {
             isMet = isMet || need->child == child;
             if (isRead(tag, child)) {
-                visit(child, owner);
+                readElement(child, owner);
             } else {
                 warn(owner, "the element " + zvConfigurationNames::quoted(child) + " in " +
                                 zvConfigurationNames::quoted(tag) + " is not known and not read");

@@ -21,7 +21,7 @@ public:
     std::string objectAt(int i) const;
 
 private:
-    void visit(const zvString& tag, const std::string& outer);
+    void readElement(const zvString& tag, const std::string& outer);
     std::string ownerAt(const zvString& tag, const std::string& outer);
     void checkExtension(const std::string& owner);
     void warn(const std::string& owner, const std::string& what);

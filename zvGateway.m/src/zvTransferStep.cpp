@@ -8,6 +8,7 @@
 #include "zvConsole.h"
 #include "zvException.h"
 #include "zvFSClient.h"
+#include "zvFSClientUtil.h"
 #include "zvGatewayHome.h"
 
 namespace fs = std::filesystem;

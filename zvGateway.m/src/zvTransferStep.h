@@ -1,9 +1,10 @@
 #ifndef ZV_TRANSFER_STEP_H
 #define ZV_TRANSFER_STEP_H
 
-#include "zvFSClientUtil.h"
+#include "zvResult.h"
 #include "zvRoadEvent.h"
 #include "zvRoadReport.h"
+#include "zvTransferObserver.h"
 
 /// The step that sends the event's files to the file server, if the gateway home's folder "config" has a file
 /// "fileserver.properties". What arrived in an earlier run is not sent again.

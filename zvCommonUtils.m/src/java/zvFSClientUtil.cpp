@@ -180,12 +180,6 @@ zvResult resultOf(Action action) {
 
 }  // namespace
 
-zvTransferObserver::~zvTransferObserver() = default;
-
-bool zvTransferObserver::hasArrived(const zvString&) { return false; }
-
-void zvTransferObserver::fileBegins(const zvString&) {}
-
 zvResult zvFSClientUtil::createShadowDir(const zvEventArguments& args) {
     return resultOf([&](zvResult&) {
         const zvString directory = required(args, "EventShadowDir");

@@ -1,0 +1,7 @@
+#include "zvTransferObserver.h"
+
+zvTransferObserver::~zvTransferObserver() = default;
+
+bool zvTransferObserver::hasArrived(const zvString&) { return false; }
+
+void zvTransferObserver::fileBegins(const zvString&) {}
