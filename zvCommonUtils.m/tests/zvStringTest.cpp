@@ -231,6 +231,7 @@ TEST(zvString, KeepsTextBeyondAsciiBothWays) {
     EXPECT_EQ(zvString(u"\xD83D"), zvString(wchar16{0xD83D}));
     EXPECT_EQ(zvString(wchar16{0xD83D}).getChars(), nullptr) << "half a pair has no narrow form";
     EXPECT_TRUE(zvString("a\xFF").empty()) << "invalid text";
+    EXPECT_TRUE(zvString("\xF7\x9F\x98\x84").empty()) << "a number beyond the last character";
     EXPECT_TRUE(zvString(mixed, 1).empty()) << "a character cut in two";
     EXPECT_EQ(zvString(mixed, 2), u"\u00E4");
 

@@ -10,6 +10,7 @@
 namespace zvTextCodec {
 namespace {
 
+constexpr char32_t lastCharacter = 0x10FFFF;  // some runtimes read bytes as numbers beyond it
 constexpr bool unitsAreWideCharacters = sizeof(wchar_t) == sizeof(wchar16);
 
 // Folded over the whole text rather than left at the first hit, so that it is done many bytes at a time.
@@ -30,7 +31,8 @@ bool decode(const char* text, Take take) {
     while (text != end) {
         wchar_t character = 0;
         const std::size_t used = std::mbrtowc(&character, text, static_cast<std::size_t>(end - text), &state);
-        if (used == static_cast<std::size_t>(-1) || used == static_cast<std::size_t>(-2)) {
+        if (used == static_cast<std::size_t>(-1) || used == static_cast<std::size_t>(-2) ||
+            static_cast<char32_t>(character) > lastCharacter) {
             return false;
         }
         if (!take(character)) {
