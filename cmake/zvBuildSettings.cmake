@@ -24,6 +24,9 @@ if(ZV_SANITIZE)
     add_compile_options(-fsanitize=${ZV_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${ZV_SANITIZE})
 endif()
+if(ZV_BUILD_FUZZERS)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
 
 # Programs of the build tree find the build tree's libraries; installed ones find those beside them.
 set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")

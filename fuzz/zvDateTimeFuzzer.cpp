@@ -1,0 +1,54 @@
+// A date's value, pattern and separators on one line each: parsed, written, turned into seconds and back.
+#include "zvDateTime.h"
+#include "zvFuzzSupport.h"
+
+using zvFuzz::require;
+
+namespace {
+
+constexpr char usualPattern[] = "DD/MM/YYYY::hh-mm-ss";
+
+bool sameNumbers(const zvDateTime& a, const zvDateTime& b) {
+    return a.getYear() == b.getYear() && a.getMonth() == b.getMonth() && a.getDay() == b.getDay() &&
+           a.getHour() == b.getHour() && a.getMinute() == b.getMinute() && a.getSecond() == b.getSecond();
+}
+
+// A field is read as four digits at most.
+bool canBeRead(const zvDateTime& date) {
+    for (const short number : {date.getYear(), date.getMonth(), date.getDay(), date.getHour(),
+                               date.getMinute(), date.getSecond()}) {
+        if (number < 0 || number > 9999) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void checkSeconds(const zvDateTime& date) {
+    const zvInt64 seconds = date.getDateTimeInSeconds();
+    require(seconds >= -1, "seconds are counted from 1970");
+    require(date == date && date >= date && !(date < date), "a date equals itself");
+    if (seconds >= 0) {
+        require(zvDateTime(seconds).getDateTimeInSeconds() == seconds, "seconds come back");
+    }
+}
+
+}  // namespace
+
+void zvFuzzOne(std::string_view input) {
+    const std::vector<std::string> lines = zvFuzz::linesOf(input);
+    const auto line = [&lines](std::size_t i) {
+        return i < lines.size() ? zvFuzz::textOf(lines[i]) : zvString();
+    };
+    zvDateTime date;
+    date.setDate(line(0), usualPattern);
+    date.setDate(line(0), line(1));
+    checkSeconds(date);
+    static_cast<void>(date.toString());
+    static_cast<void>(date.getDateTime(line(1), line(2), line(3)));
+    if (canBeRead(date)) {
+        zvDateTime again;
+        again.setDate(date.getDateTime(usualPattern, "/", "-"), usualPattern);
+        require(sameNumbers(date, again), "what was written is read");
+    }
+}
