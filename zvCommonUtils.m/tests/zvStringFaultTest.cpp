@@ -1,41 +1,7 @@
-// The program of this test replaces operator new, so that any allocation can be made to fail.
-#include <cstdlib>
-#include <new>
-
 #include "zvCharString.h"
+#include "zvFaultyMemory.h"
 #include "zvString.h"
 #include "zvTestSupport.h"
-
-namespace {
-
-// How many allocations succeed before one fails; negative: all of them.
-int allocationsLeft = -1;
-
-bool mayAllocate() { return allocationsLeft < 0 || allocationsLeft-- > 0; }
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-    void* const memory = mayAllocate() ? std::malloc(size == 0 ? 1 : size) : nullptr;
-    if (memory == nullptr) {
-        throw std::bad_alloc();
-    }
-    return memory;
-}
-
-void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
-    return mayAllocate() ? std::malloc(size == 0 ? 1 : size) : nullptr;
-}
-
-void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
-    return ::operator new(size, std::nothrow);
-}
-
-void* operator new[](std::size_t size) { return ::operator new(size); }
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
-void operator delete[](void* memory) noexcept { std::free(memory); }
-void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); }
 
 namespace {
 
@@ -45,21 +11,16 @@ const zvString upperB("B");
 const zvString upper("ABCB");
 const zvString longer("something longer");
 
-// Runs `operation` on a string "abcb" once for every allocation that it makes, letting that one fail. The
-// string has to come out as it was, empty, or as it comes out of a run without a fault; nothing may be
+// The string has to come out as it was, empty, or as it comes out of a run without a fault; nothing may be
 // thrown.
 void withEveryFault(void (*operation)(zvString&)) {
     zvString expected("abcb");
     operation(expected);
-    bool faultless = false;
-    for (int allowed = 0; !faultless; ++allowed) {
-        zvString text("abcb");
-        allocationsLeft = allowed;
-        EXPECT_NO_THROW(operation(text));
-        faultless = allocationsLeft >= 0;
-        allocationsLeft = -1;
-        EXPECT_TRUE(text.empty() || text == "abcb" || text == expected) << narrow(text);
-    }
+    zvFaultyMemory::forEveryFault(
+        [] { return zvString("abcb"); }, [operation](zvString& text) { EXPECT_NO_THROW(operation(text)); },
+        [&expected](const zvString& text, bool faultless) {
+            EXPECT_TRUE(text == expected || (!faultless && (text.empty() || text == "abcb"))) << narrow(text);
+        });
 }
 
 TEST(zvStringFault, AFailedAllocationLeavesTheStringEmptyOrUnchanged) {

@@ -8,7 +8,12 @@ zvAttribute::zvAttribute(const zvAttribute& other) = default;
 
 zvAttribute::~zvAttribute() = default;
 
-zvAttribute& zvAttribute::operator=(const zvAttribute& other) = default;
+zvAttribute& zvAttribute::operator=(const zvAttribute& other) {
+    zvKeptString name(other.m_strName);
+    m_value = other.m_value;
+    m_strName.swap(name);
+    return *this;
+}
 
 void zvAttribute::copy(const zvAttribute& other) { *this = other; }
 

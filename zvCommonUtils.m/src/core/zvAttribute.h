@@ -1,7 +1,7 @@
 #ifndef ZV_ATTRIBUTE_H
 #define ZV_ATTRIBUTE_H
 
-#include "zvString.h"
+#include "zvKeptString.h"
 #include "zvValue.h"
 
 /// A named typed value.
@@ -25,7 +25,7 @@ protected:
     void copy(const zvAttribute& other);
 
 private:
-    zvString m_strName;
+    zvKeptString m_strName;
     zvValue m_value;
 };
 

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <vector>
 
+#include "zvKeptString.h"
+
 class zvStringListImpl {
 public:
-    std::vector<zvString> strings;
+    std::vector<zvKeptString> strings;
 };
 
 zvStringList::zvStringList() : m_pImpl(new zvStringListImpl) {}
@@ -14,20 +16,18 @@ zvStringList::zvStringList(const zvStringList& other)
     : zvCoreObject(other), m_pImpl(new zvStringListImpl(*other.m_pImpl)) {}
 
 zvStringList& zvStringList::operator=(const zvStringList& other) {
-    if (this != &other) {
-        *m_pImpl = *other.m_pImpl;
-    }
+    zvStringListImpl(*other.m_pImpl).strings.swap(m_pImpl->strings);
     return *this;
 }
 
 zvStringList::~zvStringList() { delete m_pImpl; }
 
-void zvStringList::addString(const zvString& text) { m_pImpl->strings.push_back(text); }
+void zvStringList::addString(const zvString& text) { m_pImpl->strings.emplace_back(text); }
 
 int zvStringList::numStrings() const { return static_cast<int>(m_pImpl->strings.size()); }
 
 zvString zvStringList::getString(int i) const {
-    return i >= 0 && i < numStrings() ? m_pImpl->strings[static_cast<std::size_t>(i)] : zvString();
+    return i >= 0 && i < numStrings() ? zvString(m_pImpl->strings[static_cast<std::size_t>(i)]) : zvString();
 }
 
 int zvStringList::getStringIndex(const zvString& text) const {
@@ -38,7 +38,7 @@ int zvStringList::getStringIndex(const zvString& text) const {
 
 bool zvStringList::empty() const { return m_pImpl->strings.empty(); }
 
-zvString zvStringList::back() const { return empty() ? zvString() : m_pImpl->strings.back(); }
+zvString zvStringList::back() const { return empty() ? zvString() : zvString(m_pImpl->strings.back()); }
 
 void zvStringList::pop() {
     if (!empty()) {

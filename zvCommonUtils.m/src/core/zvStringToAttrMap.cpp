@@ -1,12 +1,14 @@
 #include "zvStringToAttrMap.h"
 
+#include <functional>
 #include <map>
 
+#include "zvKeptString.h"
 #include "zvMapIndex.h"
 
 class zvStringToAttrMapImpl {
 public:
-    std::map<zvString, zvAttribute> attributes;
+    std::map<zvKeptString, zvAttribute, std::less<>> attributes;
 };
 
 zvStringToAttrMap::zvStringToAttrMap() : m_pImpl(new zvStringToAttrMapImpl) {}
@@ -15,9 +17,7 @@ zvStringToAttrMap::zvStringToAttrMap(const zvStringToAttrMap& other)
     : m_pImpl(new zvStringToAttrMapImpl(*other.m_pImpl)) {}
 
 zvStringToAttrMap& zvStringToAttrMap::operator=(const zvStringToAttrMap& other) {
-    if (this != &other) {
-        *m_pImpl = *other.m_pImpl;
-    }
+    zvStringToAttrMapImpl(*other.m_pImpl).attributes.swap(m_pImpl->attributes);
     return *this;
 }
 

@@ -6,7 +6,10 @@ zvStringToStringMap::zvStringToStringMap() = default;
 
 zvStringToStringMap::zvStringToStringMap(const zvStringToStringMap& other) = default;
 
-zvStringToStringMap& zvStringToStringMap::operator=(const zvStringToStringMap& other) = default;
+zvStringToStringMap& zvStringToStringMap::operator=(const zvStringToStringMap& other) {
+    copy(other);
+    return *this;
+}
 
 zvStringToStringMap::~zvStringToStringMap() = default;
 
@@ -19,22 +22,25 @@ void zvStringToStringMap::setValue(const zvString& key, const zvString& value) {
 }
 
 zvString zvStringToStringMap::getValue(const zvString& key) const {
-    const zvString* const value = zvMapFind(m_map, key);
-    return value == nullptr ? zvString() : *value;
+    const auto* const value = zvMapFind(m_map, key);
+    return value == nullptr ? zvString() : zvString(*value);
 }
 
 zvString zvStringToStringMap::getKey(int i) const {
     const auto* const entry = zvMapEntryAt(m_map, i);
-    return entry == nullptr ? zvString() : entry->first;
+    return entry == nullptr ? zvString() : zvString(entry->first);
 }
 
 zvString zvStringToStringMap::getValue(int i) const {
     const auto* const entry = zvMapEntryAt(m_map, i);
-    return entry == nullptr ? zvString() : entry->second;
+    return entry == nullptr ? zvString() : zvString(entry->second);
 }
 
 int zvStringToStringMap::size() const { return static_cast<int>(m_map.size()); }
 
 void zvStringToStringMap::clear() { m_map.clear(); }
 
-void zvStringToStringMap::copy(const zvStringToStringMap& other) { m_map = other.m_map; }
+void zvStringToStringMap::copy(const zvStringToStringMap& other) {
+    auto whole = other.m_map;
+    m_map.swap(whole);
+}

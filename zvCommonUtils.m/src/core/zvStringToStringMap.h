@@ -1,9 +1,10 @@
 #ifndef ZV_STRING_TO_STRING_MAP_H
 #define ZV_STRING_TO_STRING_MAP_H
 
+#include <functional>
 #include <map>
 
-#include "zvString.h"
+#include "zvKeptString.h"
 
 /// An ordered map from text to text. Keys are unique and in zvString's order, which the indices follow;
 /// reaching entry `i` takes `i` steps.
@@ -36,7 +37,7 @@ public:
     void copy(const zvStringToStringMap& other);
 
 private:
-    std::map<zvString, zvString> m_map;
+    std::map<zvKeptString, zvKeptString, std::less<>> m_map;
 };
 
 #endif

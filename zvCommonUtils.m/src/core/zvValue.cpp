@@ -65,7 +65,18 @@ zvValue::zvValue(zvValue&& other) noexcept = default;
 
 zvValue::~zvValue() = default;
 
-zvValue& zvValue::operator=(const zvValue& other) = default;
+// The copy that may fail comes first.
+zvValue& zvValue::operator=(const zvValue& other) {
+    zvKeptString text(other.m_strValue);
+    m_strValue.swap(text);
+    m_bValue = other.m_bValue;
+    m_iValue = other.m_iValue;
+    m_fValue = other.m_fValue;
+    m_iPrecision = other.m_iPrecision;
+    m_dateValue = other.m_dateValue;
+    m_eDataType = other.m_eDataType;
+    return *this;
+}
 
 void zvValue::initialize() {
     m_bValue = false;

@@ -3,6 +3,7 @@
 
 #include "zvDateTime.h"
 #include "zvException.h"
+#include "zvKeptString.h"
 
 /// The configuration files name these "Integer", "Float", "String", "Date" and "Boolean".
 enum zvDataTypeEnum : int {
@@ -89,7 +90,7 @@ private:
     int m_iValue = -1;
     float m_fValue = -1.0F;
     int m_iPrecision = 3;
-    zvString m_strValue;
+    zvKeptString m_strValue;
     zvDateTime m_dateValue;
     zvDataTypeEnum m_eDataType = zvDataTypeNone;
 };
