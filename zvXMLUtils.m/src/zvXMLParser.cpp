@@ -1,5 +1,6 @@
 #include "zvXMLParser.h"
 
+#include <mutex>
 #include <xercesc/dom/DOM.hpp>
 #include <xercesc/framework/MemBufFormatTarget.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
@@ -30,6 +31,9 @@ using zvXMLWalk::firstOf;
 namespace {
 
 constexpr zvLogSource logger("zvXMLUtils.m/src/zvXMLParser");
+
+// The XML library counts its users without a lock, and each thread's parsers are such users.
+std::mutex platformCount;
 
 constexpr int initialCapacity = 1023;  // bytes of a document that is written
 
@@ -62,6 +66,7 @@ zvXMLParser::zvXMLParser(const zvString& source, bool isFile) : zvXMLParser() {
 zvXMLParser::~zvXMLParser() {
     if (m_pLoader != nullptr) {
         m_pLoader.reset();
+        const std::lock_guard<std::mutex> guard(platformCount);
         XMLPlatformUtils::Terminate();
     }
 }
@@ -69,6 +74,7 @@ zvXMLParser::~zvXMLParser() {
 void zvXMLParser::init() {
     m_pLoader = std::make_unique<zvDOMLoader>();
     try {
+        const std::lock_guard<std::mutex> guard(platformCount);
         XMLPlatformUtils::Initialize();
     } catch (const XMLException& exception) {
         logger.error("zvXMLParser initialization failed. Error message: ", toString(exception.getMessage()));

@@ -29,7 +29,8 @@ class zvXERCESDOMNODEList;
 /// memory than its size lets expect, is logged as an error and fails the load. A document with declarations
 /// of its own is held to them.
 ///
-/// The parsers of a process count the initialisations of the XML platform together with whoever else uses it.
+/// The parsers of a process count the initialisations of the XML platform together with whoever else uses it,
+/// and do so from any thread.
 class ZV_EXPORT zvXMLParser : public zvCoreObject {
 public:
     zvXMLParser();

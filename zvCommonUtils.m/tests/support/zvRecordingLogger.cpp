@@ -1,5 +1,6 @@
 #include "zvRecordingLogger.h"
 
+#include <mutex>
 #include <utility>
 
 #include "zvLoggerLibrary.h"
@@ -20,6 +21,8 @@ Record& record() {
 }
 
 void add(const char* level, const char* loggerName, const char* message, const char* file, int line) {
+    static std::mutex mutex;
+    const std::lock_guard<std::mutex> guard(mutex);
     record().events.push_back({level, loggerName, message, file == nullptr ? "" : file, line});
 }
 
