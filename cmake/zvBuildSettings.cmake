@@ -28,5 +28,10 @@ if(ZV_BUILD_FUZZERS)
     add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
+# What a sanitizer adds to a library is in the program.
+if(NOT ZV_SANITIZE)
+    set(ZV_NO_UNDEFINED LINKER:--no-undefined)
+endif()
+
 # Programs of the build tree find the build tree's libraries; installed ones find those beside them.
 set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")

@@ -18,4 +18,4 @@ set_target_properties(zvCommonUtilsExport PROPERTIES
     VERSION ${PROJECT_VERSION}
     SOVERSION ${PROJECT_VERSION_MAJOR})
 target_link_libraries(zvCommonUtilsExport PRIVATE zvLogger)
-target_link_options(zvCommonUtilsExport PRIVATE LINKER:--no-undefined)
+target_link_options(zvCommonUtilsExport PRIVATE ${ZV_NO_UNDEFINED})

@@ -214,6 +214,20 @@ TEST_F(zvLoggerLibraryTest, manyProcessesLoseAndTearNoLineOfARollingFile) {
     EXPECT_TRUE(fs::exists(m_folder / "logs" / "out.log.7"));
 }
 
+TEST_F(zvLoggerLibraryTest, aLogFolderThatDisappearsIsMadeAgain) {
+    ASSERT_TRUE(InitializeLogger(write("log4cxx.xml", configuration("info", "")).c_str()));
+    LogInfoMessage("a", "before", "f", 1);
+    fs::remove_all(m_folder / "logs");
+    LogInfoMessage("a", "after", "f", 2);
+    EXPECT_EQ(lines(), Lines{"INFO|a|f|2|after"});
+    fs::remove_all(m_folder / "logs");
+    write("logs", "in the way");
+    LogInfoMessage("a", "nowhere to go", "f", 3);
+    fs::remove(m_folder / "logs");
+    LogInfoMessage("a", "once it is possible", "f", 4);
+    EXPECT_EQ(lines(), Lines{"INFO|a|f|4|once it is possible"});
+}
+
 TEST_F(zvLoggerLibraryTest, theSampleHomeLogsBelowItself) {
     ::setenv("GATEWAY_HOME", m_folder.c_str(), 1);
     ASSERT_TRUE(InitializeLogger(ZV_SAMPLE_LOG_CONFIGURATION));

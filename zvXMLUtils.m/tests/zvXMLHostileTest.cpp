@@ -45,6 +45,12 @@ std::string nested(const std::string& head, const std::string& innermost, const 
     return all;
 }
 
+// Elements w0, w1 and so on, each of which consists of a thousand others: a million transitions.
+std::string largeModels(int count) {
+    const std::string model = numbered("n", ",", 999) + "n";
+    return numbered("<!ELEMENT w", " (" + model + ")>", count);
+}
+
 std::string document(const std::string& declarations, const std::string& content) {
     return "<!DOCTYPE r [<!ELEMENT r ANY><!ATTLIST r a CDATA #IMPLIED>" + declarations + "]>" + content;
 }
@@ -95,6 +101,10 @@ TEST_F(zvXMLHostileTest, refusesWhatExplodes) {
         {"parameter entities", document(nested("% ", " ", "&#37;", 40, 2) + "%e40;", "<r/>"), tooMuch},
         {"a very long entity", document("<!ENTITY e '" + repeated(longText, 2) + "'>", "<r/>"),
          "XML document refused: too many entities, or too long a one: 'e'"},
+        {"very many entities", document(numbered("<!ENTITY e", " ''>", 10'001), "<r/>"),
+         "XML document refused: too many entities, or too long a one: 'e10000'"},
+        {"many large content models", document(largeModels(11), "<r/>"),
+         "XML document refused: too large or too ambiguous a content model for element 'w10'"},
         {"an endless entity", document("<!ENTITY e '&e;'>", "<r>&e;</r>"),
          "XML document refused: recursive entity expansion"},
         {"a wide content model", document("<!ELEMENT w (" + repeated("a,", many) + "a)>", "<r><w/></r>"),
