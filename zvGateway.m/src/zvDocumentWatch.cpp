@@ -13,4 +13,7 @@ void zvDocumentWatch::hear(zvLogLevel level, const zvString& message, const char
     if (level == zvLogLevel::warn && std::strcmp(file, "zvXMLUtils.m/src/zvDOMErrorHandler") == 0) {
         m_strComplaint = zvConsole::printable(message);
     }
+    if (level == zvLogLevel::error) {
+        m_strError = zvConsole::printable(message);
+    }
 }

@@ -162,6 +162,7 @@ zvObjectMapping::Values zvMappingStep::attributeValues() const {
 }
 
 void zvMappingStep::writeData(const zvObjectMapping& mapping) const {
+    const zvDocumentWatch watch;
     const zvCfgObject& object = mapping.object();
     zvXMLParser document;
     bool complete = document.createXMLTree("MappedObject") &&
@@ -180,7 +181,7 @@ void zvMappingStep::writeData(const zvObjectMapping& mapping) const {
     }
     const zvString file = m_event.dataFile();
     if (!complete || !document.writeTreeToFile(file, "UTF-8")) {
-        throw mappingFailure(zvConsole::printablePath(file), "it could not be written (see the log)");
+        throw mappingFailure(zvConsole::printablePath(file), watch.error());
     }
     zvConsole::fact("data file", zvConsole::printablePath(file));
 }

@@ -109,7 +109,6 @@ zvStepOutcome zvTransferStep::send(const zvString& configuration) {
     const Connection connection(configuration);
     require(zvFSClientUtil::createShadowDir(*m_event.arguments));
     const zvResult sent = zvFSClientUtil::uploadEventFiles(*m_event.arguments, m_event.attachments, this);
-    m_event.progress->requireWritten();
     require(sent);
     const zvString notRemoved = sent.getAdditionalInformation();
     if (notRemoved.empty()) {
@@ -147,6 +146,8 @@ void zvTransferStep::fileBegins(const zvString& local) {
 
 void zvTransferStep::fileTransferred(const zvString& local, zvInt64 bytes, zvInt64 milliseconds) {
     m_event.progress->setArrived(local);
+    m_event.progress
+        ->requireWritten();  // or the files that have to be deleted would go, and nobody would know
     ++m_lSentFiles;
     m_lSentBytes += bytes;
     const std::string path = zvConsole::printablePath(local);
