@@ -27,7 +27,8 @@ bool canBeRead(const zvDateTime& date) {
 void checkSeconds(const zvDateTime& date) {
     const zvInt64 seconds = date.getDateTimeInSeconds();
     require(seconds >= -1, "seconds are counted from 1970");
-    require(date == date && date >= date && !(date < date), "a date equals itself");
+    const zvDateTime same(date);
+    require(date == same && date >= same && !(date < same), "a date equals its copy");
     if (seconds >= 0) {
         require(zvDateTime(seconds).getDateTimeInSeconds() == seconds, "seconds come back");
     }

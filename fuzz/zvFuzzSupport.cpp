@@ -58,7 +58,7 @@ void LogAlwaysMessage(const char* n, const char* m, const char* f, int l) { list
 namespace zvFuzz {
 
 zvString textOf(std::string_view bytes) {
-    const zvString text(std::string(bytes).c_str());
+    zvString text(std::string(bytes).c_str());
     if (!text.empty()) {
         return text;
     }
@@ -97,7 +97,7 @@ std::vector<std::string> linesOf(std::string_view input) {
 }
 
 std::string fileOf(std::string_view input) {
-    const std::string path = (scratchFolder() / "input").string();
+    std::string path = (scratchFolder() / "input").string();
     std::ofstream(path, std::ios::binary) << input;
     return path;
 }

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <mutex>
+#include <string_view>
 #include <utility>
 
 #include "zvPlatform.h"
@@ -23,6 +24,12 @@ LogString decode(const std::string& text) {
     LogString decoded;
     log4cxx::helpers::Transcoder::decode(text, decoded);
     return decoded;
+}
+
+// What is behind the last separator. log4cxx's own function reckons with -1 where there is none.
+const char* shortName(const char* file) {
+    const std::size_t separator = std::string_view(file).find_last_of("/\\");
+    return separator == std::string_view::npos ? file : file + separator + 1;
 }
 
 }  // namespace
@@ -69,8 +76,7 @@ void zvLogConfiguration::write(const log4cxx::LevelPtr& level, const char* logge
     }
     const LogString text = decode(message);
     const char* const source = m_sources.insert(file == nullptr ? LocationInfo::NA : file).first->c_str();
-    const LocationInfo location(source, LocationInfo::calcShortFileName(source), LocationInfo::NA_METHOD,
-                                line);
+    const LocationInfo location(source, shortName(source), LocationInfo::NA_METHOD, line);
     const log4cxx::MDC processId("processId", std::to_string(zvPlatform::processId()));
     const std::lock_guard<zvLogFolderLock> guard(m_lock);
     for (zvLogFile& logFile : m_files) {

@@ -16,7 +16,9 @@ zvStringList::zvStringList(const zvStringList& other)
     : zvCoreObject(other), m_pImpl(new zvStringListImpl(*other.m_pImpl)) {}
 
 zvStringList& zvStringList::operator=(const zvStringList& other) {
-    zvStringListImpl(*other.m_pImpl).strings.swap(m_pImpl->strings);
+    if (this != &other) {
+        zvStringListImpl(*other.m_pImpl).strings.swap(m_pImpl->strings);
+    }
     return *this;
 }
 

@@ -17,7 +17,9 @@ zvStringToAttrMap::zvStringToAttrMap(const zvStringToAttrMap& other)
     : m_pImpl(new zvStringToAttrMapImpl(*other.m_pImpl)) {}
 
 zvStringToAttrMap& zvStringToAttrMap::operator=(const zvStringToAttrMap& other) {
-    zvStringToAttrMapImpl(*other.m_pImpl).attributes.swap(m_pImpl->attributes);
+    if (this != &other) {
+        zvStringToAttrMapImpl(*other.m_pImpl).attributes.swap(m_pImpl->attributes);
+    }
     return *this;
 }
 
