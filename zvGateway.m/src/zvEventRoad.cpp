@@ -97,14 +97,14 @@ void zvEventRoad::walk() {
 
 void zvEventRoad::summarize(zvExitCode exitCode) {
     if (m_event.progress != nullptr) {
+        const std::string name = zvConsole::printable(m_event.argument("EventShadowDir"));
+        m_report.setFact("eventShadowDir", "", name);
         m_report.setFact("directory", "directory", zvConsole::printablePath(m_event.directory()));
         m_report.setFact("dataFile", "data file", zvConsole::printablePath(m_event.dataFile()));
         m_report.setFact("attachmentsFile", "attachments file",
                          zvConsole::printablePath(m_event.attachmentsFile()));
         if (exitCode != zvExitCode::success || isDryRun) {
-            m_report.setFact("resume", "to go on",
-                             "the same arguments and EventShadowDir=" +
-                                 zvConsole::printable(m_event.argument("EventShadowDir")));
+            m_report.setFact("", "to go on", "the same arguments and EventShadowDir=" + name);
         }
     }
     m_report.print();

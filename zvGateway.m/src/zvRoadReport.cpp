@@ -90,7 +90,9 @@ void zvRoadReport::print() const {
 void zvRoadReport::printJson(zvExitCode exitCode) const {
     nlohmann::ordered_json json;
     for (const Fact& fact : m_facts) {
-        json[fact.key] = fact.value;
+        if (!fact.key.empty()) {
+            json[fact.key] = fact.value;
+        }
     }
     json["steps"] = nlohmann::ordered_json::array();
     for (const Step& step : m_steps) {

@@ -37,7 +37,7 @@ public:
     /// Runs the step and keeps what became of it. What it throws goes on to the caller.
     void take(const char* name, const std::function<zvStepOutcome()>& step);
 
-    /// One thing that a program finds by its key, and a person, unless the label is empty, at the end.
+    /// One thing that a program finds by its key, and a person by its label at the end; either may be empty.
     void setFact(const char* key, const char* label, std::string value);
     void addFile(File file) { m_files.push_back(std::move(file)); }
     const std::vector<File>& files() const { return m_files; }
