@@ -27,10 +27,9 @@ bool canBeRead(const zvDateTime& date) {
 void checkSeconds(const zvDateTime& date) {
     const zvInt64 seconds = date.getDateTimeInSeconds();
     require(seconds >= -1, "seconds are counted from 1970");
-    const zvDateTime same(date);
-    require(date == same && date >= same && !(date < same), "a date equals its copy");
     if (seconds >= 0) {
-        require(zvDateTime(seconds).getDateTimeInSeconds() == seconds, "seconds come back");
+        const zvDateTime same(seconds);
+        require(same == date && same >= date && !(same < date), "seconds come back");
     }
 }
 

@@ -1,8 +1,6 @@
 #include "zvFuzzSupport.h"
 
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
@@ -103,13 +101,6 @@ std::string fileOf(std::string_view input) {
 }
 
 bool secretWasLogged() { return secretLogged; }
-
-void require(bool holds, const char* what) {
-    if (!holds) {
-        std::fprintf(stderr, "does not hold: %s\n", what);
-        std::abort();
-    }
-}
 
 }  // namespace zvFuzz
 

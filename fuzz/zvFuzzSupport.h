@@ -1,6 +1,8 @@
 #ifndef ZV_FUZZ_SUPPORT_H
 #define ZV_FUZZ_SUPPORT_H
 
+#include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,7 +34,12 @@ constexpr char secret[] = "zvFuzzSecret";
 bool secretWasLogged();
 
 /// Ends the process, for the fuzzer to keep the input, unless `holds`.
-void require(bool holds, const char* what);
+inline void require(bool holds, const char* what) {
+    if (!holds) {
+        std::fprintf(stderr, "does not hold: %s\n", what);
+        std::abort();
+    }
+}
 
 }  // namespace zvFuzz
 
