@@ -33,5 +33,10 @@ if(NOT ZV_SANITIZE)
     set(ZV_NO_UNDEFINED LINKER:--no-undefined)
 endif()
 
+# MinGW's files are several times as large with their symbols, which no debugger of the system reads.
+if(MINGW)
+    add_link_options($<$<CONFIG:Release>:-s>)
+endif()
+
 # Programs of the build tree find the build tree's libraries; installed ones find those beside them.
 set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")

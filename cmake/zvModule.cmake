@@ -21,18 +21,34 @@ function(zv_add_layer NAME)
     set_property(GLOBAL APPEND PROPERTY ZV_PUBLIC_HEADERS ${ARG_PUBLIC_HEADERS})
 endfunction()
 
-# zv_add_tests(NAME SOURCES ... LIBRARIES ... DEFINITIONS ... [ENVIRONMENT variable=value])
+# zv_add_tests(NAME SOURCES ... LIBRARIES ... DEFINITIONS ... [ENVIRONMENT variable=value] [NOT_ON_WINDOWS reason])
 #
 # Registers a GoogleTest program over the library's own objects and the recording logger; every test in it is
-# a CTest test of its own, which runs with ENVIRONMENT.
+# a CTest test of its own, which runs with ENVIRONMENT. A cross-build lists the programs in the file
+# "test-programs" for the scripts that run them, and those that it leaves out with the reason.
 function(zv_add_tests NAME)
-    cmake_parse_arguments(ARG "" "ENVIRONMENT" "SOURCES;LIBRARIES;DEFINITIONS" ${ARGN})
+    cmake_parse_arguments(ARG "" "ENVIRONMENT;NOT_ON_WINDOWS" "SOURCES;LIBRARIES;DEFINITIONS" ${ARGN})
     list(TRANSFORM ARG_SOURCES PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
+    if(WIN32 AND ARG_NOT_ON_WINDOWS)
+        zv_skip_tests(${NAME} ${ARG_NOT_ON_WINDOWS} ${ARG_SOURCES})
+        return()
+    endif()
     set_property(GLOBAL APPEND PROPERTY ZV_TEST_PROGRAMS ${NAME})
     set_property(GLOBAL PROPERTY ZV_TEST_SOURCES_${NAME} ${ARG_SOURCES})
     set_property(GLOBAL PROPERTY ZV_TEST_LIBRARIES_${NAME} ${ARG_LIBRARIES})
     set_property(GLOBAL PROPERTY ZV_TEST_DEFINITIONS_${NAME} ${ARG_DEFINITIONS})
     set_property(GLOBAL PROPERTY ZV_TEST_ENVIRONMENT_${NAME} ${ARG_ENVIRONMENT})
+endfunction()
+
+# Notes in "test-programs" that the program is to be run.
+function(zv_list_test_program NAME)
+    set_property(GLOBAL APPEND_STRING PROPERTY ZV_TEST_LIST "run\t$<TARGET_FILE:${NAME}>\n")
+endfunction()
+
+# Notes in "test-programs" that the tests in SOURCES are left out.
+function(zv_skip_tests NAME REASON)
+    list(JOIN ARGN " " sources)
+    set_property(GLOBAL APPEND_STRING PROPERTY ZV_TEST_LIST "skip\t${NAME}\t${REASON}\t${sources}\n")
 endfunction()
 
 # Adds the registered test programs. Called once, after every module, since each program links all of them.
@@ -47,6 +63,10 @@ function(zv_add_module_tests)
         target_link_libraries(${program} PRIVATE zvTestSupport zvAllObjects GTest::gtest ${libraries})
         get_property(definitions GLOBAL PROPERTY ZV_TEST_DEFINITIONS_${program})
         target_compile_definitions(${program} PRIVATE ${definitions})
+        if(CMAKE_CROSSCOMPILING)
+            zv_list_test_program(${program})
+            continue()
+        endif()
         get_property(environment GLOBAL PROPERTY ZV_TEST_ENVIRONMENT_${program})
         set(properties TIMEOUT 300)
         if(environment)
@@ -54,4 +74,8 @@ function(zv_add_module_tests)
         endif()
         gtest_discover_tests(${program} TEST_PREFIX ${program}. PROPERTIES ${properties} DISCOVERY_TIMEOUT 60)
     endforeach()
+    if(CMAKE_CROSSCOMPILING)
+        get_property(test_list GLOBAL PROPERTY ZV_TEST_LIST)
+        file(GENERATE OUTPUT ${PROJECT_BINARY_DIR}/test-programs CONTENT "${test_list}")
+    endif()
 endfunction()

@@ -19,3 +19,11 @@ set_target_properties(zvCommonUtilsExport PROPERTIES
     SOVERSION ${PROJECT_VERSION_MAJOR})
 target_link_libraries(zvCommonUtilsExport PRIVATE zvLogger)
 target_link_options(zvCommonUtilsExport PRIVATE ${ZV_NO_UNDEFINED})
+if(WIN32)
+    # The name that programs have asked for ever since.
+    set_target_properties(zvCommonUtilsExport PROPERTIES PREFIX "")
+    if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+        target_sources(zvCommonUtilsExport PRIVATE
+            ${PROJECT_SOURCE_DIR}/zvPlatform.m/src/windows/zvProgramFrames.cpp)
+    endif()
+endif()

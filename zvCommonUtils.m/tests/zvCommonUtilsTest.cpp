@@ -59,15 +59,15 @@ TEST_F(zvCommonUtilsTest, FindsTheLocalServer) {
 }
 
 TEST_F(zvCommonUtilsTest, FindsFunctionsOfLibraries) {
-    auto* const cosine =
-        reinterpret_cast<double (*)(double)>(zvCommonUtils::getFunctionPtr("libm.so.6", "cos"));
+    const char* const library = onWindows ? "msvcrt" : "libm.so.6";
+    auto* const cosine = reinterpret_cast<double (*)(double)>(zvCommonUtils::getFunctionPtr(library, "cos"));
     ASSERT_NE(cosine, nullptr);
     EXPECT_DOUBLE_EQ(cosine(0.0), 1.0);
-    EXPECT_EQ(zvCommonUtils::getFunctionPtr("libm.so.6", "no_such_function"), nullptr);
+    EXPECT_EQ(zvCommonUtils::getFunctionPtr(library, "no_such_function"), nullptr);
     EXPECT_EQ(zvCommonUtils::getFunctionPtr("no_such_library", "cos"), nullptr);
     EXPECT_EQ(zvCommonUtils::getFunctionPtr(std::string(5000, 'x').c_str(), "cos"), nullptr);
     EXPECT_EQ(zvCommonUtils::getFunctionPtr("", "cos"), nullptr);
-    EXPECT_EQ(zvCommonUtils::getFunctionPtr("libm.so.6", nullptr), nullptr);
+    EXPECT_EQ(zvCommonUtils::getFunctionPtr(library, nullptr), nullptr);
     zvRecordingLogger::reset();
     EXPECT_EQ(zvCommonUtils::getFunctionPtr(nullptr, "cos"), nullptr);
     const Lines expected = {"debug: Inside function zvCommonUtils::getFunctionPtr",

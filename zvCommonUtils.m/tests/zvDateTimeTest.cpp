@@ -67,6 +67,18 @@ TEST_F(zvDateTimeTest, NothingToReadIsLogged) {
     EXPECT_EQ(date.getDay(), 21);
 }
 
+TEST_F(zvDateTimeTest, ThePatternTravelsWithTheValue) {
+    for (const char* const format : {"", "DD", pattern}) {
+        const zvDateTime date{zvString(format)};
+        const zvDateTime copy(date);
+        zvDateTime assigned(2011, 5, 21, 0, 0, 0);
+        assigned = copy;
+        EXPECT_EQ(assigned.getDateFormat(), format);
+        assigned = zvDateTime();
+        EXPECT_EQ(assigned.getDateFormat(), pattern);
+    }
+}
+
 TEST_F(zvDateTimeTest, WritesByAPattern) {
     const zvDateTime date(2011, 5, 21, 1, 2, 3);
     struct Case {
@@ -122,6 +134,9 @@ TEST_F(zvDateTimeTest, RoundTripsThroughZonesOfBothHemispheres) {
     const Case cases[] = {{"CET-1CEST,M3.5.0,M10.5.0/3", 1295089200, 1310724000},
                           {"AEST-10AEDT,M10.1.0,M4.1.0/3", 1295053200, 1310695200},
                           {"UTC", 1295092800, 1310731200}};
+    if (onWindows) {
+        GTEST_SKIP() << "a runtime to which the rules of a zone can be told";
+    }
     for (const Case& c : cases) {
         setZone(c.zone);
         EXPECT_EQ(zvDateTime(2011, 1, 15, 12, 0, 0).getDateTimeInSeconds(), c.winter) << c.zone;

@@ -9,6 +9,9 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
+// The system's number for a folder on the way that is not there.
+const std::string noSuchFolder = std::to_string(onWindows ? 3 : ENOENT);
+
 class zvDirFileUtilsTest : public zvLoggedTest {
 protected:
     // Paths are composed with backslashes, as callers do on every system.
@@ -26,7 +29,7 @@ TEST_F(zvDirFileUtilsTest, CreatesOneDirectoryAtATime) {
     const Lines expected = {
         "warn: Directory \"" + path + "\" already exist",
         "error: Empty directory path received in zvDirFileUtils::createDirectory.",
-        "error: Error occured while creating directory :" + orphan + " ErrorCode :" + std::to_string(ENOENT)};
+        "error: Error occured while creating directory :" + orphan + " ErrorCode :" + noSuchFolder};
     EXPECT_EQ(zvRecordingLogger::lines(), expected);
 }
 
@@ -41,10 +44,10 @@ TEST_F(zvDirFileUtilsTest, ARefusedFileIsLoggedAndReadsAsSuccess) {
     const std::string orphan = inFolder("missing\\file");
     EXPECT_TRUE(zvDirFileUtils::createFile(orphan.c_str()).isOk());
     EXPECT_FALSE(zvDirFileUtils::isAccessible(orphan.c_str(), 0));
-    const Lines expected = {"warn: File \"" + kept + "\" already exist",
-                            "error: Empty file path received in zvDirFileUtils::createDirectory.",
-                            "error: Error occured while closing file handle :" + orphan +
-                                " ErrorCode :" + std::to_string(ENOENT)};
+    const Lines expected = {
+        "warn: File \"" + kept + "\" already exist",
+        "error: Empty file path received in zvDirFileUtils::createDirectory.",
+        "error: Error occured while closing file handle :" + orphan + " ErrorCode :" + noSuchFolder};
     EXPECT_EQ(zvRecordingLogger::lines(), expected);
 }
 
@@ -71,6 +74,9 @@ TEST_F(zvDirFileUtilsTest, DeletesAFile) {
 }
 
 TEST_F(zvDirFileUtilsTest, DeletesTreesWithoutFollowingLinks) {
+    if (onWindows) {
+        GTEST_SKIP() << "links";
+    }
     m_folder.write("a tree/deep/file", "");
     m_folder.write("other/file", "");
     const std::string outside = m_folder.write("outside/kept", "");
@@ -104,7 +110,7 @@ TEST_F(zvDirFileUtilsTest, ReadsLines) {
     const Case cases[] = {
         {"a\n\nb\n", {"a", "b"}},
         {"a\nno line feed", {"a", "no line feed"}},
-        {"a\r\n\r\n", {"a\r", "\r"}},
+        {"a\r\n\r\n", onWindows ? Lines{"a"} : Lines{"a\r", "\r"}},
         {joined + "\n" + joined, {joined, joined}},
         {piece + "\n" + piece, {piece, piece}},
         {std::string(1022, 'z') + "\xC3\xA4\nend", {std::string(1022, 'z') + "\xC3\xA4", "end"}},
@@ -127,9 +133,11 @@ TEST_F(zvDirFileUtilsTest, ReadingAppendsOrEmptiesTheList) {
     lines.addString("before");
     const std::string path = m_folder.write("file", "line\n\xFF\n");
     EXPECT_TRUE(zvDirFileUtils::readFile(path.c_str(), lines).isOk());
-    EXPECT_EQ(lines.numStrings(), 2);
+    const int unreadable = localeIsUtf8() ? 1 : 0;
+    EXPECT_EQ(lines.numStrings(), 3 - unreadable);
     EXPECT_EQ(zvRecordingLogger::lines("info"), Lines{"\"" + path + "\" opened for reading."});
-    EXPECT_EQ(zvRecordingLogger::lines("warn").size(), 1U) << "a line that cannot be converted";
+    EXPECT_EQ(static_cast<int>(zvRecordingLogger::lines("warn").size()), unreadable)
+        << "a line that cannot be converted";
     const std::string missing = m_folder.file("missing");
     for (const std::string& refused : {missing, m_folder.path().string(), std::string()}) {
         lines.addString("before");

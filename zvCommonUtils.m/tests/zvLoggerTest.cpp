@@ -52,7 +52,7 @@ TEST_F(zvLoggerTest, EveryLevelReachesItsOwnFunction) {
     logger->logFatal("5", nullptr, 0);
     logger->logAlways(u"6 \u20AC", nullptr, 0);
     const std::vector<std::string> expected = {"debug: 1", "info: 2",  "warn: 3",
-                                               "error: 4", "fatal: 5", "always: 6 \xE2\x82\xAC"};
+                                               "error: 4", "fatal: 5", "always: " + narrow(u"6 \u20AC")};
     EXPECT_EQ(zvRecordingLogger::lines(), expected);
 }
 

@@ -1,7 +1,6 @@
 #include <curl/curl.h>
 #include <gtest/gtest.h>
 #include <httplib.h>
-#include <openssl/x509.h>
 
 #include <clocale>
 #include <cstdlib>
@@ -106,7 +105,9 @@ private:
     std::thread m_thread;
 };
 
+// Null where the server is built without TLS.
 std::unique_ptr<httplib::Server> selfSignedServer() {
+#ifdef CPPHTTPLIB_OPENSSL_SUPPORT
     const std::unique_ptr<EVP_PKEY, decltype(&EVP_PKEY_free)> key(EVP_EC_gen("P-256"), &EVP_PKEY_free);
     const std::unique_ptr<X509, decltype(&X509_free)> certificate(X509_new(), &X509_free);
     X509_gmtime_adj(X509_getm_notBefore(certificate.get()), -3600);
@@ -117,6 +118,9 @@ std::unique_ptr<httplib::Server> selfSignedServer() {
     X509_set_pubkey(certificate.get(), key.get());
     X509_sign(certificate.get(), key.get(), EVP_sha256());
     return std::make_unique<httplib::SSLServer>(certificate.get(), key.get());
+#else
+    return nullptr;
+#endif
 }
 
 // A sink that keeps what it gets, and takes no piece behind `limit` bytes.
@@ -359,7 +363,11 @@ TEST_F(zvCommunicationUtilsTest, UnusableUrlsAndAbsentServersAreRefused) {
 }
 
 TEST_F(zvCommunicationUtilsTest, ACertificateThatNobodyVouchesForIsRefused) {
-    LoopbackServer server(selfSignedServer());
+    auto selfSigned = selfSignedServer();
+    if (selfSigned == nullptr) {
+        GTEST_SKIP() << "a server with TLS";
+    }
+    LoopbackServer server(std::move(selfSigned));
     EXPECT_EQ(request(server.url("/200", "https")), "-1|SSL peer certificate or SSH remote key was not OK|");
     EXPECT_EQ(server.m_iRequests, 0);
 }

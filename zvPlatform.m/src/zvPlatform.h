@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <ctime>
+#include <filesystem>
 #include <memory>
 #include <string>
 
@@ -21,6 +22,10 @@ constexpr Handle refusedHandle = -1;
 
 /// The path as this system's own interfaces, and other libraries on it, expect it.
 std::string nativePath(const char* path);
+/// The same for the standard library's own functions; empty for a text that cannot be converted.
+std::filesystem::path pathOf(const std::string& path);
+/// The path as narrow text; empty for a path that has none in this locale.
+std::string textOf(const std::filesystem::path& path);
 
 /// The system's number for the last refusal of createDirectory, createFile, closeHandle or claimFile.
 unsigned long lastError();

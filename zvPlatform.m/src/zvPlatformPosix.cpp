@@ -100,6 +100,10 @@ std::string nativePath(const char* path) {
     return native;
 }
 
+std::filesystem::path pathOf(const std::string& path) { return nativePath(path.c_str()); }
+
+std::string textOf(const std::filesystem::path& path) { return path.string(); }
+
 unsigned long lastError() { return static_cast<unsigned long>(lastFailure); }
 
 std::string errorText(unsigned long error) {

@@ -7,9 +7,11 @@
 #include <ctime>
 #include <string>
 #include <system_error>
+#include <vector>
 
 #include "zvPlatform.h"
 #include "zvPlatformCommon.h"
+#include "zvTextCodec.h"
 
 namespace zvPlatform {
 namespace {
@@ -31,6 +33,28 @@ const wchar_t* wide(const wchar16* text) { return reinterpret_cast<const wchar_t
 }  // namespace
 
 std::string nativePath(const char* path) { return path; }
+
+// Left to itself, the standard library takes narrow paths for UTF-8 and throws for those that are not.
+std::filesystem::path pathOf(const std::string& path) {
+    const std::size_t length = zvTextCodec::wideLength(path.c_str());
+    if (length == zvTextCodec::unconvertible) {
+        return {};
+    }
+    std::vector<wchar16> units(length);
+    zvTextCodec::widen(path.c_str(), units.data(), length);
+    return std::wstring(units.begin(), units.end());
+}
+
+std::string textOf(const std::filesystem::path& path) {
+    const std::vector<wchar16> units(path.native().begin(), path.native().end());
+    const std::size_t bytes = zvTextCodec::narrowLength(units.data(), units.size());
+    if (bytes == zvTextCodec::unconvertible) {
+        return {};
+    }
+    std::string narrow(bytes, '\0');
+    zvTextCodec::narrow(units.data(), units.size(), narrow.data());
+    return narrow;
+}
 
 unsigned long lastError() { return lastFailure; }
 

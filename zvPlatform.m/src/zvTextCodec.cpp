@@ -43,9 +43,7 @@ bool decode(const char* text, Take take) {
     return true;
 }
 
-std::size_t unitsOf(wchar_t character) {
-    return !unitsAreWideCharacters && static_cast<unsigned long>(character) > 0xFFFFu ? 2 : 1;
-}
+std::size_t unitsOf(wchar_t character) { return static_cast<char32_t>(character) >> 16U == 0 ? 1 : 2; }
 
 // Hands the bytes of every character of `text` to `take`; false for a text that has no narrow form.
 template <typename Take>

@@ -11,7 +11,7 @@ namespace {
 TEST(zvPlatform, TranslatesPathsAtTheLastMoment) {
     const zvTemporaryFolder folder;
     const std::string path = folder.path().string() + "\\a\\b";
-    EXPECT_EQ(zvPlatform::nativePath("\\a/b\\"), "/a/b/");
+    EXPECT_EQ(zvPlatform::nativePath("\\a/b\\"), onWindows ? "\\a/b\\" : "/a/b/");
     EXPECT_TRUE(zvPlatform::createDirectory(zvString((folder.path().string() + "\\a").c_str()).data()));
     const zvPlatform::Handle handle = zvPlatform::createFile(zvString(path.c_str()).data());
     EXPECT_NE(handle, zvPlatform::refusedHandle);
@@ -28,10 +28,13 @@ TEST(zvPlatform, TheReasonOfARefusalOutlivesWhatFollows) {
     EXPECT_FALSE(zvPlatform::closeHandle(zvPlatform::refusedHandle));
     EXPECT_FALSE(zvPlatform::isAccessible(folder.file("missing").c_str(), 0));
     EXPECT_EQ(zvPlatform::errorText(zvPlatform::lastError()), "File exists");
-    EXPECT_FALSE(zvPlatform::createDirectory(zvString(u"a\xD83D").data()));
-    EXPECT_EQ(zvPlatform::lastError(), static_cast<unsigned long>(EILSEQ)) << "a path without a narrow form";
+    if (!onWindows) {
+        EXPECT_FALSE(zvPlatform::createDirectory(zvString(u"a\xD83D").data()));
+        EXPECT_EQ(zvPlatform::lastError(), static_cast<unsigned long>(EILSEQ))
+            << "a path without a narrow form";
+    }
     EXPECT_EQ(zvPlatform::errorText(zvPlatform::accessError(folder.file("missing").c_str(), 4)),
-              "No such file or directory");
+              onWindows ? "File not found" : "No such file or directory");
     EXPECT_EQ(zvPlatform::accessError(folder.path().string().c_str(), 6), 0UL);
 }
 

@@ -47,7 +47,7 @@ struct File {
 
 // A file that does not exist is left for the parser to complain about.
 File fileAt(const char* location) {
-    fs::path path(zvPlatform::nativePath(location));
+    fs::path path = zvPlatform::pathOf(location);
     std::error_code error;
     if (!fs::exists(path, error)) {
         const std::optional<fs::path> local = zvXMLLocation::localPath(location);
@@ -131,7 +131,7 @@ bool zvDOMLoader::parseText(const zvString& text) {
 
 bool zvDOMLoader::parseFile(const char* location) {
     const File file = fileAt(location);
-    const zvString path(file.path.string().c_str());
+    const zvString path(zvPlatform::textOf(file.path).c_str());
     if (path.empty()) {
         logger.raise("XML document refused: \"", location, "\" is not a name in this locale");
     }

@@ -133,15 +133,16 @@ InputSource* zvXMLGuardedParser::resolveEntity(XMLResourceIdentifier* entity) {
         logger.raise("XML document refused: its external entity \"", name,
                      "\" is not a file on this machine");
     }
-    const fs::path base(zvCharString(zvXMLText::toString(entity->getBaseURI())).data());
+    const fs::path base = zvPlatform::pathOf(zvCharString(zvXMLText::toString(entity->getBaseURI())).data());
     const fs::path path = (base.empty() ? m_folder : base.parent_path()) / *local;
     std::error_code error;
     fs::path file = fs::canonical(path, error);
     if (error) {
         file = fs::canonical(zvXMLLocation::percentDecoded(path), error);
     }
+    const std::string text = zvPlatform::textOf(file);
     if (error || !fs::is_regular_file(file, error) ||
-        !zvPlatform::isAccessible(file.string().c_str(), zvPlatform::readable)) {
+        !zvPlatform::isAccessible(text.c_str(), zvPlatform::readable)) {
         logger.raise("XML document refused: its external entity \"", name,
                      "\" is not a file that can be read");
     }
@@ -150,7 +151,7 @@ InputSource* zvXMLGuardedParser::resolveEntity(XMLResourceIdentifier* entity) {
                      "\" is outside the document's folder");
     }
     allowReading(file, name);
-    const zvXMLChars systemId(zvString(file.string().c_str()));
+    const zvXMLChars systemId(zvString(text.c_str()));
     return new (&m_memory) LocalFileInputSource(systemId.get(), &m_memory);
 }
 

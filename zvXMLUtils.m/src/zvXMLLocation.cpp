@@ -69,10 +69,12 @@ std::optional<fs::path> zvXMLLocation::localPath(const std::string& location) {
     } else if (scheme == "file") {
         path = pathOfFileUri(location);
     }
-    return path ? std::optional<fs::path>(zvPlatform::nativePath(path->c_str())) : std::nullopt;
+    return path ? std::optional<fs::path>(zvPlatform::pathOf(*path)) : std::nullopt;
 }
 
-fs::path zvXMLLocation::percentDecoded(const fs::path& path) { return decoded(path.string()); }
+fs::path zvXMLLocation::percentDecoded(const fs::path& path) {
+    return zvPlatform::pathOf(decoded(zvPlatform::textOf(path)));
+}
 
 bool zvXMLLocation::isWithin(const fs::path& folder, const fs::path& path) {
     return std::mismatch(folder.begin(), folder.end(), path.begin(), path.end()).first == folder.end();

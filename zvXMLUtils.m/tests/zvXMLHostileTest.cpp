@@ -136,38 +136,45 @@ TEST_F(zvXMLHostileTest, readsEntitiesFromItsFolderOnly) {
     m_folder.write("docs/part.txt", "part");
     m_folder.write("docs/sub/more parts.ent", "<?xml encoding='ISO-8859-1'?>\xE4&up;");
     m_folder.write("docs/sub/rules.dtd", "<!ELEMENT r ANY><!ENTITY up SYSTEM '../part.txt'>");
-    std::filesystem::create_symlink(m_folder.path() / "outside.txt", m_folder.path() / "docs/link.txt");
-    std::filesystem::create_symlink("part.txt", m_folder.path() / "docs/inside.txt");
-    std::filesystem::create_directory_symlink(m_folder.path(), m_folder.path() / "docs/folder");
+    if (!onWindows) {
+        std::filesystem::create_symlink(m_folder.path() / "outside.txt", m_folder.path() / "docs/link.txt");
+        std::filesystem::create_symlink("part.txt", m_folder.path() / "docs/inside.txt");
+        std::filesystem::create_directory_symlink(m_folder.path(), m_folder.path() / "docs/folder");
+    }
     const std::string folder = m_folder.path().string();
     constexpr const char* outside = "outside the document's folder";
     constexpr const char* noFile = "not a file on this machine";
     constexpr const char* unreadable = "not a file that can be read";
+    const std::string root = onWindows ? "/" + m_folder.path().generic_string() : folder;
     const struct {
         std::string systemId;
         const char* refusal;  // null: it is read
+        bool isOfPosix = false;
     } cases[] = {
         {"part.txt", nullptr},
         {"./sub/../part.txt", nullptr},
-        {"inside.txt", nullptr},
-        {"file:" + folder + "/docs/part.txt", nullptr},
+        {"inside.txt", nullptr, true},
+        {"file:" + root + "/docs/part.txt", nullptr},
         {"../outside.txt", outside},
         {"sub/../../outside.txt", outside},
-        {"link.txt", outside},
-        {"folder/outside.txt", outside},
+        {"link.txt", outside, true},
+        {"folder/outside.txt", outside, true},
         {folder + "/outside.txt", outside},
-        {"file://" + folder + "/docs/%2e%2e/outside.txt", outside},
+        {"file://" + root + "/docs/%2e%2e/outside.txt", outside},
         {"..%2Foutside.txt", outside},
-        {"/etc/passwd", outside},
+        {"/etc/passwd", outside, true},
         {"http://127.0.0.1:9/part.txt", noFile},
         {"HTTPS://127.0.0.1:9/part.txt", noFile},
         {"ftp://127.0.0.1:9/part.txt", noFile},
-        {"file://127.0.0.1" + folder + "/docs/part.txt", noFile},
+        {"file://127.0.0.1" + root + "/docs/part.txt", noFile},
         {"missing.txt", unreadable},
         {"sub", unreadable},
-        {"/dev/zero", unreadable},
+        {"/dev/zero", unreadable, true},
     };
     for (const auto& c : cases) {
+        if (onWindows && c.isOfPosix) {
+            continue;
+        }
         SCOPED_TRACE(c.systemId);
         const std::string entity = "<!ENTITY e SYSTEM \"" + c.systemId + "\">";
         const std::string inFile = m_folder.write("docs/doc.xml", document(entity, "<r>a &e; z</r>"));
@@ -190,7 +197,7 @@ TEST_F(zvXMLHostileTest, readsTypeDefinitionsFromItsFolderOnly) {
     m_folder.write("docs/sub/rules.dtd",
                    "<!ELEMENT r ANY><!ENTITY up SYSTEM '../part.txt'><!ENTITY e SYSTEM 'latin%201.ent'>");
     const std::string good = m_folder.write("docs/good.xml", "<!DOCTYPE r SYSTEM 'sub/rules.dtd'><r>&e;</r>");
-    EXPECT_EQ("loaded \xC3\xA4 part", outcome(good, true));
+    EXPECT_EQ("loaded " + narrow(u"\u00E4 part"), outcome(good, true));
     const std::string bad = m_folder.write("docs/bad.xml", "<!DOCTYPE r SYSTEM '../outside.dtd'><r/>");
     EXPECT_EQ("XML document refused: its external entity \"../outside.dtd\" is outside the document's folder",
               outcome(bad, true));

@@ -58,22 +58,49 @@ const zvDateTime::Field* zvDateTime::fieldOf(wchar16 letter) {
 
 zvDateTime::zvDateTime() = default;
 
-zvDateTime::zvDateTime(const zvString& format) : m_bHasOwnFormat(true), m_strFormat(format) {}
+zvDateTime::zvDateTime(const zvString& format) { setFormat(format); }
 
 zvDateTime::zvDateTime(short year, short month, short day, short hour, short minute, short second)
     : m_sYear(year), m_sMonth(month), m_sDay(day), m_sHour(hour), m_sMinute(minute), m_sSecond(second) {}
 
 zvDateTime::zvDateTime(zvInt64 seconds) : zvDateTime() { setDateTimeInSeconds(seconds); }
 
-zvDateTime::zvDateTime(const zvDateTime& other) = default;
+zvDateTime::zvDateTime(const zvDateTime& other) : zvCoreObject(other) { copy(other); }
 
 zvDateTime::~zvDateTime() = default;
 
-zvDateTime& zvDateTime::operator=(const zvDateTime& other) = default;
+zvDateTime& zvDateTime::operator=(const zvDateTime& other) {
+    if (this != &other) {
+        copy(other);
+    }
+    return *this;
+}
 
-void zvDateTime::copy(const zvDateTime& other) { *this = other; }
+void zvDateTime::copy(const zvDateTime& other) {
+    m_sYear = other.m_sYear;
+    m_sMonth = other.m_sMonth;
+    m_sDay = other.m_sDay;
+    m_sHour = other.m_sHour;
+    m_sMinute = other.m_sMinute;
+    m_sSecond = other.m_sSecond;
+    if (other.m_strFormat.data() == nullptr) {
+        m_strFormat.clear();
+    } else {
+        setFormat(other.m_strFormat);
+    }
+}
 
-zvString zvDateTime::getDateFormat() const { return m_bHasOwnFormat ? m_strFormat : zvString(defaultFormat); }
+// An empty pattern of the value's own has a buffer.
+void zvDateTime::setFormat(const zvString& format) {
+    m_strFormat = format.empty() ? zvString(defaultFormat) : format;
+    if (format.empty()) {
+        m_strFormat.reset();
+    }
+}
+
+zvString zvDateTime::getDateFormat() const {
+    return m_strFormat.data() == nullptr ? zvString(defaultFormat) : m_strFormat;
+}
 
 bool zvDateTime::isInitialized() const {
     return (m_sYear | m_sMonth | m_sDay | m_sHour | m_sMinute | m_sSecond) != 0;
@@ -85,8 +112,7 @@ void zvDateTime::setDate(const zvString& value, const zvString& format) {
                      "\" and the format is \"", format, "\"");
         return;
     }
-    m_bHasOwnFormat = true;
-    m_strFormat = format;
+    setFormat(format);
     int valueAt = 0;
     int formatAt = 0;
     while (valueAt < value.size() && formatAt < format.size()) {

@@ -68,6 +68,7 @@ protected:
 private:
     struct Field;
     static const Field* fieldOf(wchar16 letter);
+    void setFormat(const zvString& format);
 
     short m_sYear = 0;
     short m_sMonth = 0;
@@ -75,8 +76,7 @@ private:
     short m_sHour = 0;
     short m_sMinute = 0;
     short m_sSecond = 0;
-    bool m_bHasOwnFormat = false;
-    zvString m_strFormat;  // the default pattern is not kept: most dates have it, and never write it
+    zvString m_strFormat;  // without a buffer for the default pattern: most dates have it, and never write it
 };
 
 #endif

@@ -98,13 +98,17 @@ const wchar16* skipWhiteSpace(const wchar16* text) {
     return text;
 }
 
-// Formats into the 64 wide characters that a number gets, and says with how many characters.
+// Formats into the 64 wide characters that a number gets. For one that needs more, the runtimes answer -1 or
+// the number of characters that it needs: either way there is no text.
 template <typename Number>
 zvString formatted(const wchar_t* format, Number value) {
     constexpr std::size_t capacity = 64;
     wchar_t text[capacity];
     const int length = std::swprintf(text, capacity, format, value);
     wchar16 units[capacity];
+    if (length < 0 || static_cast<std::size_t>(length) >= capacity) {
+        return {};
+    }
     for (int i = 0; i < length; ++i) {
         units[i] = static_cast<wchar16>(text[i]);
     }

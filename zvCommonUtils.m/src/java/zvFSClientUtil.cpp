@@ -134,7 +134,7 @@ void onFileServer(const char* what, const zvString& subject, Action action) {
 void tell(zvTransferObserver& observer, const zvString& local, std::chrono::steady_clock::time_point start) {
     const auto duration = std::chrono::steady_clock::now() - start;
     std::error_code error;
-    const auto bytes = std::filesystem::file_size(zvPlatform::nativePath(zvCharString(local).data()), error);
+    const auto bytes = std::filesystem::file_size(zvPlatform::pathOf(zvCharString(local).data()), error);
     observer.fileTransferred(local, error ? 0 : static_cast<zvInt64>(bytes),
                              std::chrono::duration_cast<std::chrono::milliseconds>(duration).count());
 }

@@ -31,9 +31,10 @@ void loadFrom(const fs::path& home, zvJvmLibrary& library) {
         const fs::path path = home / file;
         std::error_code ignored;
         if (library.handle == nullptr && fs::exists(path, ignored)) {
-            library.handle = zvPlatform::loadLibrary(path.string().c_str());
-            library.tried += " (where " + path.string() +
-                             (library.handle == nullptr ? " cannot be loaded)" : " was found)");
+            const std::string text = zvPlatform::textOf(path);
+            library.handle = zvPlatform::loadLibrary(text.c_str());
+            library.tried +=
+                " (where " + text + (library.handle == nullptr ? " cannot be loaded)" : " was found)");
         }
     }
 }
@@ -46,10 +47,10 @@ void loadFromPath(zvJvmLibrary& library) {
             // The program on the path is a link into the home, as a rule.
             std::error_code error;
             const fs::path java =
-                folder.empty() ? fs::path() : fs::canonical(fs::path(folder) / program, error);
+                folder.empty() ? fs::path() : fs::canonical(zvPlatform::pathOf(folder) / program, error);
             if (!error && java.has_filename()) {
                 const fs::path home = java.parent_path().parent_path();
-                library.tried += "; the home of a java on PATH: " + home.string();
+                library.tried += "; the home of a java on PATH: " + zvPlatform::textOf(home);
                 loadFrom(home, library);
             }
         }
@@ -68,7 +69,7 @@ zvJvmLibrary zvJvmLibrary::load() {
     const std::string home = zvPlatform::environment("JAVA_HOME");
     library.tried += home.empty() ? "; JAVA_HOME, which is not set" : "; JAVA_HOME: " + home;
     if (!home.empty()) {
-        loadFrom(zvPlatform::nativePath(home.c_str()), library);
+        loadFrom(zvPlatform::pathOf(home), library);
     }
     if (library.handle == nullptr) {
         library.tried += "; PATH";

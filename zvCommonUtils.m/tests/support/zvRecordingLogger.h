@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "zvExport.h"
+
 /// A logging library for the tests: it has the same seven functions as the real one and remembers the calls.
 namespace zvRecordingLogger {
 
@@ -18,20 +20,20 @@ struct Event {
 };
 
 /// The events since the last reset().
-const std::vector<Event>& events();
+ZV_LOGGER_API const std::vector<Event>& events();
 
 /// The events' texts without "file name[line] ", each behind its level, as in "error: Empty file path."
-std::vector<std::string> lines();
+ZV_LOGGER_API std::vector<std::string> lines();
 /// The same for one level only, without the level.
-std::vector<std::string> lines(const std::string& level);
+ZV_LOGGER_API std::vector<std::string> lines(const std::string& level);
 
 /// The paths with which the library was configured since the last reset().
-const std::vector<std::string>& configurations();
+ZV_LOGGER_API const std::vector<std::string>& configurations();
 
 /// Forgets everything, and answers configurations with true from now on.
-void reset();
+ZV_LOGGER_API void reset();
 /// What InitializeLogger does from now on: it is handed the path and answers the result.
-void onInitialize(std::function<bool(const std::string&)> action);
+ZV_LOGGER_API void onInitialize(std::function<bool(const std::string&)> action);
 
 }  // namespace zvRecordingLogger
 

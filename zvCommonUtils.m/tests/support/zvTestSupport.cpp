@@ -9,6 +9,8 @@
 #include "zvPlatform.h"
 #include "zvRecordingLogger.h"
 
+bool localeIsUtf8() { return narrow(u"\u00E4") == "\xC3\xA4"; }
+
 void PrintTo(const zvString& text, std::ostream* out) { *out << '"' << narrow(text) << '"'; }
 
 std::string narrow(const zvString& text) { return zvCharString(text).data(); }
@@ -25,13 +27,15 @@ zvTemporaryFolder::~zvTemporaryFolder() {
     std::filesystem::remove_all(m_path, ignored);
 }
 
-std::string zvTemporaryFolder::file(const std::string& name) const { return (m_path / name).string(); }
+std::string zvTemporaryFolder::file(const std::string& name) const {
+    return zvPlatform::textOf(m_path / zvPlatform::pathOf(name));
+}
 
 std::string zvTemporaryFolder::write(const std::string& name, const std::string& content) const {
-    const std::filesystem::path path = m_path / name;
+    const std::filesystem::path path = m_path / zvPlatform::pathOf(name);
     std::filesystem::create_directories(path.parent_path());
     std::ofstream(path, std::ios::binary) << content;
-    return path.string();
+    return zvPlatform::textOf(path);
 }
 
 std::string readAll(const std::filesystem::path& path) {

@@ -10,6 +10,11 @@
 #include "zvException.h"
 #include "zvString.h"
 
+/// The library's home platform, which reads files as text, has errors of its own and knows no links.
+constexpr bool onWindows = std::filesystem::path::preferred_separator == '\\';
+/// Whether narrow texts can hold every character: not in the locales of the home platform.
+bool localeIsUtf8();
+
 /// Lets GoogleTest print texts.
 void PrintTo(const zvString& text, std::ostream* out);
 
