@@ -1,0 +1,7 @@
+#ifndef ZV_BENCHMARK_SUBJECTS_H
+#define ZV_BENCHMARK_SUBJECTS_H
+
+/// The subjects, one for each file: each makes its inputs and registers its rows.
+void zvConfigurationBenchmark();
+
+#endif
