@@ -3,6 +3,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <utility>
 
@@ -48,5 +50,13 @@ private:
     std::string m_work;
     zvBenchmarkClock m_clock;
 };
+
+/// Ends the program when the library and a peer have not done the same work.
+inline void zvBenchmarkRequire(bool fact, const char* otherwise) {
+    if (!fact) {
+        std::fprintf(stderr, "%s\n", otherwise);
+        std::exit(EXIT_FAILURE);
+    }
+}
 
 #endif

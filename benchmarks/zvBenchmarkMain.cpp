@@ -17,7 +17,11 @@ struct Subject {
 };
 
 constexpr Subject subjects[] = {
+    {"text", zvTextBenchmark},
+    {"collections", zvCollectionsBenchmark},
+    {"condition", zvConditionBenchmark},
     {"configuration", zvConfigurationBenchmark},
+    {"xml", zvXMLBenchmark},
 };
 
 void adoptUserLocale() {

@@ -2,6 +2,10 @@
 #define ZV_BENCHMARK_SUBJECTS_H
 
 /// The subjects, one for each file: each makes its inputs and registers its rows.
+void zvTextBenchmark();
+void zvCollectionsBenchmark();
+void zvConditionBenchmark();
 void zvConfigurationBenchmark();
+void zvXMLBenchmark();
 
 #endif

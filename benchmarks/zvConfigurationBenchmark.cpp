@@ -5,7 +5,6 @@
 #include <Poco/DOM/NamedNodeMap.h>
 #include <Poco/UnicodeConverter.h>
 
-#include <cstdlib>
 #include <fstream>
 #include <xercesc/dom/DOM.hpp>
 #include <xercesc/parsers/XercesDOMParser.hpp>
@@ -47,15 +46,8 @@ void writeConfiguration(const std::string& path) {
     out << "  </ObjectConfig>\n</CustomizationConfig>\n";
 }
 
-void require(bool fact, const char* what) {
-    if (!fact) {
-        std::fprintf(stderr, "%s\n", what);
-        std::exit(EXIT_FAILURE);
-    }
-}
-
 int loadOurs(const zvString& path) {
-    require(zvCfgMgrXmlParser().parse(path, true).isOk(), "The configuration was not loaded");
+    zvBenchmarkRequire(zvCfgMgrXmlParser().parse(path, true).isOk(), "The configuration was not loaded");
     const int count = zvCfgConfigManager::getCfgConfigManager()->numObjects();
     zvCfgConfigManager::destroyCfgConfigManager();
     return count;
@@ -63,7 +55,7 @@ int loadOurs(const zvString& path) {
 
 xercesc::DOMDocument* parseXerces(xercesc::XercesDOMParser& parser, const std::string& path) {
     parser.parse(path.c_str());
-    require(parser.getErrorCount() == 0, "Xerces-C did not parse the configuration");
+    zvBenchmarkRequire(parser.getErrorCount() == 0, "Xerces-C did not parse the configuration");
     return parser.getDocument();
 }
 
@@ -152,7 +144,7 @@ void zvConfigurationBenchmark() {
     const std::string path = zvBenchmarkFiles::path("configuration.xml");
     writeConfiguration(path);
     for (const std::size_t count : {std::size_t(loadOurs(path.c_str())), loadXerces(path), loadPoco(path)}) {
-        require(count == objectCount, "Somebody did not load every object");
+        zvBenchmarkRequire(count == objectCount, "Somebody did not load every object");
     }
     zvBenchmarkRow("load a configuration of 5,000 objects x 20 attributes, rules included")
         .ours([path = zvString(path.c_str())] { return loadOurs(path); })

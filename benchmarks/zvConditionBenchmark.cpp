@@ -1,0 +1,157 @@
+#include <duktape.h>
+
+#include <lua5.4/lua.hpp>
+#include <map>
+#include <memory>
+#include <string>
+#include <variant>
+
+#include "zvBenchmark.h"
+#include "zvBenchmarkSubjects.h"
+#include "zvCndContext.h"
+#include "zvCndParsingUtils.h"
+
+namespace {
+
+constexpr int attributeCount = 20;
+
+// All eight comparisons have to be made before the answer, true, is known.
+constexpr char textRule[] =
+    "{a1} = 'value 1' AND {a3} = 'value 3' AND ({a5} = 'value 5') AND {a7} != 'value 8' AND "
+    "NOT {a9} = 'no' AND {a11} = 'value 11' AND ({a13} = 'none' OR {a15} = 'value 15')";
+constexpr char textScript[] =
+    "return a1 == 'value 1' and a3 == 'value 3' and (a5 == 'value 5') and a7 ~= 'value 8' and "
+    "not (a9 == 'no') and a11 == 'value 11' and (a13 == 'none' or a15 == 'value 15')";
+constexpr char textECMAScript[] =
+    "a1 == 'value 1' && a3 == 'value 3' && (a5 == 'value 5') && a7 != 'value 8' && "
+    "!(a9 == 'no') && a11 == 'value 11' && (a13 == 'none' || a15 == 'value 15')";
+
+// Attribute i is an integer, a float, a truth or a text.
+constexpr char typedRule[] =
+    "{a0} <= '10' AND {a4} >= '4' AND ({a8} < '100') AND {a1} > '0.5' AND "
+    "NOT {a5} > '7.25' AND {a2} = '1' AND ({a3} = 'none' OR {a7} = 'value 7')";
+constexpr char typedScript[] =
+    "return a0 <= 10 and a4 >= 4 and (a8 < 100) and a1 > 0.5 and "
+    "not (a5 > 7.25) and a2 == true and (a3 == 'none' or a7 == 'value 7')";
+
+using Value = std::variant<int, float, bool, std::u16string>;
+using Attributes = std::map<std::u16string, Value, std::less<>>;
+
+struct Context {
+    zvCndContext ours;
+    Attributes byHand;
+    std::shared_ptr<lua_State> lua{luaL_newstate(), lua_close};
+
+    void add(int number, const zvValue& value, const Value& sameByHand) {
+        const std::string name = "a" + std::to_string(number);
+        zvAttribute attribute(name.c_str(), value);
+        ours.addAttribute(attribute);
+        byHand.emplace(std::u16string(name.begin(), name.end()), sameByHand);
+        lua_setglobal(lua.get(), name.c_str());
+    }
+    void add(int number, int value) {
+        lua_pushinteger(lua.get(), value);
+        add(number, zvValue(value), value);
+    }
+    void add(int number, float value) {
+        lua_pushnumber(lua.get(), value);
+        add(number, zvValue(value), value);
+    }
+    void add(int number, bool value) {
+        lua_pushboolean(lua.get(), value ? 1 : 0);
+        add(number, zvValue(value), value);
+    }
+    void add(int number, const std::string& value) {
+        lua_pushstring(lua.get(), value.c_str());
+        add(number, zvValue(zvString(value.c_str())), std::u16string(value.begin(), value.end()));
+    }
+};
+
+Context texts() {
+    Context context;
+    for (int i = 0; i < attributeCount; ++i) {
+        context.add(i, "value " + std::to_string(i));
+    }
+    return context;
+}
+
+Context typed() {
+    Context context;
+    for (int i = 0; i < attributeCount; i += 4) {
+        context.add(i, i);
+        context.add(i + 1, static_cast<float>(i) + 1.25F);
+        context.add(i + 2, true);
+        context.add(i + 3, "value " + std::to_string(i + 3));
+    }
+    return context;
+}
+
+template <class Type>
+const Type& get(const Attributes& attributes, std::u16string_view name) {
+    return std::get<Type>(attributes.find(name)->second);
+}
+
+bool textRuleByHand(const Attributes& all) {
+    const auto is = [&all](std::u16string_view name, std::u16string_view value) {
+        return get<std::u16string>(all, name) == value;
+    };
+    return is(u"a1", u"value 1") && is(u"a3", u"value 3") && is(u"a5", u"value 5") &&
+           !is(u"a7", u"value 8") && !is(u"a9", u"no") && is(u"a11", u"value 11") &&
+           (is(u"a13", u"none") || is(u"a15", u"value 15"));
+}
+
+bool typedRuleByHand(const Attributes& all) {
+    return get<int>(all, u"a0") <= 10 && get<int>(all, u"a4") >= 4 && get<int>(all, u"a8") < 100 &&
+           get<float>(all, u"a1") > 0.5F && get<float>(all, u"a5") <= 7.25F && get<bool>(all, u"a2") &&
+           (get<std::u16string>(all, u"a3") == u"none" || get<std::u16string>(all, u"a7") == u"value 7");
+}
+
+void parse() {
+    const std::shared_ptr<lua_State> lua(luaL_newstate(), lua_close);
+    const std::shared_ptr<duk_context> duktape(duk_create_heap_default(), duk_destroy_heap);
+    zvBenchmarkRow("parse a condition of 8 comparisons")
+        .ours([rule = zvString(textRule)] {
+            return zvCndParsingUtils::createConditionStructure(rule)->getConditionType();
+        })
+        .peer("Lua, luaL_loadstring", "0.5",
+              [lua] {
+                  const int status = luaL_loadstring(lua.get(), textScript);
+                  lua_pop(lua.get(), 1);
+                  return status;
+              })
+        .peer("Duktape, compile", "0.5", [duktape] {
+            duk_compile_string(duktape.get(), DUK_COMPILE_EVAL, textECMAScript);
+            duk_pop(duktape.get());
+            return 0;
+        });
+}
+
+void evaluate(const std::string& what, const Context& context, const char* rule, const char* script,
+              bool (*byHand)(const Attributes&)) {
+    lua_State* const lua = context.lua.get();
+    luaL_loadstring(lua, script);
+    const int chunk = luaL_ref(lua, LUA_REGISTRYINDEX);
+    const zvCndCondition condition = zvCndParsingUtils::createConditionStructure(rule);
+    const auto ours = [condition, context] { return condition->evaluate(context.ours); };
+    const auto hand = [byHand, context] { return byHand(context.byHand); };
+    const auto compiled = [context, chunk] {
+        lua_rawgeti(context.lua.get(), LUA_REGISTRYINDEX, chunk);
+        lua_call(context.lua.get(), 0, 1);
+        const bool answer = lua_toboolean(context.lua.get(), -1) != 0;
+        lua_pop(context.lua.get(), 1);
+        return answer;
+    };
+    zvBenchmarkRequire(ours() && hand() && compiled(), "The rules' answers differ");
+    zvBenchmarkRow("evaluate it over 20 attributes, " + what)
+        .ours(ours)
+        .peer("by hand, std::map and std::variant", "2.0", hand)
+        .peer("Lua, compiled chunk", "0.5", compiled);
+}
+
+}  // namespace
+
+void zvConditionBenchmark() {
+    parse();
+    evaluate("texts", texts(), textRule, textScript, textRuleByHand);
+    evaluate("typed", typed(), typedRule, typedScript, typedRuleByHand);
+}

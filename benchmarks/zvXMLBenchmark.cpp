@@ -1,0 +1,150 @@
+#include <fstream>
+#include <memory>
+#include <xercesc/dom/DOM.hpp>
+#include <xercesc/parsers/XercesDOMParser.hpp>
+#include <xercesc/util/PlatformUtils.hpp>
+
+#include "zvBenchmark.h"
+#include "zvBenchmarkFiles.h"
+#include "zvBenchmarkSubjects.h"
+#include "zvXERCESDOMNODEList.h"
+#include "zvXMLParser.h"
+
+namespace {
+
+// 1,000 groups of 33 elements, each with two in it.
+constexpr int groups = 1000;
+constexpr int itemsOfAGroup = 33;
+constexpr int elements = 1 + groups + groups * itemsOfAGroup * 3;
+
+void writeDocument(const std::string& path) {
+    std::ofstream out(path);
+    out << "<Catalogue>";
+    for (int i = 0; i < groups; ++i) {
+        out << "<Group Name=\"group " << i << "\">\n";
+        for (int k = 0; k < itemsOfAGroup; ++k) {
+            out << "<Item Number=\"" << i << '-' << k << "\"><Name>the name of item " << k
+                << "</Name><Owner>somebody</Owner></Item>\n";
+        }
+        out << "</Group>\n";
+    }
+    out << "</Catalogue>\n";
+}
+
+struct Walked {
+    int elements = 0;
+    std::size_t characters = 0;
+};
+
+// What stands in every element: its name, its first attribute and its text.
+void readOurs(zvXMLParser& parser, const char* attribute, Walked& walked) {
+    zvString text;
+    parser.getTag(text);
+    walked.characters += static_cast<std::size_t>(text.size());
+    parser.getAttribute(attribute, text);
+    walked.characters += static_cast<std::size_t>(text.size());
+    parser.getMemberValue(text);
+    walked.characters += static_cast<std::size_t>(text.size());
+    ++walked.elements;
+}
+
+void walkOurs(zvXMLParser& parser, Walked& walked) {
+    zvString tag;
+    readOurs(parser, "Number", walked);
+    if (parser.getFirstChild(tag)) {
+        do {
+            walkOurs(parser, walked);
+        } while (parser.getNextSibling(tag));
+        parser.getParent(tag);
+    }
+}
+
+void readXerces(const xercesc::DOMElement& element, const XMLCh* attribute, Walked& walked) {
+    const std::u16string tag = element.getTagName();
+    walked.characters += tag.size();
+    const std::u16string value = element.getAttribute(attribute);
+    walked.characters += value.size();
+    const xercesc::DOMNode* child = element.getFirstChild();
+    while (child != nullptr && child->getNodeType() != xercesc::DOMNode::TEXT_NODE) {
+        child = child->getNextSibling();
+    }
+    const std::u16string text = child == nullptr ? u"" : child->getNodeValue();
+    walked.characters += text.size();
+    ++walked.elements;
+}
+
+void walkXerces(const xercesc::DOMElement& element, Walked& walked) {
+    readXerces(element, u"Number", walked);
+    for (const auto* child = element.getFirstElementChild(); child != nullptr;
+         child = child->getNextElementSibling()) {
+        walkXerces(*child, walked);
+    }
+}
+
+std::size_t queryOurs(const zvXMLParser& parser) {
+    std::size_t characters = 0;
+    const std::unique_ptr<zvXERCESDOMNODEList> items(
+        parser.getChildElementsByTagName(parser.getRootElement(), "Item"));
+    for (int i = 0; i < items->numDOMNode(); ++i) {
+        auto* const item = static_cast<xercesc::DOMElement*>(items->getDOMNode(i));
+        characters += static_cast<std::size_t>(parser.getAttributeValue(item, "Number", true, true).size());
+        characters += static_cast<std::size_t>(parser.getChildText(item, "Owner", true).size());
+    }
+    return characters;
+}
+
+std::size_t queryXerces(const xercesc::DOMElement& root) {
+    std::size_t characters = 0;
+    const xercesc::DOMNodeList* const items = root.getElementsByTagName(u"Item");
+    const XMLSize_t count = items->getLength();
+    for (XMLSize_t i = 0; i < count; ++i) {
+        const auto* const item = static_cast<const xercesc::DOMElement*>(items->item(i));
+        const std::u16string number = item->getAttribute(u"Number");
+        const xercesc::DOMElement* owner = item->getFirstElementChild();
+        while (!xercesc::XMLString::equals(owner->getTagName(), u"Owner")) {
+            owner = owner->getNextElementSibling();
+        }
+        const std::u16string text = owner->getTextContent();
+        characters += number.size() + text.size();
+    }
+    return characters;
+}
+
+}  // namespace
+
+void zvXMLBenchmark() {
+    xercesc::XMLPlatformUtils::Initialize();
+    const std::string path = zvBenchmarkFiles::path("document.xml");
+    writeDocument(path);
+    const auto parser = std::make_shared<zvXMLParser>(path.c_str(), true);
+    const auto raw = std::make_shared<xercesc::XercesDOMParser>();
+    raw->parse(path.c_str());
+    const auto walkBoth = [parser, raw] {
+        Walked ours;
+        Walked theirs;
+        parser->changeCurrentNode(parser->getRootElement());
+        walkOurs(*parser, ours);
+        walkXerces(*raw->getDocument()->getDocumentElement(), theirs);
+        return ours.elements == elements && theirs.elements == elements &&
+               ours.characters == theirs.characters;
+    };
+    zvBenchmarkRequire(walkBoth(), "The two walks differ");
+    zvBenchmarkRequire(queryOurs(*parser) == queryXerces(*raw->getDocument()->getDocumentElement()),
+                       "The two queries differ");
+    zvBenchmarkRow("walk over a document of 100,000 elements")
+        .ours([parser] {
+            Walked walked;
+            parser->changeCurrentNode(parser->getRootElement());
+            walkOurs(*parser, walked);
+            return walked.characters;
+        })
+        .peer("Xerces-C into std::u16string", "1.2", [raw] {
+            Walked walked;
+            walkXerces(*raw->getDocument()->getDocumentElement(), walked);
+            return walked.characters;
+        });
+    zvBenchmarkRow("query a document of 100,000 elements")
+        .ours([parser] { return queryOurs(*parser); })
+        .peer("Xerces-C into std::u16string", "1.2",
+              [raw] { return queryXerces(*raw->getDocument()->getDocumentElement()); });
+}
