@@ -22,6 +22,11 @@ constexpr Subject subjects[] = {
     {"condition", zvConditionBenchmark},
     {"configuration", zvConfigurationBenchmark},
     {"xml", zvXMLBenchmark},
+    {"silent-log", zvSilentLogBenchmark},
+    {"log", zvLogBenchmark},
+    {"http", zvHttpBenchmark},
+    {"java", zvJavaBenchmark},
+    {"event", zvEventBenchmark},
 };
 
 void adoptUserLocale() {

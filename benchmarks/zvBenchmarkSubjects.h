@@ -7,5 +7,10 @@ void zvCollectionsBenchmark();
 void zvConditionBenchmark();
 void zvConfigurationBenchmark();
 void zvXMLBenchmark();
+void zvSilentLogBenchmark();
+void zvLogBenchmark();
+void zvHttpBenchmark();
+void zvJavaBenchmark();
+void zvEventBenchmark();
 
 #endif

@@ -37,7 +37,7 @@ struct Walked {
 };
 
 // What stands in every element: its name, its first attribute and its text.
-void readOurs(zvXMLParser& parser, const char* attribute, Walked& walked) {
+void readOurs(zvXMLParser& parser, const zvString& attribute, Walked& walked) {
     zvString text;
     parser.getTag(text);
     walked.characters += static_cast<std::size_t>(text.size());
@@ -49,8 +49,9 @@ void readOurs(zvXMLParser& parser, const char* attribute, Walked& walked) {
 }
 
 void walkOurs(zvXMLParser& parser, Walked& walked) {
+    static const zvString number("Number");
     zvString tag;
-    readOurs(parser, "Number", walked);
+    readOurs(parser, number, walked);
     if (parser.getFirstChild(tag)) {
         do {
             walkOurs(parser, walked);
