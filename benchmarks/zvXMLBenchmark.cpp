@@ -51,12 +51,13 @@ void readOurs(zvXMLParser& parser, const zvString& attribute, Walked& walked) {
 void walkOurs(zvXMLParser& parser, Walked& walked) {
     static const zvString number("Number");
     zvString tag;
+    xercesc::DOMNode* const element = parser.getCurrentNode();
     readOurs(parser, number, walked);
     if (parser.getFirstChild(tag)) {
         do {
             walkOurs(parser, walked);
         } while (parser.getNextSibling(tag));
-        parser.getParent(tag);
+        parser.changeCurrentNode(element);
     }
 }
 

@@ -10,6 +10,12 @@ if(NOT CMAKE_BUILD_TYPE)
     set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
 endif()
 
+# Where the compiler is known to do it well: the library optimised as a whole when it is a release.
+set(ZV_LINK_TIME_OPTIMISATION OFF)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_BUILD_TYPE STREQUAL "Release" AND UNIX)
+    set(ZV_LINK_TIME_OPTIMISATION ON)
+endif()
+
 find_program(ZV_CCACHE ccache)
 mark_as_advanced(ZV_CCACHE)
 if(ZV_CCACHE)
@@ -19,6 +25,10 @@ endif()
 add_compile_options(-Wall -Wextra -Wpedantic -Wconversion)
 if(ZV_WARNINGS_AS_ERRORS)
     add_compile_options(-Werror)
+endif()
+# What the library calls of its own is its own: such calls may be inlined and bound within it.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    add_compile_options(-fno-semantic-interposition)
 endif()
 if(ZV_SANITIZE)
     add_compile_options(-fsanitize=${ZV_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -17,6 +17,10 @@ set_target_properties(zvAllObjects zvCommonUtilsExport PROPERTIES LINKER_LANGUAG
 set_target_properties(zvCommonUtilsExport PROPERTIES
     VERSION ${PROJECT_VERSION}
     SOVERSION ${PROJECT_VERSION_MAJOR})
+if(ZV_LINK_TIME_OPTIMISATION)
+    target_link_options(zvCommonUtilsExport PRIVATE -flto=auto -O3)
+    target_link_options(zvAllObjects INTERFACE -fno-lto)
+endif()
 target_link_libraries(zvCommonUtilsExport PRIVATE zvLogger)
 target_link_options(zvCommonUtilsExport PRIVATE ${ZV_NO_UNDEFINED})
 if(WIN32)
@@ -26,4 +30,7 @@ if(WIN32)
         target_sources(zvCommonUtilsExport PRIVATE
             ${PROJECT_SOURCE_DIR}/zvPlatform.m/src/windows/zvProgramFrames.cpp)
     endif()
+endif()
+if(UNIX AND NOT APPLE)
+    target_link_options(zvCommonUtilsExport PRIVATE LINKER:-Bsymbolic-functions)
 endif()

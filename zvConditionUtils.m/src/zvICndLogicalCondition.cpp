@@ -58,7 +58,9 @@ zvICndLogicalCondition* zvICndLogicalCondition::from(const zvCndCondition& condi
 }
 
 bool zvICndLogicalCondition::evaluate(const zvCndContext& context) const {
-    alignas(OpenCondition) std::array<std::byte, usualDepth * sizeof(OpenCondition)> memory{};
+    // Left as it is: filling it would take longer than the evaluation.
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
+    alignas(OpenCondition) std::array<std::byte, usualDepth * sizeof(OpenCondition)> memory;
     std::pmr::monotonic_buffer_resource resource(memory.data(), memory.size());
     std::pmr::vector<OpenCondition> open(&resource);
     open.reserve(usualDepth);

@@ -1,8 +1,7 @@
 #include "zvLogFile.h"
 
-#include <apr_file_io.h>
-#include <log4cxx/file.h>
-#include <log4cxx/rolling/rollingfileappender.h>
+#include <log4cxx/helpers/pool.h>
+#include <log4cxx/helpers/transcoder.h>
 
 #include <utility>
 
@@ -10,7 +9,8 @@ using log4cxx::FileAppender;
 using log4cxx::helpers::Pool;
 using log4cxx::rolling::RollingFileAppender;
 
-zvLogFile::zvLogFile(log4cxx::FileAppenderPtr appender) : m_pAppender(std::move(appender)) {
+zvLogFile::zvLogFile(log4cxx::FileAppenderPtr appender)
+    : m_pAppender(std::move(appender)), m_pRolling(log4cxx::cast<RollingFileAppender>(m_pAppender)) {
     // Without a writer when another process made the folder at the same moment: the second try finds it.
     if (!m_pAppender->getAppend() || m_pAppender->getBufferedIO() || m_pAppender->getWriter() == nullptr) {
         m_pAppender->setAppend(true);
@@ -19,26 +19,32 @@ zvLogFile::zvLogFile(log4cxx::FileAppenderPtr appender) : m_pAppender(std::move(
         Pool pool;
         m_pAppender->FileAppender::activateOptions(pool);
     }
-    remember();
+    log4cxx::helpers::Transcoder::encode(path(), m_path);
+    look(m_own);
 }
 
 void zvLogFile::catchUp() {
-    Pool pool;
     apr_finfo_t found{};
-    if (!look(found, pool) || found.inode != m_own.inode || found.device != m_own.device) {
+    if (!look(found) || found.inode != m_own.inode || found.device != m_own.device) {
+        Pool pool;
         m_pAppender->activateOptions(pool);
-    } else if (const auto rolling = log4cxx::cast<RollingFileAppender>(m_pAppender)) {
-        rolling->incrementFileLength(static_cast<std::size_t>(found.size) - rolling->getFileLength());
+        look(m_own);
+    } else if (m_pRolling != nullptr) {
+        m_pRolling->incrementFileLength(static_cast<std::size_t>(found.size) - m_pRolling->getFileLength());
+    }
+    m_uLength = m_pRolling == nullptr ? 0 : m_pRolling->getFileLength();
+}
+
+// A file that was rolled over is shorter; one that is not found out so is opened once more before the next
+// line.
+void zvLogFile::remember() {
+    if (m_pRolling != nullptr && m_pRolling->getFileLength() < m_uLength) {
+        look(m_own);
     }
 }
 
-void zvLogFile::remember() {
+bool zvLogFile::look(apr_finfo_t& found) const {
     Pool pool;
-    look(m_own, pool);
-}
-
-bool zvLogFile::look(apr_finfo_t& found, Pool& pool) const {
-    apr_file_t* file = nullptr;
-    return log4cxx::File().setPath(path()).open(&file, APR_FOPEN_WRITE, 0, pool) == APR_SUCCESS &&
-           apr_file_info_get(&found, APR_FINFO_IDENT | APR_FINFO_SIZE, file) == APR_SUCCESS;
+    return apr_stat(&found, m_path.c_str(), APR_FINFO_IDENT | APR_FINFO_SIZE, pool.getAPRPool()) ==
+           APR_SUCCESS;
 }

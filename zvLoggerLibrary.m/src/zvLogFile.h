@@ -3,6 +3,10 @@
 
 #include <apr_file_info.h>
 #include <log4cxx/fileappender.h>
+#include <log4cxx/rolling/rollingfileappender.h>
+
+#include <memory>
+#include <string>
 
 /// A log file that other processes write to, and roll over, at the same time.
 ///
@@ -22,10 +26,14 @@ public:
     void remember();
 
 private:
-    bool look(apr_finfo_t& found, log4cxx::helpers::Pool& pool) const;
+    bool look(apr_finfo_t& found) const;
 
     log4cxx::FileAppenderPtr m_pAppender;
+    std::shared_ptr<log4cxx::rolling::RollingFileAppender>
+        m_pRolling;  // null for a file that is never rolled over
+    std::string m_path;
     apr_finfo_t m_own{};
+    std::size_t m_uLength = 0;  // when a line was about to be written
 };
 
 #endif

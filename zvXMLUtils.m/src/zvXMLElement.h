@@ -40,16 +40,9 @@ public:
         return zvXMLText::toString(m_pElement->getAttribute(name));
     }
 
-    /// The first text among the children; empty without one.
-    zvString text() const {
-        const xercesc::DOMNode* const text =
-            zvXMLWalk::firstOf(xercesc::DOMNode::TEXT_NODE, m_pElement->getFirstChild());
-        return text == nullptr ? zvString() : zvXMLText::toString(text->getNodeValue());
-    }
-
-private:
-    // A value is one text nearly always. The text has it at hand, while the attribute looks up the types of
-    // its children every time, which takes as long as all the rest of reading it.
+    /// The value of an attribute, 0-terminated. It is one text nearly always, which has it at hand, while the
+    /// attribute looks up the types of its children every time, which takes as long as all the rest of
+    /// reading it.
     static View valueOf(const xercesc::DOMNode& attribute) {
         const xercesc::DOMNode* const text = attribute.getFirstChild();
         return text != nullptr && text->getNodeType() == xercesc::DOMNode::TEXT_NODE &&
@@ -58,6 +51,14 @@ private:
                    : attribute.getNodeValue();
     }
 
+    /// The first text among the children; empty without one.
+    zvString text() const {
+        const xercesc::DOMNode* const text =
+            zvXMLWalk::firstOf(xercesc::DOMNode::TEXT_NODE, m_pElement->getFirstChild());
+        return text == nullptr ? zvString() : zvXMLText::toString(text->getNodeValue());
+    }
+
+private:
     const xercesc::DOMElement* m_pElement;
 };
 

@@ -11,6 +11,7 @@
 #include "zvLogSource.h"
 #include "zvTextCodec.h"
 #include "zvXERCESDOMNODEList.h"
+#include "zvXMLElement.h"
 #include "zvXMLText.h"
 #include "zvXMLWalk.h"
 #include "zvXMLWriter.h"
@@ -216,7 +217,7 @@ bool zvXMLParser::getAttribute(DOMNode* node, const zvString& name, zvString& va
     if (attribute == nullptr) {
         return false;
     }
-    zvXMLText::assign(value, attribute->getNodeValue());
+    zvXMLText::assign(value, zvXMLElement::valueOf(*attribute).data());
     return true;
 }
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cctype>
 #include <climits>
+#include <clocale>
+#include <cstdint>
 #include <cstring>
 #include <cwchar>
 #include <cwctype>
@@ -44,6 +46,29 @@ wchar16 toUpperUnit(wchar16 unit) { return static_cast<wchar16>(std::towupper(un
 char toLowerByte(char byte) { return static_cast<char>(std::tolower(static_cast<unsigned char>(byte))); }
 char toUpperByte(char byte) { return static_cast<char>(std::toupper(static_cast<unsigned char>(byte))); }
 
+// Whether the locale maps the letters of ASCII among themselves: Turkish ones do not.
+bool foldsAsciiPlainly() { return std::towlower(L'I') == L'i' && std::towupper(L'i') == L'I'; }
+
+// Folded over the whole text, so that it is done many units at a time.
+bool isAscii(const wchar16* text, int length) {
+    unsigned bits = 0;
+    for (int i = 0; i < length; ++i) {
+        bits |= text[i];
+    }
+    return bits < 0x80u;
+}
+
+template <wchar16 First>
+wchar16 otherCaseOf(wchar16 unit) {
+    const auto letter = static_cast<wchar16>(unit - First);
+    return static_cast<wchar16>(unit ^ (letter < 26 ? 0x20 : 0));
+}
+
+void lower(wchar16* text, int length) {
+    const bool isPlain = isAscii(text, length) && foldsAsciiPlainly();
+    std::transform(text, text + length, text, isPlain ? otherCaseOf<u'A'> : toLowerUnit);
+}
+
 zvString lowered(const zvString& text) {
     zvString copy(text);
     copy.toLower();
@@ -82,17 +107,48 @@ char* narrowed(const wchar16* text, int length, int& bytes) {
     return narrow;
 }
 
+// No locale has a space among ASCII's visible characters.
+bool isSpace(wchar16 unit) { return (unit <= u' ' || unit > u'~') && std::iswspace(unit) != 0; }
+
+// A decimal that needs no rounding but that of one division; false for every other text.
+bool readPlainNumber(const wchar16* text, std::size_t length, double& number) {
+    constexpr double powers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    constexpr std::size_t mostDigits = 15;
+    if (length == 0 || length > mostDigits) {
+        return false;
+    }
+    long long digits = 0;
+    std::size_t decimals = 0;
+    bool hasPoint = false;
+    for (std::size_t i = 0; i < length; ++i) {
+        if (text[i] >= u'0' && text[i] <= u'9') {
+            digits = digits * 10 + (text[i] - u'0');
+            decimals += hasPoint ? 1 : 0;
+        } else if (text[i] == u'.' && !hasPoint && i > 0) {
+            hasPoint = true;
+        } else {
+            return false;
+        }
+    }
+    if (hasPoint && std::strcmp(std::localeconv()->decimal_point, ".") != 0) {
+        return false;
+    }
+    number = static_cast<double>(digits) / powers[decimals];
+    return true;
+}
+
 // The length of the number's text: up to the white space behind it, which is all that can be told cheaply.
 std::size_t numberLength(const wchar16* text) {
     std::size_t length = 0;
-    while (text[length] != 0 && std::iswspace(text[length]) == 0) {
+    while (text[length] != 0 && !isSpace(text[length])) {
         ++length;
     }
     return length;
 }
 
 const wchar16* skipWhiteSpace(const wchar16* text) {
-    while (std::iswspace(*text) != 0) {
+    while (isSpace(*text)) {
         ++text;
     }
     return text;
@@ -115,6 +171,36 @@ zvString formatted(const wchar_t* format, Number value) {
     return {units, length};
 }
 
+// As View's own find for texts that are not empty; whole blocks are looked at in one go for the pattern's
+// first and last unit.
+std::size_t findFirst(View text, View pattern, std::size_t start) {
+    constexpr std::size_t block = 32;
+    if (text.size() < pattern.size()) {
+        return View::npos;
+    }
+    const wchar16 first = pattern.front();
+    const wchar16 last = pattern.back();
+    const std::size_t lastOffset = pattern.size() - 1;
+    const std::size_t end = text.size() - lastOffset;  // of the positions at which the pattern may begin
+    for (; start + block <= end; start += block) {
+        const wchar16* const firsts = text.data() + start;
+        const wchar16* const lasts = firsts + lastOffset;
+        wchar16 candidates = 0;
+        for (std::size_t i = 0; i < block; ++i) {
+            candidates |= static_cast<wchar16>((firsts[i] == first) & (lasts[i] == last));
+        }
+        if (candidates == 0) {
+            continue;
+        }
+        for (std::size_t i = 0; i < block; ++i) {
+            if (firsts[i] == first && std::equal(pattern.begin(), pattern.end(), firsts + i)) {
+                return start + i;
+            }
+        }
+    }
+    return text.find(pattern, start);
+}
+
 // First match of `pattern` that lies within start .. end of `text`; -1 as the range end means the last
 // position.
 int findIn(View text, View pattern, int start, int end) {
@@ -128,8 +214,8 @@ int findIn(View text, View pattern, int start, int end) {
     if (end == -1 || end >= length) {
         end = length - 1;
     }
-    const std::size_t position =
-        text.substr(0, static_cast<std::size_t>(end) + 1).find(pattern, static_cast<std::size_t>(start));
+    const std::size_t position = findFirst(text.substr(0, static_cast<std::size_t>(end) + 1), pattern,
+                                           static_cast<std::size_t>(start));
     return position == View::npos ? -1 : static_cast<int>(position);
 }
 
@@ -400,12 +486,32 @@ bool zvString::equals(const zvString& other) const {
     return m_iLength == other.m_iLength && std::equal(m_pBuffer, m_pBuffer + m_iLength, other.m_pBuffer);
 }
 
-bool zvString::equalsIgnoreCase(const zvString& other) const { return lowered(*this).equals(lowered(other)); }
+bool zvString::equalsIgnoreCase(const zvString& other) const {
+    if (m_iLength != other.m_iLength) {
+        return false;
+    }
+    if (isAscii(m_pBuffer, m_iLength) && isAscii(other.m_pBuffer, m_iLength) && foldsAsciiPlainly()) {
+        unsigned difference = 0;
+        for (int i = 0; i < m_iLength; ++i) {
+            difference |= static_cast<unsigned>(otherCaseOf<u'A'>(m_pBuffer[i]) ^
+                                                otherCaseOf<u'A'>(other.m_pBuffer[i]));
+        }
+        return difference == 0;
+    }
+    return std::equal(m_pBuffer, m_pBuffer + m_iLength, other.m_pBuffer, [](wchar16 left, wchar16 right) {
+        return left == right || toLowerUnit(left) == toLowerUnit(right);
+    });
+}
 
 bool zvString::operator<(const zvString& other) const {
     // Maps spend their time here, and a view's own comparison looks at every unit twice.
     const int common = std::min(m_iLength, other.m_iLength);
     int i = 0;
+    for (constexpr int step = sizeof(std::uint64_t) / sizeof(wchar16); i + step <= common; i += step) {
+        if (std::memcmp(m_pBuffer + i, other.m_pBuffer + i, sizeof(std::uint64_t)) != 0) {
+            break;
+        }
+    }
     while (i < common && m_pBuffer[i] == other.m_pBuffer[i]) {
         ++i;
     }
@@ -550,7 +656,7 @@ void zvString::reverse() {
 
 void zvString::toLower() {
     _clearCache();
-    std::transform(m_pBuffer, m_pBuffer + m_iLength, m_pBuffer, toLowerUnit);
+    lower(m_pBuffer, m_iLength);
 }
 
 void zvString::toUpper() {
@@ -601,6 +707,10 @@ double zvString::convertUnicodeToDouble(const zvString& text) {
     }
     const wchar16* const number = skipWhiteSpace(text.m_pBuffer);
     const std::size_t length = numberLength(number);
+    double plain = 0.0;
+    if (readPlainNumber(number, length, plain)) {
+        return plain;
+    }
     constexpr std::size_t usualLength = 64;
     wchar_t usual[usualLength];
     std::unique_ptr<wchar_t[]> unusual;
@@ -623,6 +733,19 @@ int zvString::convertStringToUnicode(const char* text, int n, wchar16*& out) {
     out = nullptr;
     if (text == nullptr || n < 1) {
         return 0;
+    }
+    constexpr std::size_t usualLength = 2048;
+    const std::size_t bytes = std::char_traits<char>::length(text);
+    if (bytes <= usualLength && bytes <= static_cast<std::size_t>(n)) {
+        // Converted once, to be measured and copied, which is faster than measuring it by a conversion.
+        wchar16 usual[usualLength];
+        const std::size_t units = zvTextCodec::widen(text, usual, usualLength);
+        out = units == 0 ? nullptr : allocate<wchar16>(units + 1);
+        if (out == nullptr) {
+            return 0;
+        }
+        *std::copy_n(usual, units, out) = 0;
+        return static_cast<int>(units);
     }
     const std::size_t needed = zvTextCodec::wideLength(text);
     if (needed == 0 || needed == zvTextCodec::unconvertible || needed > longestText) {

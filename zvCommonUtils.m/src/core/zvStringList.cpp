@@ -1,6 +1,7 @@
 #include "zvStringList.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "zvKeptString.h"
@@ -26,10 +27,17 @@ zvStringList::~zvStringList() { delete m_pImpl; }
 
 void zvStringList::addString(const zvString& text) { m_pImpl->strings.emplace_back(text); }
 
+void zvStringList::addString(zvString&& text) { m_pImpl->strings.emplace_back(std::move(text)); }
+
 int zvStringList::numStrings() const { return static_cast<int>(m_pImpl->strings.size()); }
 
 zvString zvStringList::getString(int i) const {
-    return i >= 0 && i < numStrings() ? zvString(m_pImpl->strings[static_cast<std::size_t>(i)]) : zvString();
+    const zvString* const text = findString(i);
+    return text == nullptr ? zvString() : *text;
+}
+
+const zvString* zvStringList::findString(int i) const {
+    return i >= 0 && i < numStrings() ? &m_pImpl->strings[static_cast<std::size_t>(i)] : nullptr;
 }
 
 int zvStringList::getStringIndex(const zvString& text) const {

@@ -15,9 +15,13 @@ public:
     ~zvStringList() override;
 
     void addString(const zvString& text);
+    /// Takes the text's buffer and leaves `text` empty.
+    void addString(zvString&& text);
     int numStrings() const;
     /// A copy of entry `i`; an empty string for any other index.
     zvString getString(int i) const;
+    /// Entry `i` itself, owned by the list and valid until it changes; null for any other index.
+    const zvString* findString(int i) const;
     /// The first entry that equals `text`, or -1.
     int getStringIndex(const zvString& text) const;
     bool empty() const;

@@ -1,5 +1,7 @@
 #include "zvStringToStringMap.h"
 
+#include <utility>
+
 #include "zvMapIndex.h"
 
 zvStringToStringMap::zvStringToStringMap() = default;
@@ -15,6 +17,10 @@ zvStringToStringMap::~zvStringToStringMap() = default;
 
 bool zvStringToStringMap::add(const zvString& key, const zvString& value) {
     return m_map.emplace(key, value).second;
+}
+
+bool zvStringToStringMap::add(zvString&& key, zvString&& value) {
+    return m_map.try_emplace(std::move(key), std::move(value)).second;
 }
 
 void zvStringToStringMap::setValue(const zvString& key, const zvString& value) {

@@ -17,6 +17,7 @@ public:
 
     /// False, with nothing changed, when the key is there already.
     bool add(const zvString& key, const zvString& value);
+    bool add(zvString&& key, zvString&& value);
     /// Adds or replaces.
     void setValue(const zvString& key, const zvString& value);
     /// The value; empty for an absent key as for an empty value.

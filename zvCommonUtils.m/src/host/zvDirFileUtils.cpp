@@ -132,9 +132,9 @@ zvResult zvDirFileUtils::readFile(const zvString& path, zvStringList& lines) {
     std::string line;
     while (std::feof(file.get()) == 0 && std::ferror(file.get()) == 0) {
         readLine(file.get(), line);
-        const zvString text(line.c_str());
+        zvString text(line.c_str());
         if (!text.empty()) {
-            lines.addString(text);
+            lines.addString(std::move(text));
         } else if (!line.empty()) {
             logger.warn("A line of the file \"", path, "\" cannot be converted and is left out.");
         }

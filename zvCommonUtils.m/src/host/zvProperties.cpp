@@ -1,5 +1,8 @@
 #include "zvProperties.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "zvDirFileUtils.h"
 #include "zvLogSource.h"
 
@@ -40,7 +43,7 @@ zvResult zvProperties::parse(const zvString& path) {
     }
     bool good = true;
     for (int i = 0; good && i < lines.numStrings(); ++i) {
-        good = addPropertyToMap(lines.getString(i));
+        good = addPropertyToMap(*lines.findString(i));
     }
     if (!good || m_pProperties->size() == 0) {
         logger.error("Error occured in parsing properties file: \"", path, "\"");
@@ -62,16 +65,17 @@ bool zvProperties::addPropertyToMap(const zvString& line) {
         return true;
     }
     logger.info("Processing string :", line);
-    const int separator = line.find("=");
-    if (separator < 1) {
+    const wchar16* const end = line.data() + line.size();
+    const auto separator = static_cast<int>(std::find(line.data(), end, wchar16{u'='}) - line.data());
+    if (separator < 1 || separator == line.size()) {
         logger.error("Line : \"", line, "\" doesn't have key-value separator char.");
         return false;
     }
-    const zvString name = line.substr(0, separator);
-    const zvString value = line.substr(separator + 1, line.size() - separator - 1);
+    zvString name = line.substr(0, separator);
+    zvString value = line.substr(separator + 1, line.size() - separator - 1);
     if (value.empty()) {
         logger.error("Property cannot be added to map");
         return false;
     }
-    return m_pProperties->add(name, value);
+    return m_pProperties->add(std::move(name), std::move(value));
 }
