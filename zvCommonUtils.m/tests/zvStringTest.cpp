@@ -2,6 +2,8 @@
 
 #include <climits>
 #include <clocale>
+#include <cwchar>
+#include <cwctype>
 #include <string>
 
 #include "zvCharString.h"
@@ -119,6 +121,40 @@ TEST(zvString, Searches) {
     EXPECT_EQ(zvString("aXaxA").countNoCase("AX"), 2);
 }
 
+// Long texts are searched in blocks, whose edges no match may fall into.
+TEST(zvString, FindsTheFirstMatchAtEveryPosition) {
+    for (const std::string pattern : {"n", "ne", "needle"}) {
+        for (std::size_t before = 1; before < 140; ++before) {
+            std::string text;
+            while (text.size() < before) {
+                text += text.size() % 7 == 0 ? 'N' : 'e';
+            }
+            const zvString wide((text + pattern + std::string(80, 'e') + pattern).c_str());
+            EXPECT_EQ(wide.find(pattern.c_str()), static_cast<int>(before)) << pattern;
+            EXPECT_EQ(wide.find(pattern.c_str(), static_cast<int>(before) + 1),
+                      static_cast<int>(before + pattern.size() + 80));
+            EXPECT_EQ(wide.find(pattern.c_str(), 0, static_cast<int>(before + pattern.size()) - 2), -1);
+            EXPECT_EQ(wide.count(pattern.c_str()), 2);
+        }
+    }
+}
+
+TEST(zvString, IgnoresCaseAsTheRuntimeDoes) {
+    for (int left = 1; left < 0x250; ++left) {
+        zvString lowered(static_cast<wchar16>(left));
+        lowered.toLower();
+        const auto lower = static_cast<wchar16>(std::towlower(static_cast<std::wint_t>(left)));
+        ASSERT_EQ(lowered[0], lower) << left;
+        for (const int right : {left, left ^ 0x20, static_cast<int>(lower), 0x212A}) {
+            const bool same = lower == static_cast<wchar16>(std::towlower(static_cast<std::wint_t>(right)));
+            ASSERT_EQ(
+                zvString(static_cast<wchar16>(left)).equalsIgnoreCase(zvString(static_cast<wchar16>(right))),
+                same)
+                << left << ' ' << right;
+        }
+    }
+}
+
 TEST(zvString, Replaces) {
     struct Case {
         const char *text, *from, *to, *expected;
@@ -212,6 +248,12 @@ TEST(zvString, ReadsNumbers) {
         EXPECT_EQ(zvString::convertUnicodeToInt(c.text), c.expected) << c.text;
         EXPECT_EQ(zvString::convertUnicodeToLong(c.text), c.expected) << c.text;
         EXPECT_EQ(zvString::convertUnicodeToBool(c.text), c.expected != 0) << c.text;
+    }
+    for (const wchar_t* const text :
+         {L"0.1", L"1.25", L"7.", L".5", L"123456789012345", L"1234567.8901234", L"1.2.3",
+          L"0.30000000000001", L"12a", L"1e3", L"0x1p3", L"1,5", L"99999999999999.5"}) {
+        const std::u16string units(text, text + std::wcslen(text));
+        EXPECT_EQ(zvString::convertUnicodeToDouble(units.c_str()), std::wcstod(text, nullptr)) << text;
     }
     EXPECT_DOUBLE_EQ(zvString::convertUnicodeToDouble(" -2.5e1 9"), -25.0);
     EXPECT_DOUBLE_EQ(zvString::convertUnicodeToDouble((std::string(300, '0') + "1.5").c_str()), 1.5);

@@ -1,0 +1,88 @@
+#include "zvTextCodec.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "zvSurrogate.h"
+
+namespace {
+
+// What the runtime itself makes of the text, each character beyond the 16 bits as a surrogate pair; nothing
+// for a text that it refuses.
+std::vector<wchar16> widenedByRuntime(const std::string& text) {
+    std::vector<wchar_t> wide(text.size() + 1);
+    const std::size_t length = std::mbstowcs(wide.data(), text.c_str(), wide.size());
+    std::vector<wchar16> units;
+    for (std::size_t i = 0; length != static_cast<std::size_t>(-1) && i < length; ++i) {
+        const auto character = static_cast<char32_t>(wide[i]);
+        if (character > 0xFFFF) {
+            units.push_back(zvSurrogate::highOf(character));
+            units.push_back(zvSurrogate::lowOf(character));
+        } else {
+            units.push_back(static_cast<wchar16>(character));
+        }
+    }
+    return units;
+}
+
+void expectSameAsRuntime(const std::string& text) {
+    const std::vector<wchar16> expected = widenedByRuntime(text);
+    std::vector<wchar16> units(text.size());
+    units.resize(zvTextCodec::widen(text.c_str(), units.data(), units.size()));
+    ASSERT_EQ(units, expected) << testing::PrintToString(text);
+    ASSERT_EQ(zvTextCodec::wideLength(text.c_str()),
+              expected.empty() ? zvTextCodec::unconvertible : expected.size())
+        << testing::PrintToString(text);
+}
+
+// Every lead byte before the bytes at which UTF-8 turns from well-formed to overlong, to a surrogate, to a
+// number that is too high, and to the start of the next character.
+TEST(zvTextCodec, ReadsAndRefusesWhatTheRuntimeReadsAndRefuses) {
+    const std::string edges = "A\x7F\x80\x8F\x90\x9F\xA0\xBF\xC0\xE2";
+    for (int lead = 0x80; lead <= 0xFF; ++lead) {
+        const std::string first = "a" + std::string(1, static_cast<char>(lead));
+        expectSameAsRuntime(first);
+        for (const char second : edges) {
+            expectSameAsRuntime(first + second);
+            for (const char third : edges) {
+                expectSameAsRuntime(first + second + third);
+                expectSameAsRuntime(first + second + third + '\x80');
+                expectSameAsRuntime(first + second + third + "\xBFz");
+            }
+        }
+    }
+}
+
+TEST(zvTextCodec, WritesEveryCharacterSoThatItIsReadAgain) {
+    for (char32_t character = 1; character <= 0x10FFFF; character += character < 0x11000 ? 1 : 251) {
+        wchar16 units[2] = {static_cast<wchar16>(character), 0};
+        const std::size_t count = character > 0xFFFF ? 2 : 1;
+        if (count == 2) {
+            units[0] = zvSurrogate::highOf(character);
+            units[1] = zvSurrogate::lowOf(character);
+        }
+        const std::size_t bytes = zvTextCodec::narrowLength(units, count);
+        if (character >= 0xD800 && character <= 0xDFFF) {
+            ASSERT_EQ(bytes, zvTextCodec::unconvertible) << static_cast<unsigned>(character);
+            continue;
+        }
+        std::string text(bytes, '\0');
+        zvTextCodec::narrow(units, count, text.data());
+        ASSERT_EQ(widenedByRuntime(text), std::vector<wchar16>(units, units + count))
+            << static_cast<unsigned>(character);
+    }
+}
+
+TEST(zvTextCodec, ALoneSurrogateAmongPairsHasNoNarrowForm) {
+    using namespace std::string_literals;
+    for (const std::u16string& text :
+         {u"\xD83D\xDE00\xD83D"s, u"\xDE00\xD83D\xDE00"s, u"\xD83D\xD83D\xDE00"s, u"\xD83Dz\xDE00"s}) {
+        const std::vector<wchar16> units(text.begin(), text.end());
+        EXPECT_EQ(zvTextCodec::narrowLength(units.data(), units.size()), zvTextCodec::unconvertible);
+    }
+}
+
+}  // namespace
