@@ -25,12 +25,12 @@ bool isAscii(const Character* text, std::size_t length) {
 
 // Whether the locale's multibyte texts are UTF-8, asked of the runtime by a character that tells.
 bool isUtf8Locale() {
-    constexpr char grinningFace[] = "\xF0\x9F\x98\x80";
+    constexpr char euro[] = "\xE2\x82\xAC";
     std::mbstate_t state{};
     wchar_t character = 0;
     return !unitsAreWideCharacters &&
-           std::mbrtowc(&character, grinningFace, sizeof(grinningFace) - 1, &state) == 4 &&
-           static_cast<char32_t>(character) == 0x1F600;
+           std::mbrtowc(&character, euro, sizeof(euro) - 1, &state) == sizeof(euro) - 1 &&
+           character == L'\u20AC';
 }
 
 bool isContinuation(unsigned char byte) { return (byte & 0xC0u) == 0x80u; }
