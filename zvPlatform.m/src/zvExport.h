@@ -16,6 +16,21 @@
 #else
 #define ZV_LOGGER_API
 #endif
+#if defined(__i386__) && defined(__GNUC__) && !defined(ZV_STATIC) && !defined(zvCommonUtilsExport_EXPORTS)
+namespace zvPlatform {
+
+/// The compiler's runtime in a program makes its tables for the program's first exception, and needs them for
+/// one that comes out of the DLL: so the program throws its first itself.
+inline const bool unwinderIsReady = []() noexcept {
+    try {
+        throw false;
+    } catch (bool) {
+        return true;
+    }
+}();
+
+}  // namespace zvPlatform
+#endif
 #else
 #define ZV_EXPORT [[gnu::visibility("default")]]
 #define ZV_LOGGER_API [[gnu::visibility("default")]]
