@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <httplib.h>
 
+#include <chrono>
 #include <clocale>
 #include <cstdlib>
 #include <cstring>
@@ -65,6 +66,9 @@ public:
         if (m_iPort < 0) {
             throw std::runtime_error("no port on the loopback interface");
         }
+        // A busy machine is no reason to give a test's client up.
+        m_pServer->set_read_timeout(std::chrono::minutes(1));
+        m_pServer->set_write_timeout(std::chrono::minutes(1));
         m_pServer->Post(R"(/(\d+))", [this](const httplib::Request& request, httplib::Response& response,
                                             const httplib::ContentReader& read) {
             ++m_iRequests;

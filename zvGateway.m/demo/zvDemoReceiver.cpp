@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <atomic>
+#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -49,6 +50,7 @@ void serve(const std::string& folder, int status) {
     const Inbox inbox(folder);
     std::atomic<int> count{0};
     httplib::Server server;
+    server.set_read_timeout(std::chrono::minutes(1));  // many events at once make a machine slow
     server.Post(path, [&](const httplib::Request&, httplib::Response& response,
                           const httplib::ContentReader& reader) {
         const int number = ++count;
