@@ -70,9 +70,8 @@ TEST_F(zvDateTimeTest, NothingToReadIsLogged) {
 TEST_F(zvDateTimeTest, ThePatternTravelsWithTheValue) {
     for (const char* const format : {"", "DD", pattern}) {
         const zvDateTime date{zvString(format)};
-        const zvDateTime copy(date);
         zvDateTime assigned(2011, 5, 21, 0, 0, 0);
-        assigned = copy;
+        assigned = zvDateTime(date);
         EXPECT_EQ(assigned.getDateFormat(), format);
         assigned = zvDateTime();
         EXPECT_EQ(assigned.getDateFormat(), pattern);
