@@ -49,7 +49,7 @@ function(zv_list_test_program NAME)
     set_property(GLOBAL APPEND_STRING PROPERTY ZV_TEST_LIST "run\t$<TARGET_FILE:${NAME}>\n")
 endfunction()
 
-# Notes in "test-programs" that the tests in SOURCES are left out.
+# Notes in "test-programs" that the tests in SOURCES are left out, or, without sources, the test NAME.
 function(zv_skip_tests NAME REASON)
     list(JOIN ARGN " " sources)
     set_property(GLOBAL APPEND_STRING PROPERTY ZV_TEST_LIST "skip\t${NAME}\t${REASON}\t${sources}\n")
