@@ -129,7 +129,8 @@ TEST(zvString, FindsTheFirstMatchAtEveryPosition) {
             while (text.size() < before) {
                 text += text.size() % 7 == 0 ? 'N' : 'e';
             }
-            const zvString wide((text + pattern + std::string(80, 'e') + pattern).c_str());
+            text.append(pattern).append(80, 'e').append(pattern);
+            const zvString wide(text.c_str());
             EXPECT_EQ(wide.find(pattern.c_str()), static_cast<int>(before)) << pattern;
             EXPECT_EQ(wide.find(pattern.c_str(), static_cast<int>(before) + 1),
                       static_cast<int>(before + pattern.size() + 80));
