@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <cstdint>
 #include <cstring>
 #include <cwchar>
 
@@ -33,79 +34,95 @@ bool isUtf8Locale() {
            character == L'\u20AC';
 }
 
-bool isContinuation(unsigned char byte) { return (byte & 0xC0u) == 0x80u; }
-
-// Reads one character of well-formed UTF-8 and returns its length; 0 for whatever only the runtime can judge.
-inline std::size_t readUtf8(const char* text, const char* end, wchar_t& character) {
-    const auto byte = [text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    const auto tail = [&byte](std::size_t i) { return static_cast<char32_t>(byte(i) & 0x3Fu); };
-    const auto left = static_cast<std::size_t>(end - text);
-    const char32_t lead = byte(0);
-    if (lead < 0x80) {
-        character = static_cast<wchar_t>(lead);
-        return 1;
+// Hands every code unit of `text` to `put`; false for what is no well-formed UTF-8. Looks no further than the
+// first byte that continues nothing, which at the latest is the text's terminator.
+template <typename Put>
+bool decodeUtf8(const char* text, Put put) {
+    for (;;) {
+        unsigned lead = static_cast<unsigned char>(*text);
+        while (lead > 0 && lead < 0x80) {
+            put(static_cast<wchar16>(lead));
+            lead = static_cast<unsigned char>(*++text);
+        }
+        if (lead == 0) {
+            return true;
+        }
+        // Below 0x40 for a byte that continues a character.
+        const auto tail = [text](std::size_t i) { return static_cast<unsigned char>(text[i]) ^ 0x80u; };
+        if (lead < 0xC2 || lead > 0xF4 || tail(1) > 0x3F) {
+            return false;
+        }
+        if (lead < 0xE0) {
+            put(static_cast<wchar16>((lead & 0x1Fu) << 6 | tail(1)));
+            text += 2;
+            continue;
+        }
+        if (tail(2) > 0x3F) {
+            return false;
+        }
+        if (lead < 0xF0) {
+            const unsigned character = (lead & 0x0Fu) << 12 | tail(1) << 6 | tail(2);
+            if (character < 0x800 || (character & 0xF800u) == 0xD800u) {
+                return false;
+            }
+            put(static_cast<wchar16>(character));
+            text += 3;
+            continue;
+        }
+        const unsigned character = (lead & 0x07u) << 18 | tail(1) << 12 | tail(2) << 6 | tail(3);
+        if (tail(3) > 0x3F || character < 0x10000 || character > lastCharacter) {
+            return false;
+        }
+        put(zvSurrogate::highOf(character));
+        put(zvSurrogate::lowOf(character));
+        text += 4;
     }
-    char32_t value = lead;
-    std::size_t length = 0;
-    if (lead >= 0xC2 && lead < 0xE0 && left >= 2 && isContinuation(byte(1))) {
-        value = (lead & 0x1Fu) << 6 | tail(1);
-        length = 2;
-    } else if (lead >= 0xE0 && lead < 0xF0 && left >= 3 && isContinuation(byte(1)) &&
-               isContinuation(byte(2))) {
-        value = (lead & 0x0Fu) << 12 | tail(1) << 6 | tail(2);
-        length = value >= 0x800 && (value < 0xD800 || value > 0xDFFF) ? 3 : 0;
-    } else if (lead >= 0xF0 && lead < 0xF5 && left >= 4 && isContinuation(byte(1)) &&
-               isContinuation(byte(2)) && isContinuation(byte(3))) {
-        value = (lead & 0x07u) << 18 | tail(1) << 12 | tail(2) << 6 | tail(3);
-        length = value >= 0x10000 && value <= 0x10FFFF ? 4 : 0;
-    }
-    character = static_cast<wchar_t>(value);
-    return length;
 }
 
-// Writes one character in UTF-8, no lone surrogate, and returns its length.
-std::size_t writeUtf8(char32_t character, char* bytes) {
-    const auto tail = [character](int shift) {
-        return static_cast<char>(0x80u | ((character >> shift) & 0x3Fu));
-    };
-    if (character < 0x80) {
-        bytes[0] = static_cast<char>(character);
-        return 1;
+// Writes `text` in UTF-8 and returns the bytes written; `unconvertible` when it has a lone surrogate.
+std::size_t encodeUtf8(const wchar16* text, std::size_t length, char* out) {
+    const wchar16* const end = text + length;
+    char* next = out;
+    while (text != end) {
+        char32_t character = *text++;
+        const auto tail = [&character](int shift) {
+            return static_cast<char>(0x80u | ((character >> shift) & 0x3Fu));
+        };
+        if (character < 0x80) {
+            next[0] = static_cast<char>(character);
+            next += 1;
+        } else if (character < 0x800) {
+            next[0] = static_cast<char>(0xC0u | character >> 6);
+            next[1] = tail(0);
+            next += 2;
+        } else if ((character & 0xF800u) != 0xD800u) {
+            next[0] = static_cast<char>(0xE0u | character >> 12);
+            next[1] = tail(6);
+            next[2] = tail(0);
+            next += 3;
+        } else {
+            if (text == end || !zvSurrogate::isHigh(text[-1]) || !zvSurrogate::isLow(*text)) {
+                return unconvertible;
+            }
+            character = zvSurrogate::join(text[-1], *text);
+            ++text;
+            next[0] = static_cast<char>(0xF0u | character >> 18);
+            next[1] = tail(12);
+            next[2] = tail(6);
+            next[3] = tail(0);
+            next += 4;
+        }
     }
-    if (character < 0x800) {
-        bytes[0] = static_cast<char>(0xC0u | character >> 6);
-        bytes[1] = tail(0);
-        return 2;
-    }
-    if (character < 0x10000) {
-        bytes[0] = static_cast<char>(0xE0u | character >> 12);
-        bytes[1] = tail(6);
-        bytes[2] = tail(0);
-        return 3;
-    }
-    bytes[0] = static_cast<char>(0xF0u | character >> 18);
-    bytes[1] = tail(12);
-    bytes[2] = tail(6);
-    bytes[3] = tail(0);
-    return 4;
+    return static_cast<std::size_t>(next - out);
 }
 
 // Hands every wide character of `text` to `take` until that answers false; false for invalid text.
 template <typename Take>
 bool decode(const char* text, Take take) {
     std::mbstate_t state{};
-    const bool isUtf8 = isUtf8Locale();
     const char* const end = text + std::strlen(text);
     while (text != end) {
         wchar_t character = 0;
-        const std::size_t quick = isUtf8 ? readUtf8(text, end, character) : 0;
-        if (quick > 0) {
-            if (!take(character)) {
-                return true;
-            }
-            text += quick;
-            continue;
-        }
         const std::size_t used = std::mbrtowc(&character, text, static_cast<std::size_t>(end - text), &state);
         if (used == static_cast<std::size_t>(-1) || used == static_cast<std::size_t>(-2) ||
             static_cast<char32_t>(character) > lastCharacter) {
@@ -121,24 +138,35 @@ bool decode(const char* text, Take take) {
 
 std::size_t unitsOf(wchar_t character) { return static_cast<char32_t>(character) >> 16U == 0 ? 1 : 2; }
 
+// The sum of `count`, two at most, of every position below `length`. Added up in blocks whose sums are no
+// wider than the units of a text, so that many are counted at a time.
+template <typename Count>
+std::size_t sumOf(std::size_t length, Count count) {
+    constexpr std::size_t longestBlock = 0x4000;
+    std::size_t sum = 0;
+    for (std::size_t start = 0; start < length; start += longestBlock) {
+        const std::size_t end = std::min(length, start + longestBlock);
+        std::uint16_t blockSum = 0;
+        for (std::size_t i = start; i < end; ++i) {
+            blockSum = static_cast<std::uint16_t>(blockSum + count(i));
+        }
+        sum += blockSum;
+    }
+    return sum;
+}
+
 // The bytes of `text` in UTF-8; `unconvertible` when it has a lone surrogate. A pair's halves count for two
 // bytes each.
 std::size_t utf8Length(const wchar16* text, std::size_t length) {
-    std::size_t bytes = length;
-    std::size_t surrogates = 0;
-    for (std::size_t i = 0; i < length; ++i) {
-        const unsigned unit = text[i];
-        bytes += (unit >= 0x80 ? 1u : 0u) + (unit >= 0x800 ? 1u : 0u);
-        surrogates += (unit & 0xF800u) == 0xD800u ? 1u : 0u;
-    }
-    std::size_t paired = 0;
-    for (std::size_t i = 0; surrogates > paired && i + 1 < length; ++i) {
-        if (zvSurrogate::isHigh(text[i]) && zvSurrogate::isLow(text[i + 1])) {
-            paired += 2;
-            ++i;
-        }
-    }
-    return paired == surrogates ? bytes - surrogates : unconvertible;
+    const std::size_t further = sumOf(
+        length, [text](std::size_t i) { return (text[i] >= 0x80 ? 1 : 0) + (text[i] >= 0x800 ? 1 : 0); });
+    const std::size_t surrogates =
+        sumOf(length, [text](std::size_t i) { return zvSurrogate::isAny(text[i]) ? 1 : 0; });
+    const std::size_t pairs = surrogates == 0 ? 0 : sumOf(length - 1, [text](std::size_t i) {
+        return static_cast<int>(zvSurrogate::isHigh(text[i])) &
+               static_cast<int>(zvSurrogate::isLow(text[i + 1]));
+    });
+    return 2 * pairs == surrogates ? length + further - surrogates : unconvertible;
 }
 
 // Hands the bytes of every character of `text` to `take`; false for a text that has no narrow form.
@@ -170,6 +198,10 @@ std::size_t wideLength(const char* text) {
         return bytes;
     }
     std::size_t units = 0;
+    if (isUtf8Locale() && decodeUtf8(text, [&units](wchar16) { ++units; })) {
+        return units;
+    }
+    units = 0;
     const bool valid = decode(text, [&units](wchar_t character) {
         units += unitsOf(character);
         return true;
@@ -185,6 +217,17 @@ std::size_t widen(const char* text, wchar16* out, std::size_t capacity) {
         return units;
     }
     std::size_t written = 0;
+    const auto put = [&written, out, capacity](wchar16 unit) {
+        if (written != capacity) {
+            out[written] = unit;
+            ++written;
+        }
+    };
+    if (isUtf8Locale() && decodeUtf8(text, put)) {
+        // No half of a pair that has no room.
+        return written > 0 && zvSurrogate::isHigh(out[written - 1]) ? written - 1 : written;
+    }
+    written = 0;
     const bool valid = decode(text, [&](wchar_t character) {
         const std::size_t units = unitsOf(character);
         if (units > capacity - written) {
@@ -215,22 +258,20 @@ std::size_t narrowLength(const wchar16* text, std::size_t length) {
     return valid ? bytes : unconvertible;
 }
 
-void narrow(const wchar16* text, std::size_t length, char* out) {
+std::size_t narrow(const wchar16* text, std::size_t length, char* out) {
     if (isAscii(text, length)) {
         std::transform(text, text + length, out, [](wchar16 unit) { return static_cast<char>(unit); });
-        return;
+        return length;
     }
     if (isUtf8Locale()) {
-        for (std::size_t i = 0; i < length; ++i) {
-            const bool isPair =
-                i + 1 < length && zvSurrogate::isHigh(text[i]) && zvSurrogate::isLow(text[i + 1]);
-            out += writeUtf8(isPair ? zvSurrogate::join(text[i], text[i + 1]) : char32_t{text[i]}, out);
-            i += isPair ? 1 : 0;
-        }
-        return;
+        return encodeUtf8(text, length, out);
     }
-    encode(text, length,
-           [&out](const char* bytes, std::size_t count) { out = std::copy_n(bytes, count, out); });
+    std::size_t written = 0;
+    const bool valid = encode(text, length, [&written, out](const char* bytes, std::size_t count) {
+        std::copy_n(bytes, count, out + written);
+        written += count;
+    });
+    return valid ? written : unconvertible;
 }
 
 }  // namespace zvTextCodec

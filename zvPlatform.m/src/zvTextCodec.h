@@ -7,8 +7,9 @@
 
 /// Conversion between narrow text (multibyte, in the process's locale) and wide text (UTF-16 code units).
 ///
-/// Callers measure, allocate and then convert, so that nothing in here allocates. Where the runtime's wide
-/// character is larger than a code unit, surrogate pairs are joined and split on the way.
+/// Callers allocate, and measure or know the most that a text can take, so that nothing in here allocates.
+/// Where the runtime's wide character is larger than a code unit, surrogate pairs are joined and split on the
+/// way.
 namespace zvTextCodec {
 
 /// What a measurement answers for a text that has no counterpart on the other side.
@@ -24,8 +25,9 @@ std::size_t widen(const char* text, wchar16* out, std::size_t capacity);
 /// Bytes that the `length` code units of `text` need, terminator excluded.
 std::size_t narrowLength(const wchar16* text, std::size_t length);
 
-/// Writes the bytes that narrowLength counted, no terminator.
-void narrow(const wchar16* text, std::size_t length, char* out);
+/// Writes the bytes that narrowLength counts, at most MB_CUR_MAX for each unit, no terminator.
+/// @return the number of bytes written; `unconvertible`, with some written, for a text without a narrow form.
+std::size_t narrow(const wchar16* text, std::size_t length, char* out);
 
 }  // namespace zvTextCodec
 

@@ -5,6 +5,7 @@
 #include <climits>
 #include <clocale>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 #include <cwchar>
 #include <cwctype>
@@ -90,12 +91,31 @@ Character* converted(const Character* text, Convert convert) {
     return copy;
 }
 
+// The terminated copy of `count` bytes, or null for none and for `unconvertible`.
+char* narrowCopyOf(const char* bytes, std::size_t count) {
+    char* const copy =
+        count == 0 || count == zvTextCodec::unconvertible ? nullptr : allocate<char>(count + 1);
+    if (copy != nullptr) {
+        *std::copy_n(bytes, count, copy) = '\0';
+    }
+    return copy;
+}
+
 // The narrow form of `length` units, or null; `bytes` is its length.
 char* narrowed(const wchar16* text, int length, int& bytes) {
     bytes = 0;
     const auto units = static_cast<std::size_t>(length);
+    constexpr std::size_t usualSize = 8192;
+    if (units * MB_CUR_MAX <= usualSize) {
+        // Converted once, to be measured and copied, which is faster than measuring it by a conversion.
+        char usual[usualSize];
+        const std::size_t written = zvTextCodec::narrow(text, units, usual);
+        char* const narrow = narrowCopyOf(usual, written);
+        bytes = narrow == nullptr ? 0 : static_cast<int>(written);
+        return narrow;
+    }
     const std::size_t needed = zvTextCodec::narrowLength(text, units);
-    if (needed == 0 || needed == zvTextCodec::unconvertible || needed > longestText) {
+    if (needed == zvTextCodec::unconvertible || needed > longestText) {
         return nullptr;
     }
     char* const narrow = allocate<char>(needed + 1);
