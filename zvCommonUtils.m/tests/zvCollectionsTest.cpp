@@ -1,3 +1,5 @@
+#include <string>
+
 #include "zvReferenceCtr.h"
 #include "zvStringList.h"
 #include "zvStringToAttrMap.h"
@@ -75,6 +77,27 @@ TEST(zvStringToAttrMap, HoldsAttributesByName) {
     EXPECT_TRUE(map.getAttrName(0, name));
     EXPECT_EQ(name, "k");
     EXPECT_FALSE(map.getAttrName(1, name) || map.getAttrName(-1, name));
+}
+
+// Enough of them for some to share a slot of the look-up, in the map and in its copy.
+TEST(zvStringToAttrMap, FindsEachOfManyAndNoOther) {
+    constexpr int count = 1000;
+    const auto key = [](int i) { return zvString(("attribute " + std::to_string(i)).c_str()); };
+    zvStringToAttrMap map;
+    for (int i = 0; i < count; ++i) {
+        ASSERT_TRUE(map.addAttr(key(i), zvAttribute(key(i), zvValue(i))));
+    }
+    const zvStringToAttrMap copy(map);
+    for (int i = 0; i < count; ++i) {
+        EXPECT_FALSE(map.addAttr(key(i), zvAttribute(key(i), zvValue(-1)))) << i;
+        map.updateAttr(key(i), zvAttribute(key(i), zvValue(i + count)));
+    }
+    EXPECT_EQ(map.size(), count);
+    for (int i = 0; i < count; ++i) {
+        EXPECT_EQ(map.findAttr(key(i))->value().getIntValue(), i + count);
+        EXPECT_EQ(copy.findAttr(key(i))->value().getIntValue(), i);
+        EXPECT_EQ(map.findAttr(key(i + count)), nullptr);
+    }
 }
 
 TEST(zvTemplateMap, FirstValueWins) {

@@ -1,14 +1,89 @@
 #include "zvStringToAttrMap.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <map>
+#include <vector>
 
 #include "zvKeptString.h"
 #include "zvMapIndex.h"
 
 class zvStringToAttrMapImpl {
 public:
-    std::map<zvKeptString, zvAttribute, std::less<>> attributes;
+    using Attributes = std::map<zvKeptString, zvAttribute, std::less<>>;
+
+    zvStringToAttrMapImpl() = default;
+    zvStringToAttrMapImpl(const zvStringToAttrMapImpl& other) : m_attributes(other.m_attributes) {
+        makeSlots(slotsFor(m_attributes.size()));
+    }
+    zvStringToAttrMapImpl& operator=(const zvStringToAttrMapImpl&) = delete;
+
+    void swap(zvStringToAttrMapImpl& other) noexcept {
+        m_attributes.swap(other.m_attributes);
+        m_slots.swap(other.m_slots);
+    }
+
+    const Attributes& all() const { return m_attributes; }
+
+    zvAttribute* find(const zvString& key) {
+        if (m_slots.empty()) {
+            return nullptr;
+        }
+        Attributes::value_type* const entry = m_slots[slotOf(key)];
+        if (entry == nullptr || entry->first == key) {
+            return entry == nullptr ? nullptr : &entry->second;
+        }
+        return zvMapFind(m_attributes, key);
+    }
+
+    // The key is new. Nothing is added unless the slots have room for it as well.
+    void add(const zvString& key, const zvAttribute& attribute) {
+        if (slotsFor(m_attributes.size() + 1) > m_slots.size()) {
+            makeSlots(slotsFor(m_attributes.size() + 1) * 2);
+        }
+        settle(*m_attributes.emplace(key, attribute).first);
+    }
+
+private:
+    using Slots = std::vector<Attributes::value_type*>;
+
+    // A power of two, wide enough for most entries to have a slot of their own.
+    static std::size_t slotsFor(std::size_t entries) {
+        constexpr std::size_t perEntry = 4;
+        std::size_t slots = entries == 0 ? 0 : 1;
+        while (slots < entries * perEntry) {
+            slots *= 2;
+        }
+        return slots;
+    }
+
+    // The 32-bit FNV-1a hash, with the high bits folded into those that tell the slot.
+    std::size_t slotOf(const zvString& key) const {
+        std::uint32_t hash = 2166136261U;
+        for (int i = 0; i < key.size(); ++i) {
+            hash = (hash ^ key.data()[i]) * 16777619U;
+        }
+        return (hash ^ hash >> 16U) & (m_slots.size() - 1);
+    }
+
+    void settle(Attributes::value_type& entry) {
+        auto& slot = m_slots[slotOf(entry.first)];
+        slot = slot == nullptr ? &entry : slot;
+    }
+
+    void makeSlots(std::size_t count) {
+        Slots(count).swap(m_slots);
+        for (auto& entry : m_attributes) {
+            settle(entry);
+        }
+    }
+
+    Attributes m_attributes;
+    // Spares most look-ups the walk down the tree. The slot of a key's hash holds the first entry that came
+    // for it, so that an empty one tells that there is none; whoever finds another's entry there walks, and
+    // keys that were made to meet in one slot gain nothing by it.
+    Slots m_slots;
 };
 
 zvStringToAttrMap::zvStringToAttrMap() : m_pImpl(new zvStringToAttrMapImpl) {}
@@ -18,7 +93,7 @@ zvStringToAttrMap::zvStringToAttrMap(const zvStringToAttrMap& other)
 
 zvStringToAttrMap& zvStringToAttrMap::operator=(const zvStringToAttrMap& other) {
     if (this != &other) {
-        zvStringToAttrMapImpl(*other.m_pImpl).attributes.swap(m_pImpl->attributes);
+        zvStringToAttrMapImpl(*other.m_pImpl).swap(*m_pImpl);
     }
     return *this;
 }
@@ -26,16 +101,22 @@ zvStringToAttrMap& zvStringToAttrMap::operator=(const zvStringToAttrMap& other) 
 zvStringToAttrMap::~zvStringToAttrMap() { delete m_pImpl; }
 
 bool zvStringToAttrMap::addAttr(const zvString& key, const zvAttribute& attribute) {
-    return m_pImpl->attributes.emplace(key, attribute).second;
+    const bool isNew = m_pImpl->find(key) == nullptr;
+    if (isNew) {
+        m_pImpl->add(key, attribute);
+    }
+    return isNew;
 }
 
 void zvStringToAttrMap::updateAttr(const zvString& key, const zvAttribute& attribute) {
-    m_pImpl->attributes.insert_or_assign(key, attribute);
+    if (zvAttribute* const present = m_pImpl->find(key)) {
+        *present = attribute;
+    } else {
+        m_pImpl->add(key, attribute);
+    }
 }
 
-const zvAttribute* zvStringToAttrMap::findAttr(const zvString& key) const {
-    return zvMapFind(m_pImpl->attributes, key);
-}
+const zvAttribute* zvStringToAttrMap::findAttr(const zvString& key) const { return m_pImpl->find(key); }
 
 bool zvStringToAttrMap::getAttr(const zvString& key, zvAttribute& out) const {
     const zvAttribute* const attribute = findAttr(key);
@@ -46,7 +127,7 @@ bool zvStringToAttrMap::getAttr(const zvString& key, zvAttribute& out) const {
 }
 
 bool zvStringToAttrMap::getAttr(int i, zvAttribute& out) const {
-    const auto* const entry = zvMapEntryAt(m_pImpl->attributes, i);
+    const auto* const entry = zvMapEntryAt(m_pImpl->all(), i);
     if (entry != nullptr) {
         out = entry->second;
     }
@@ -54,11 +135,11 @@ bool zvStringToAttrMap::getAttr(int i, zvAttribute& out) const {
 }
 
 bool zvStringToAttrMap::getAttrName(int i, zvString& out) const {
-    const auto* const entry = zvMapEntryAt(m_pImpl->attributes, i);
+    const auto* const entry = zvMapEntryAt(m_pImpl->all(), i);
     if (entry != nullptr) {
         out = entry->first;
     }
     return entry != nullptr;
 }
 
-int zvStringToAttrMap::size() const { return static_cast<int>(m_pImpl->attributes.size()); }
+int zvStringToAttrMap::size() const { return static_cast<int>(m_pImpl->all().size()); }
