@@ -20,9 +20,15 @@ using log4cxx::spi::LocationInfo;
 
 namespace {
 
-LogString decode(const std::string& text) {
+// ASCII, which nearly every line is, reads the same in every encoding, and log4cxx's decoder takes it one
+// character at a time.
+LogString decode(std::string_view text) {
+    const auto isAscii = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
+    if (std::all_of(text.begin(), text.end(), isAscii)) {
+        return {text.begin(), text.end()};
+    }
     LogString decoded;
-    log4cxx::helpers::Transcoder::decode(text, decoded);
+    log4cxx::helpers::Transcoder::decode(std::string(text), decoded);
     return decoded;
 }
 
@@ -75,7 +81,7 @@ void zvLogConfiguration::write(const log4cxx::LevelPtr& level, const char* logge
         return;
     }
     const LogString text = decode(message);
-    const char* const source = m_sources.insert(file == nullptr ? LocationInfo::NA : file).first->c_str();
+    const char* const source = keep(file == nullptr ? LocationInfo::NA : file);
     const LocationInfo location(source, shortName(source), LocationInfo::NA_METHOD, line);
     const log4cxx::MDC processId("processId", std::to_string(zvPlatform::processId()));
     const std::lock_guard<zvLogFolderLock> guard(m_lock);
@@ -86,6 +92,14 @@ void zvLogConfiguration::write(const log4cxx::LevelPtr& level, const char* logge
     for (zvLogFile& logFile : m_files) {
         logFile.remember();
     }
+}
+
+const char* zvLogConfiguration::keep(std::string_view source) {
+    auto kept = m_sources.find(source);
+    if (kept == m_sources.end()) {
+        kept = m_sources.emplace(source).first;
+    }
+    return kept->c_str();
 }
 
 // Most lines come from the logger of the line before.

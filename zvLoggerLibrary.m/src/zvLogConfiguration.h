@@ -6,8 +6,10 @@
 #include <log4cxx/logger.h>
 
 #include <filesystem>
+#include <functional>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "zvLogFile.h"
@@ -35,10 +37,11 @@ public:
 private:
     void adoptAppenders(const log4cxx::Logger& logger);
     const log4cxx::LoggerPtr& find(const char* loggerName);
+    const char* keep(std::string_view source);
 
     std::filesystem::path m_path;
     // An asynchronous appender reads a source file's name when the caller's text may be gone.
-    std::set<std::string> m_sources;
+    std::set<std::string, std::less<>> m_sources;
     // Not log4cxx's global one: that is the program's, and configures itself from whatever it finds.
     log4cxx::HierarchyPtr m_pRepository;
     std::vector<zvLogFile> m_files;

@@ -2,11 +2,11 @@
 
 #include <cstdio>
 #include <string>
+#include <string_view>
 
 #include "zvCharString.h"
 #include "zvGatewayHome.h"
 #include "zvLoggerLibrary.h"
-#include "zvPath.h"
 
 zvLogChannel::zvLogChannel(const zvString& name) : m_bReady(false), m_szLoggerName() {
     std::snprintf(m_szLoggerName, sizeof(m_szLoggerName), "%s", zvCharString(name).data());
@@ -46,12 +46,14 @@ void zvLogChannel::forward(LibraryFunction write, const char* message, const cha
     if (!m_bReady) {
         return;
     }
-    const zvString fileName = file == nullptr ? zvString() : zvPath::fileName(file);
+    const std::string_view path = file == nullptr ? "" : file;
+    const std::size_t delimiter = path.find_last_of("/\\");
+    const std::string_view fileName = delimiter == std::string_view::npos ? "" : path.substr(delimiter + 1);
     if (fileName.empty()) {
         write(m_szLoggerName, message, file, line);
         return;
     }
-    std::string located(zvCharString(fileName).data());
+    std::string located(fileName);
     located.append("[").append(std::to_string(line)).append("] ").append(message);
     write(m_szLoggerName, located.c_str(), file, line);
 }
