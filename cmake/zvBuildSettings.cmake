@@ -30,6 +30,11 @@ endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     add_compile_options(-fno-semantic-interposition)
 endif()
+# The processor's old floating-point unit compares numbers with more digits than a float or a double holds. Programs
+# of other compilers call the library with a stack that the new one could not use as it is.
+if(CMAKE_SYSTEM_PROCESSOR STREQUAL "i686")
+    add_compile_options(-msse2 -mfpmath=sse -mstackrealign)
+endif()
 if(ZV_SANITIZE)
     add_compile_options(-fsanitize=${ZV_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${ZV_SANITIZE})
