@@ -1,9 +1,13 @@
+#include <fcntl.h>
 #include <log4cxx/logger.h>
 #include <log4cxx/propertyconfigurator.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <memory>
 
 #include "zvBenchmark.h"
 #include "zvBenchmarkFiles.h"
@@ -52,6 +56,35 @@ std::string ours() {
 )";
 }
 
+// What several processes need that write to one file, and roll it over: one at a time, and a look at what the
+// others have left.
+class SharedFile {
+public:
+    SharedFile() : m_lock(open(zvBenchmarkFiles::path("peer.lock").c_str(), O_CREAT | O_WRONLY, 0600)) {}
+    SharedFile(const SharedFile&) = delete;
+    SharedFile& operator=(const SharedFile&) = delete;
+    ~SharedFile() { close(m_lock); }
+
+    template <class Write>
+    void write(Write write) const {
+        setLock(F_WRLCK);
+        struct stat found {};
+        zvBenchmarkRequire(stat(m_log.c_str(), &found) == 0, "The peer has no log");
+        write();
+        setLock(F_UNLCK);
+    }
+
+private:
+    void setLock(short type) const {
+        struct flock whole {};
+        whole.l_type = type;
+        zvBenchmarkRequire(fcntl(m_lock, F_SETLKW, &whole) == 0, "The lock cannot be had");
+    }
+
+    int m_lock;
+    std::string m_log = zvBenchmarkFiles::path("peer.log");
+};
+
 }  // namespace
 
 void zvSilentLogBenchmark() {
@@ -77,8 +110,13 @@ void zvLogBenchmark() {
             zvLogger::getInstance()->logInfo(text, __FILE__, __LINE__);
             return 0;
         })
-        .peer("log4cxx, enabled macro", "1.2", [logger] {
-            LOG4CXX_INFO(logger, message);
+        .peer("log4cxx, enabled macro", "1.2",
+              [logger] {
+                  LOG4CXX_INFO(logger, message);
+                  return 0;
+              })
+        .floor("log4cxx, one process at a time", [logger, shared = std::make_shared<SharedFile>()] {
+            shared->write([&logger] { LOG4CXX_INFO(logger, message); });
             return 0;
         });
 }
