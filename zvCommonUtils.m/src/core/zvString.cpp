@@ -115,7 +115,7 @@ char* narrowed(const wchar16* text, int length, int& bytes) {
         return narrow;
     }
     const std::size_t needed = zvTextCodec::narrowLength(text, units);
-    if (needed == zvTextCodec::unconvertible || needed > longestText) {
+    if (needed > longestText) {  // as `unconvertible` is
         return nullptr;
     }
     char* const narrow = allocate<char>(needed + 1);
