@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "zvPlatform.h"
+#include "zvTextCodec.h"
 
 using log4cxx::LoggerPtr;
 using log4cxx::LogString;
@@ -23,8 +24,7 @@ namespace {
 // ASCII, which nearly every line is, reads the same in every encoding, and log4cxx's decoder takes it one
 // character at a time.
 LogString decode(std::string_view text) {
-    const auto isAscii = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
-    if (std::all_of(text.begin(), text.end(), isAscii)) {
+    if (zvTextCodec::isAscii(text.data(), text.size())) {
         return {text.begin(), text.end()};
     }
     LogString decoded;

@@ -14,16 +14,6 @@ namespace {
 constexpr char32_t lastCharacter = 0x10FFFF;  // some runtimes read bytes as numbers beyond it
 constexpr bool unitsAreWideCharacters = sizeof(wchar_t) == sizeof(wchar16);
 
-// Folded over the whole text rather than left at the first hit, so that it is done many bytes at a time.
-template <typename Character>
-bool isAscii(const Character* text, std::size_t length) {
-    unsigned bits = 0;
-    for (std::size_t i = 0; i < length; ++i) {
-        bits |= static_cast<std::make_unsigned_t<Character>>(text[i]);
-    }
-    return bits < 0x80u;
-}
-
 // Whether the locale's multibyte texts are UTF-8, asked of the runtime by a character that tells.
 bool isUtf8Locale() {
     constexpr char euro[] = "\xE2\x82\xAC";
@@ -62,7 +52,7 @@ bool decodeUtf8(const char* text, Put put) {
         }
         if (lead < 0xF0) {
             const unsigned character = (lead & 0x0Fu) << 12 | tail(1) << 6 | tail(2);
-            if (character < 0x800 || (character & 0xF800u) == 0xD800u) {
+            if (character < 0x800 || zvSurrogate::isAny(static_cast<wchar16>(character))) {
                 return false;
             }
             put(static_cast<wchar16>(character));
@@ -84,7 +74,8 @@ std::size_t encodeUtf8(const wchar16* text, std::size_t length, char* out) {
     const wchar16* const end = text + length;
     char* next = out;
     while (text != end) {
-        char32_t character = *text++;
+        const wchar16 unit = *text++;
+        char32_t character = unit;
         const auto tail = [&character](int shift) {
             return static_cast<char>(0x80u | ((character >> shift) & 0x3Fu));
         };
@@ -95,16 +86,16 @@ std::size_t encodeUtf8(const wchar16* text, std::size_t length, char* out) {
             next[0] = static_cast<char>(0xC0u | character >> 6);
             next[1] = tail(0);
             next += 2;
-        } else if ((character & 0xF800u) != 0xD800u) {
+        } else if (!zvSurrogate::isAny(unit)) {
             next[0] = static_cast<char>(0xE0u | character >> 12);
             next[1] = tail(6);
             next[2] = tail(0);
             next += 3;
         } else {
-            if (text == end || !zvSurrogate::isHigh(text[-1]) || !zvSurrogate::isLow(*text)) {
+            if (text == end || !zvSurrogate::isHigh(unit) || !zvSurrogate::isLow(*text)) {
                 return unconvertible;
             }
-            character = zvSurrogate::join(text[-1], *text);
+            character = zvSurrogate::join(unit, *text);
             ++text;
             next[0] = static_cast<char>(0xF0u | character >> 18);
             next[1] = tail(12);

@@ -2,6 +2,7 @@
 #define ZV_TEXT_CODEC_H
 
 #include <cstddef>
+#include <type_traits>
 
 #include "zvTypes.h"
 
@@ -14,6 +15,17 @@ namespace zvTextCodec {
 
 /// What a measurement answers for a text that has no counterpart on the other side.
 constexpr std::size_t unconvertible = static_cast<std::size_t>(-1);
+
+/// Whether `text` is ASCII, which every encoding has as it stands. Folded over the whole text rather than
+/// left at the first hit, so that it is done many characters at a time.
+template <typename Character>
+bool isAscii(const Character* text, std::size_t length) {
+    unsigned bits = 0;
+    for (std::size_t i = 0; i < length; ++i) {
+        bits |= static_cast<std::make_unsigned_t<Character>>(text[i]);
+    }
+    return bits < 0x80U;
+}
 
 /// Code units that `text` needs, terminator excluded.
 std::size_t wideLength(const char* text);

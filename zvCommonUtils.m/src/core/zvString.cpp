@@ -50,13 +50,8 @@ char toUpperByte(char byte) { return static_cast<char>(std::toupper(static_cast<
 // Whether the locale maps the letters of ASCII among themselves: Turkish ones do not.
 bool foldsAsciiPlainly() { return std::towlower(L'I') == L'i' && std::towupper(L'i') == L'I'; }
 
-// Folded over the whole text, so that it is done many units at a time.
 bool isAscii(const wchar16* text, int length) {
-    unsigned bits = 0;
-    for (int i = 0; i < length; ++i) {
-        bits |= text[i];
-    }
-    return bits < 0x80u;
+    return zvTextCodec::isAscii(text, static_cast<std::size_t>(length));
 }
 
 template <wchar16 First>
@@ -91,39 +86,31 @@ Character* converted(const Character* text, Convert convert) {
     return copy;
 }
 
-// The terminated copy of `count` bytes, or null for none and for `unconvertible`.
-char* narrowCopyOf(const char* bytes, std::size_t count) {
-    char* const copy =
-        count == 0 || count == zvTextCodec::unconvertible ? nullptr : allocate<char>(count + 1);
-    if (copy != nullptr) {
-        *std::copy_n(bytes, count, copy) = '\0';
-    }
-    return copy;
-}
-
 // The narrow form of `length` units, or null; `bytes` is its length.
 char* narrowed(const wchar16* text, int length, int& bytes) {
     bytes = 0;
     const auto units = static_cast<std::size_t>(length);
+    // A usual text is converted once, to be measured and copied, which is faster than measuring it by a
+    // conversion.
     constexpr std::size_t usualSize = 8192;
-    if (units * MB_CUR_MAX <= usualSize) {
-        // Converted once, to be measured and copied, which is faster than measuring it by a conversion.
-        char usual[usualSize];
-        const std::size_t written = zvTextCodec::narrow(text, units, usual);
-        char* const narrow = narrowCopyOf(usual, written);
-        bytes = narrow == nullptr ? 0 : static_cast<int>(written);
-        return narrow;
-    }
-    const std::size_t needed = zvTextCodec::narrowLength(text, units);
-    if (needed > longestText) {  // as `unconvertible` is
+    char usual[usualSize];
+    const bool isUsual = units * MB_CUR_MAX <= usualSize;
+    const std::size_t needed =
+        isUsual ? zvTextCodec::narrow(text, units, usual) : zvTextCodec::narrowLength(text, units);
+    if (needed == 0 || needed > longestText) {  // as `unconvertible` is
         return nullptr;
     }
     char* const narrow = allocate<char>(needed + 1);
-    if (narrow != nullptr) {
-        zvTextCodec::narrow(text, units, narrow);
-        narrow[needed] = '\0';
-        bytes = static_cast<int>(needed);
+    if (narrow == nullptr) {
+        return nullptr;
     }
+    if (isUsual) {
+        std::copy_n(usual, needed, narrow);
+    } else {
+        zvTextCodec::narrow(text, units, narrow);
+    }
+    narrow[needed] = '\0';
+    bytes = static_cast<int>(needed);
     return narrow;
 }
 
