@@ -1,5 +1,6 @@
 #include "zvStringToAttrMap.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -15,7 +16,7 @@ public:
 
     zvStringToAttrMapImpl() = default;
     zvStringToAttrMapImpl(const zvStringToAttrMapImpl& other) : m_attributes(other.m_attributes) {
-        makeSlots(slotsFor(m_attributes.size()));
+        makeSlots(other.m_slots.size());
     }
     zvStringToAttrMapImpl& operator=(const zvStringToAttrMapImpl&) = delete;
 
@@ -31,16 +32,16 @@ public:
             return nullptr;
         }
         Attributes::value_type* const entry = m_slots[slotOf(key)];
-        if (entry == nullptr || entry->first == key) {
-            return entry == nullptr ? nullptr : &entry->second;
+        if (entry == nullptr) {
+            return nullptr;
         }
-        return zvMapFind(m_attributes, key);
+        return entry->first == key ? &entry->second : zvMapFind(m_attributes, key);
     }
 
     // The key is new. Nothing is added unless the slots have room for it as well.
     void add(const zvString& key, const zvAttribute& attribute) {
-        if (slotsFor(m_attributes.size() + 1) > m_slots.size()) {
-            makeSlots(slotsFor(m_attributes.size() + 1) * 2);
+        if ((m_attributes.size() + 1) * slotsOfAnEntry > m_slots.size()) {
+            makeSlots(std::max(fewestSlots, m_slots.size() * 2));
         }
         settle(*m_attributes.emplace(key, attribute).first);
     }
@@ -48,15 +49,9 @@ public:
 private:
     using Slots = std::vector<Attributes::value_type*>;
 
-    // A power of two, wide enough for most entries to have a slot of their own.
-    static std::size_t slotsFor(std::size_t entries) {
-        constexpr std::size_t perEntry = 4;
-        std::size_t slots = entries == 0 ? 0 : 1;
-        while (slots < entries * perEntry) {
-            slots *= 2;
-        }
-        return slots;
-    }
+    // Powers of two: enough for most entries to have a slot of their own.
+    static constexpr std::size_t fewestSlots = 8;
+    static constexpr std::size_t slotsOfAnEntry = 4;
 
     // The 32-bit FNV-1a hash, with the high bits folded into those that tell the slot.
     std::size_t slotOf(const zvString& key) const {
