@@ -11,6 +11,11 @@ zvString fileName(const zvString& path) {
     return delimiter == -1 ? zvString() : path.substr(delimiter + 1, path.size() - delimiter - 1);
 }
 
+std::string_view fileName(std::string_view path) {
+    const std::size_t delimiter = path.find_last_of("/\\");
+    return delimiter == std::string_view::npos ? std::string_view() : path.substr(delimiter + 1);
+}
+
 zvString join(const zvString& folder, const zvString& name) {
     return zvTextBuilder::concat(folder, "\\", name);
 }

@@ -7,6 +7,7 @@
 #include "zvCharString.h"
 #include "zvGatewayHome.h"
 #include "zvLoggerLibrary.h"
+#include "zvPath.h"
 
 zvLogChannel::zvLogChannel(const zvString& name) : m_bReady(false), m_szLoggerName() {
     std::snprintf(m_szLoggerName, sizeof(m_szLoggerName), "%s", zvCharString(name).data());
@@ -46,9 +47,7 @@ void zvLogChannel::forward(LibraryFunction write, const char* message, const cha
     if (!m_bReady) {
         return;
     }
-    const std::string_view path = file == nullptr ? "" : file;
-    const std::size_t delimiter = path.find_last_of("/\\");
-    const std::string_view fileName = delimiter == std::string_view::npos ? "" : path.substr(delimiter + 1);
+    const std::string_view fileName = zvPath::fileName(std::string_view(file == nullptr ? "" : file));
     if (fileName.empty()) {
         write(m_szLoggerName, message, file, line);
         return;
