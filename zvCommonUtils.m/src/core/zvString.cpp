@@ -208,6 +208,13 @@ std::size_t findFirst(View text, View pattern, std::size_t start) {
     return text.find(pattern, start);
 }
 
+// Four units as one number, which orders as they do.
+constexpr int unitsInOrder = 4;
+std::uint64_t inOrder(const wchar16* units) {
+    return std::uint64_t{units[0]} << 48U | std::uint64_t{units[1]} << 32U | std::uint64_t{units[2]} << 16U |
+           std::uint64_t{units[3]};
+}
+
 // First match of `pattern` that lies within start .. end of `text`; -1 as the range end means the last
 // position.
 int findIn(View text, View pattern, int start, int end) {
@@ -513,16 +520,19 @@ bool zvString::equalsIgnoreCase(const zvString& other) const {
 bool zvString::operator<(const zvString& other) const {
     // Maps spend their time here, and a view's own comparison looks at every unit twice.
     const int common = std::min(m_iLength, other.m_iLength);
+    if (common < unitsInOrder) {
+        return viewOf(*this) < viewOf(other);
+    }
     int i = 0;
-    for (constexpr int step = sizeof(std::uint64_t) / sizeof(wchar16); i + step <= common; i += step) {
-        if (std::memcmp(m_pBuffer + i, other.m_pBuffer + i, sizeof(std::uint64_t)) != 0) {
-            break;
-        }
+    while (i + unitsInOrder < common &&
+           std::memcmp(m_pBuffer + i, other.m_pBuffer + i, sizeof(std::uint64_t)) == 0) {
+        i += unitsInOrder;
     }
-    while (i < common && m_pBuffer[i] == other.m_pBuffer[i]) {
-        ++i;
-    }
-    return i < common ? m_pBuffer[i] < other.m_pBuffer[i] : m_iLength < other.m_iLength;
+    // What stands before is equal, so that the last units may be looked at again to make them four.
+    i = std::min(i, common - unitsInOrder);
+    const std::uint64_t left = inOrder(m_pBuffer + i);
+    const std::uint64_t right = inOrder(other.m_pBuffer + i);
+    return left != right ? left < right : m_iLength < other.m_iLength;
 }
 
 bool zvString::operator>(const zvString& other) const { return other < *this; }
@@ -634,10 +644,11 @@ bool zvString::insert(const zvString& s, int pos) {
 }
 
 zvString zvString::substr(int pos, int n) const {
-    if (pos < 0 || pos >= m_iLength) {
-        return {};
+    zvString piece;
+    if (pos >= 0 && pos < m_iLength && n > 0) {
+        piece.assign(m_pBuffer + pos, std::min(n, m_iLength - pos));
     }
-    return {m_pBuffer + pos, std::min(n, m_iLength - pos)};
+    return piece;
 }
 
 void zvString::trim() {
