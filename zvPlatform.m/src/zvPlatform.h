@@ -69,6 +69,8 @@ std::string environment(const char* name);
 void setEnvironment(const char* name, const char* value);
 /// For a program's start: the user's locale, with UTF-8 in the place of a locale that has another encoding.
 void adoptUserLocale();
+/// What the locale has in the place of a number's ".".
+const char* decimalPoint();
 
 /// The number by which the system knows this process.
 unsigned long processId();

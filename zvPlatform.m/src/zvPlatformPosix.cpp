@@ -189,6 +189,8 @@ void adoptUserLocale() {
     }
 }
 
+const char* decimalPoint() { return nl_langinfo(RADIXCHAR); }
+
 unsigned long processId() { return static_cast<unsigned long>(::getpid()); }
 
 std::string programPath() {

@@ -108,6 +108,8 @@ void setEnvironment(const char* name, const char* value) {
 
 void adoptUserLocale() { std::setlocale(LC_ALL, ""); }
 
+const char* decimalPoint() { return std::localeconv()->decimal_point; }
+
 unsigned long processId() { return ::GetCurrentProcessId(); }
 
 std::string programPath() {

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cctype>
 #include <climits>
-#include <clocale>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -15,6 +14,7 @@
 #include <utility>
 
 #include "zvCharString.h"
+#include "zvPlatform.h"
 #include "zvTextCodec.h"
 
 namespace {
@@ -138,7 +138,7 @@ bool readPlainNumber(const wchar16* text, std::size_t length, double& number) {
             return false;
         }
     }
-    if (hasPoint && std::strcmp(std::localeconv()->decimal_point, ".") != 0) {
+    if (hasPoint && std::strcmp(zvPlatform::decimalPoint(), ".") != 0) {
         return false;
     }
     number = static_cast<double>(digits) / powers[decimals];
