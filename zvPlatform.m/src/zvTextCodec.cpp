@@ -69,8 +69,9 @@ bool decodeUtf8(const char* text, Put put) {
     }
 }
 
-// Writes `text` in UTF-8 and returns the bytes written; `unconvertible` when it has a lone surrogate.
-std::size_t encodeUtf8(const wchar16* text, std::size_t length, char* out) {
+// Writes `text` in UTF-8 and returns the bytes written. `lone` stands in for a lone surrogate; when that is 0,
+// a text that has one is `unconvertible`.
+std::size_t encodeUtf8(const wchar16* text, std::size_t length, char* out, char32_t lone) {
     const wchar16* const end = text + length;
     char* next = out;
     while (text != end) {
@@ -82,21 +83,27 @@ std::size_t encodeUtf8(const wchar16* text, std::size_t length, char* out) {
         if (character < 0x80) {
             next[0] = static_cast<char>(character);
             next += 1;
-        } else if (character < 0x800) {
+            continue;
+        }
+        if (character < 0x800) {
             next[0] = static_cast<char>(0xC0u | character >> 6);
             next[1] = tail(0);
             next += 2;
-        } else if (!zvSurrogate::isAny(unit)) {
+            continue;
+        }
+        if (zvSurrogate::isAny(unit)) {
+            const bool isPair = text != end && zvSurrogate::isHigh(unit) && zvSurrogate::isLow(*text);
+            if (!isPair && lone == 0) {
+                return unconvertible;
+            }
+            character = isPair ? zvSurrogate::join(unit, *text++) : lone;
+        }
+        if (character < 0x10000) {
             next[0] = static_cast<char>(0xE0u | character >> 12);
             next[1] = tail(6);
             next[2] = tail(0);
             next += 3;
         } else {
-            if (text == end || !zvSurrogate::isHigh(unit) || !zvSurrogate::isLow(*text)) {
-                return unconvertible;
-            }
-            character = zvSurrogate::join(unit, *text);
-            ++text;
             next[0] = static_cast<char>(0xF0u | character >> 18);
             next[1] = tail(12);
             next[2] = tail(6);
@@ -255,7 +262,7 @@ std::size_t narrow(const wchar16* text, std::size_t length, char* out) {
         return length;
     }
     if (isUtf8Locale()) {
-        return encodeUtf8(text, length, out);
+        return encodeUtf8(text, length, out, 0);
     }
     std::size_t written = 0;
     const bool valid = encode(text, length, [&written, out](const char* bytes, std::size_t count) {
@@ -263,6 +270,11 @@ std::size_t narrow(const wchar16* text, std::size_t length, char* out) {
         written += count;
     });
     return valid ? written : unconvertible;
+}
+
+std::size_t toUtf8(const wchar16* text, std::size_t length, char* out) {
+    constexpr char32_t replacement = 0xFFFD;
+    return encodeUtf8(text, length, out, replacement);
 }
 
 }  // namespace zvTextCodec

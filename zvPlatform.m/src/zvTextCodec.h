@@ -41,6 +41,11 @@ std::size_t narrowLength(const wchar16* text, std::size_t length);
 /// @return the number of bytes written; `unconvertible`, with some written, for a text without a narrow form.
 std::size_t narrow(const wchar16* text, std::size_t length, char* out);
 
+/// Writes UTF-8 whatever the process's locale, three bytes at most for each unit, no terminator. Half a
+/// surrogate pair, which has no UTF-8 form, becomes U+FFFD.
+/// @return the number of bytes written.
+std::size_t toUtf8(const wchar16* text, std::size_t length, char* out);
+
 }  // namespace zvTextCodec
 
 #endif
