@@ -5,7 +5,6 @@
 #include "zvCharString.h"
 #include "zvConfigurationNames.h"
 #include "zvConfigurationPageParts.h"
-#include "zvLifecyclePicture.h"
 
 namespace {
 
@@ -115,9 +114,19 @@ std::string stateRow(const zvCfgLcmState& state) {
                 escaped(state.remoteName()), transitions});
 }
 
+std::string figure(const zvCfgLcmGraph& lifecycle, const std::string& id, const zvLifecyclePicture* picture) {
+    if (picture == nullptr) {
+        return "There is no picture: Graphviz was not there to draw it.\n";
+    }
+    const std::string svg = picture->svg(lifecycle, id);
+    return svg.empty() ? "This lifecycle is too large for a picture.\n"
+                       : svg + zvConfigurationPageParts::legend;
+}
+
 }  // namespace
 
-zvConfigurationPage::zvConfigurationPage(const zvCfgConfigManager& configuration, const std::string& title) {
+zvConfigurationPage::zvConfigurationPage(const zvCfgConfigManager& configuration, const std::string& title,
+                                         const zvLifecyclePicture* picture) {
     const std::string heading = escaped(title.c_str());
     m_html =
         "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\">\n"
@@ -127,7 +136,7 @@ zvConfigurationPage::zvConfigurationPage(const zvCfgConfigManager& configuration
     addObjects(configuration);
     addFiles(configuration);
     addViews(configuration);
-    addLifecycles(configuration);
+    addLifecycles(configuration, picture);
     m_html += std::string("<script>") + zvConfigurationPageParts::script + "</script>\n</body></html>\n";
 }
 
@@ -180,16 +189,13 @@ void zvConfigurationPage::addViews(const zvCfgConfigManager& configuration) {
     m_html += "</table></section>\n";
 }
 
-void zvConfigurationPage::addLifecycles(const zvCfgConfigManager& configuration) {
-    const zvLifecyclePicture picture;
+void zvConfigurationPage::addLifecycles(const zvCfgConfigManager& configuration,
+                                        const zvLifecyclePicture* picture) {
     m_html += openSection("lifecycles", "Lifecycles", configuration.numLifecycles());
     for (int i = 0; i < configuration.numLifecycles(); ++i) {
         const zvCfgLcmGraph& lifecycle = *configuration.getLifecycleAt(i);
-        const std::string svg = picture.svg(lifecycle, "lifecycle" + std::to_string(i));
         m_html += "<article data-group><h3 data-head>" + escaped(lifecycle.getObjectType()) +
-                  "</h3>\n<figure>" +
-                  (svg.empty() ? "This lifecycle is too large for a picture.\n"
-                               : svg + zvConfigurationPageParts::legend) +
+                  "</h3>\n<figure>" + figure(lifecycle, "lifecycle" + std::to_string(i), picture) +
                   "</figure>\n" + openTable({"Index", "Key", "Local name", "Remote name", "Transitions"}) +
                   "<tbody>\n";
         for (int k = 0; k < lifecycle.numStates(); ++k) {

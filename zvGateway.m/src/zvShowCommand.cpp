@@ -42,6 +42,11 @@ zvExitCode zvShowCommand::run() const {
                             "it is the configuration itself"};
     }
     const std::string title = "Mapping configuration" + (system.empty() ? "" : " for " + system);
-    zvReplacedFile::write(page, zvConfigurationPage(configuration, title).html());
+    const std::unique_ptr<zvLifecyclePicture> picture = zvLifecyclePicture::load();
+    if (picture == nullptr) {
+        std::fprintf(stderr,
+                     "zvgateway: lifecycles have no pictures: zvGraphvizPicture.so cannot be loaded\n");
+    }
+    zvReplacedFile::write(page, zvConfigurationPage(configuration, title, picture.get()).html());
     return zvExitCode::success;
 }

@@ -6,6 +6,7 @@
 #include "zvAccessFault.h"
 #include "zvCommonUtils.h"
 #include "zvConsole.h"
+#include "zvDeliveredFile.h"
 #include "zvException.h"
 #include "zvFSClient.h"
 #include "zvFSClientUtil.h"
@@ -20,22 +21,15 @@ constexpr char name[] = "file transfer";
 // From here on a person wants to know what is going on before the file is there.
 constexpr zvInt64 largeFile = 16'000'000;
 
-// The delivered Java client, from where the program is: as installed, and as built.
-constexpr const char* clientJars[] = {"../" ZV_DATA_FOLDER "/zvFileServerClient.jar",
-                                      "../zvFileServerClient.j/zvFileServerClient.jar"};
-
-// A site's own client, on CLASSPATH, comes first.
+// The delivered Java client, unless the site has one of its own on CLASSPATH.
 void offerClient() {
     if (!zvPlatform::environment("CLASSPATH").empty()) {
         return;
     }
-    const fs::path folder = fs::path(zvPlatform::programPath()).parent_path();
-    for (const char* const jar : clientJars) {
-        std::error_code ignored;
-        if (fs::exists(folder / jar, ignored)) {
-            zvPlatform::setEnvironment("CLASSPATH", fs::canonical(folder / jar, ignored).string().c_str());
-            return;
-        }
+    const std::string jar = zvDeliveredFile("../" ZV_DATA_FOLDER "/zvFileServerClient.jar",
+                                            "../zvFileServerClient.j/zvFileServerClient.jar");
+    if (!jar.empty()) {
+        zvPlatform::setEnvironment("CLASSPATH", jar.c_str());
     }
 }
 
