@@ -31,9 +31,9 @@ public:
     const zvBenchmarkRow& peer(const std::string& name, const std::string& wanted, Work work) const {
         return add(name + '|' + wanted, work);
     }
-    /// What is left of the work when everything of the library's own is taken away: no ratio is wanted.
+    /// What tells how near the library is to what can be had: no ratio is wanted.
     template <class Work>
-    const zvBenchmarkRow& floor(const std::string& name, Work work) const {
+    const zvBenchmarkRow& alongside(const std::string& name, Work work) const {
         return peer(name, "", work);
     }
 

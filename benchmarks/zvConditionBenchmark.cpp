@@ -4,6 +4,8 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <unordered_map>
 #include <variant>
 
 #include "zvBenchmark.h"
@@ -36,17 +38,20 @@ constexpr char typedScript[] =
 
 using Value = std::variant<int, float, bool, std::u16string>;
 using Attributes = std::map<std::u16string, Value, std::less<>>;
+using HashedAttributes = std::unordered_map<std::u16string_view, Value>;
 
 struct Context {
     zvCndContext ours;
     Attributes byHand;
+    HashedAttributes hashed;  // by the names in `byHand`
     std::shared_ptr<lua_State> lua{luaL_newstate(), lua_close};
 
     void add(int number, const zvValue& value, const Value& sameByHand) {
         const std::string name = "a" + std::to_string(number);
         zvAttribute attribute(name.c_str(), value);
         ours.addAttribute(attribute);
-        byHand.emplace(std::u16string(name.begin(), name.end()), sameByHand);
+        const auto added = byHand.emplace(std::u16string(name.begin(), name.end()), sameByHand).first;
+        hashed.emplace(added->first, sameByHand);
         lua_setglobal(lua.get(), name.c_str());
     }
     void add(int number, int value) {
@@ -67,31 +72,34 @@ struct Context {
     }
 };
 
-Context texts() {
-    Context context;
+using ContextPtr = std::shared_ptr<Context>;
+
+ContextPtr texts() {
+    auto context = std::make_shared<Context>();
     for (int i = 0; i < attributeCount; ++i) {
-        context.add(i, "value " + std::to_string(i));
+        context->add(i, "value " + std::to_string(i));
     }
     return context;
 }
 
-Context typed() {
-    Context context;
+ContextPtr typed() {
+    auto context = std::make_shared<Context>();
     for (int i = 0; i < attributeCount; i += 4) {
-        context.add(i, i);
-        context.add(i + 1, static_cast<float>(i) + 1.25F);
-        context.add(i + 2, true);
-        context.add(i + 3, "value " + std::to_string(i + 3));
+        context->add(i, i);
+        context->add(i + 1, static_cast<float>(i) + 1.25F);
+        context->add(i + 2, true);
+        context->add(i + 3, "value " + std::to_string(i + 3));
     }
     return context;
 }
 
-template <class Type>
-const Type& get(const Attributes& attributes, std::u16string_view name) {
+template <class Type, class Map>
+const Type& get(const Map& attributes, std::u16string_view name) {
     return std::get<Type>(attributes.find(name)->second);
 }
 
-bool textRuleByHand(const Attributes& all) {
+template <class Map>
+bool textRuleByHand(const Map& all) {
     const auto is = [&all](std::u16string_view name, std::u16string_view value) {
         return get<std::u16string>(all, name) == value;
     };
@@ -100,7 +108,8 @@ bool textRuleByHand(const Attributes& all) {
            (is(u"a13", u"none") || is(u"a15", u"value 15"));
 }
 
-bool typedRuleByHand(const Attributes& all) {
+template <class Map>
+bool typedRuleByHand(const Map& all) {
     return get<int>(all, u"a0") <= 10 && get<int>(all, u"a4") >= 4 && get<int>(all, u"a8") < 100 &&
            get<float>(all, u"a1") > 0.5F && get<float>(all, u"a5") <= 7.25F && get<bool>(all, u"a2") &&
            (get<std::u16string>(all, u"a3") == u"none" || get<std::u16string>(all, u"a7") == u"value 7");
@@ -126,32 +135,34 @@ void parse() {
         });
 }
 
-void evaluate(const std::string& what, const Context& context, const char* rule, const char* script,
-              bool (*byHand)(const Attributes&)) {
-    lua_State* const lua = context.lua.get();
+void evaluate(const std::string& what, const ContextPtr& context, const char* rule, const char* script,
+              bool (*byHand)(const Attributes&), bool (*byHandHashed)(const HashedAttributes&)) {
+    lua_State* const lua = context->lua.get();
     luaL_loadstring(lua, script);
     const int chunk = luaL_ref(lua, LUA_REGISTRYINDEX);
     const zvCndCondition condition = zvCndParsingUtils::createConditionStructure(rule);
-    const auto ours = [condition, context] { return condition->evaluate(context.ours); };
-    const auto hand = [byHand, context] { return byHand(context.byHand); };
+    const auto ours = [condition, context] { return condition->evaluate(context->ours); };
+    const auto hand = [byHand, context] { return byHand(context->byHand); };
+    const auto hashed = [byHandHashed, context] { return byHandHashed(context->hashed); };
     const auto compiled = [context, chunk] {
-        lua_rawgeti(context.lua.get(), LUA_REGISTRYINDEX, chunk);
-        lua_call(context.lua.get(), 0, 1);
-        const bool answer = lua_toboolean(context.lua.get(), -1) != 0;
-        lua_pop(context.lua.get(), 1);
+        lua_rawgeti(context->lua.get(), LUA_REGISTRYINDEX, chunk);
+        lua_call(context->lua.get(), 0, 1);
+        const bool answer = lua_toboolean(context->lua.get(), -1) != 0;
+        lua_pop(context->lua.get(), 1);
         return answer;
     };
-    zvBenchmarkRequire(ours() && hand() && compiled(), "The rules' answers differ");
+    zvBenchmarkRequire(ours() && hand() && hashed() && compiled(), "The rules' answers differ");
     zvBenchmarkRow("evaluate it over 20 attributes, " + what)
         .ours(ours)
         .peer("by hand, std::map and std::variant", "2.0", hand)
-        .peer("Lua, compiled chunk", "0.5", compiled);
+        .peer("Lua, compiled chunk", "0.5", compiled)
+        .alongside("by hand, std::unordered_map and std::variant", hashed);
 }
 
 }  // namespace
 
 void zvConditionBenchmark() {
     parse();
-    evaluate("texts", texts(), textRule, textScript, textRuleByHand);
-    evaluate("typed", typed(), typedRule, typedScript, typedRuleByHand);
+    evaluate("texts", texts(), textRule, textScript, textRuleByHand, textRuleByHand);
+    evaluate("typed", typed(), typedRule, typedScript, typedRuleByHand, typedRuleByHand);
 }
