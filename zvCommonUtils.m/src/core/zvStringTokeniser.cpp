@@ -1,5 +1,6 @@
 #include "zvStringTokeniser.h"
 
+#include <algorithm>
 #include <string_view>
 
 namespace {
@@ -10,9 +11,9 @@ constexpr std::size_t npos = View::npos;
 
 View viewOf(const zvString& text) { return {text.data(), static_cast<std::size_t>(text.size())}; }
 
-void addToken(zvStringList& tokens, View text, std::size_t begin, std::size_t end) {
-    const View token = text.substr(begin, end == npos ? npos : end - begin);
-    tokens.addString(zvString(token.data(), static_cast<int>(token.size())));
+void addToken(zvStringList& tokens, const zvString& source, std::size_t begin, std::size_t end) {
+    const std::size_t last = std::min(end, static_cast<std::size_t>(source.size()));
+    tokens.addString(source.substr(static_cast<int>(begin), static_cast<int>(last - begin)));
 }
 
 }  // namespace
@@ -49,7 +50,7 @@ void zvStringTokeniser::tokeniseWithCharDelimiter() {
     std::size_t start = text.find_first_not_of(delimiter);
     while (start != npos) {
         std::size_t end = text.find(delimiter, start);
-        addToken(m_tokens, text, start, end);
+        addToken(m_tokens, m_strSource, start, end);
         if (end == npos) {
             return;
         }
@@ -67,7 +68,7 @@ void zvStringTokeniser::tokeniseWithStringDelimiter() {
     for (std::size_t start = text.find_first_not_of(delimiters); start != npos;
          start = end == npos ? npos : text.find_first_not_of(delimiters, end)) {
         end = text.find_first_of(delimiters, start);
-        addToken(m_tokens, text, start, end);
+        addToken(m_tokens, m_strSource, start, end);
     }
 }
 
@@ -78,7 +79,7 @@ void zvStringTokeniser::tokeniseWithStringAsWholeDelimiter() {
     while (start != npos && start < text.size()) {
         const std::size_t end = delimiter.empty() ? npos : text.find(delimiter, start);
         if (end != start) {
-            addToken(m_tokens, text, start, end);
+            addToken(m_tokens, m_strSource, start, end);
         }
         start = end == npos ? npos : end + delimiter.size();
     }
