@@ -18,9 +18,9 @@ struct FreeEscaped {
 
 // In pieces, since libcurl refuses a long text; a text without bytes has none, which libcurl would take for a
 // text of unknown length.
-void appendEscaped(std::string& body, const zvString& text) {
+void appendEscaped(std::string& body, const zvString& text, std::string& buffer) {
     constexpr std::size_t longestPiece = 1'000'000;
-    const std::string bytes = zvUtf8::encode(text);
+    const std::string_view bytes = zvUtf8::encode(text, buffer);
     for (std::size_t from = 0; from < bytes.size(); from += longestPiece) {
         const std::size_t length = std::min(longestPiece, bytes.size() - from);
         const std::unique_ptr<char, FreeEscaped> escaped(
@@ -36,13 +36,14 @@ void appendEscaped(std::string& body, const zvString& text) {
 
 zvFormBody::zvFormBody(const zvEventArguments& args) {
     const bool isShown = zvLogSink::isReady();
+    std::string buffer;
     int left = args.numEventArguments();
     args.forEach([&](const zvString& name, const zvString& value) {
         const std::size_t begin = m_strSent.size();
-        appendEscaped(m_strSent, name);
+        appendEscaped(m_strSent, name, buffer);
         const std::size_t separator = m_strSent.size();
         m_strSent += '=';
-        appendEscaped(m_strSent, value);
+        appendEscaped(m_strSent, value, buffer);
         if (--left > 0) {
             m_strSent += '&';
         }
