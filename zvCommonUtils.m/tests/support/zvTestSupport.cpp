@@ -3,11 +3,35 @@
 #include <fstream>
 #include <iterator>
 #include <random>
+#include <set>
 
 #include "zvCharString.h"
 #include "zvLogger.h"
 #include "zvPlatform.h"
 #include "zvRecordingLogger.h"
+
+namespace {
+
+void removeFolder(const std::filesystem::path& folder) {
+    std::error_code ignored;
+    std::filesystem::remove_all(folder, ignored);
+}
+
+// A process that a test ends by exit() destroys no folder but those in here.
+struct OpenFolders {
+    OpenFolders() = default;
+    OpenFolders(const OpenFolders&) = delete;
+    OpenFolders& operator=(const OpenFolders&) = delete;
+    ~OpenFolders() {
+        for (const auto& path : paths) {
+            removeFolder(path);
+        }
+    }
+
+    std::set<std::filesystem::path> paths;
+} openFolders;
+
+}  // namespace
 
 bool localeIsUtf8() { return narrow(u"\u00E4") == "\xC3\xA4"; }
 
@@ -20,11 +44,12 @@ zvTemporaryFolder::zvTemporaryFolder() {
     do {
         m_path = std::filesystem::temp_directory_path() / ("zvTest-" + std::to_string(random()));
     } while (!std::filesystem::create_directory(m_path));
+    openFolders.paths.insert(m_path);
 }
 
 zvTemporaryFolder::~zvTemporaryFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(m_path, ignored);
+    removeFolder(m_path);
+    openFolders.paths.erase(m_path);
 }
 
 std::string zvTemporaryFolder::file(const std::string& name) const {
