@@ -69,8 +69,8 @@ bool decodeUtf8(const char* text, Put put) {
     }
 }
 
-// Writes `text` in UTF-8 and returns the bytes written. `lone` stands in for a lone surrogate; when that is 0,
-// a text that has one is `unconvertible`.
+// Writes `text` in UTF-8 and returns the bytes written. `lone` stands in for a lone surrogate; when that is
+// 0, a text that has one is `unconvertible`.
 std::size_t encodeUtf8(const wchar16* text, std::size_t length, char* out, char32_t lone) {
     const wchar16* const end = text + length;
     char* next = out;
