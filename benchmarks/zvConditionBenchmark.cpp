@@ -46,7 +46,7 @@ struct Context {
     zvCndContext ours;
     Attributes byHand;
     HashedAttributes hashed;  // by the names in `byHand`
-    std::shared_ptr<lua_State> lua{luaL_newstate(), lua_close};
+    std::unique_ptr<lua_State, void (*)(lua_State*)> lua{luaL_newstate(), lua_close};
 
     void add(int number, const zvValue& value, const Value& sameByHand) {
         const std::string name = "a" + std::to_string(number);

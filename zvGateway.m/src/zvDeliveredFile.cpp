@@ -8,12 +8,12 @@
 namespace fs = std::filesystem;
 
 std::string zvDeliveredFile(const char* installed, const char* built) {
-    const fs::path folder = fs::path(zvPlatform::programPath()).parent_path();
+    const fs::path folder = zvPlatform::pathOf(zvPlatform::programPath()).parent_path();
     for (const char* const file : {installed, built}) {
         std::error_code error;
         const fs::path path = fs::canonical(folder / file, error);
         if (!error) {
-            return path.string();
+            return zvPlatform::textOf(path);
         }
     }
     return {};
