@@ -109,8 +109,8 @@ void zvHttpUtils::readTimeouts() {
     const zvString path = zvGatewayHome::configFile(home, "client-config.ini");
     zvProperties properties;
     if (zvDirFileUtils::isAccessible(path, zvPlatform::existence) && properties.parse(path).isOk()) {
-        readSeconds(properties, "http-connect-timeout", m_lConnectSeconds);
-        readSeconds(properties, "http-stall-timeout", m_lStallSeconds);
+        readSeconds(properties, "http-connect-timeout", m_connectSeconds);
+        readSeconds(properties, "http-stall-timeout", m_stallSeconds);
     }
 }
 
@@ -150,9 +150,9 @@ zvResult zvHttpUtils::post(const zvString& url, const zvEventArguments& args,
     setSink(transfer, sink);
     // Certificates are verified and redirections not followed unless libcurl is told otherwise.
     transfer.set(CURLOPT_PROTOCOLS_STR, "http,https");
-    transfer.set(CURLOPT_CONNECTTIMEOUT, m_lConnectSeconds);
+    transfer.set(CURLOPT_CONNECTTIMEOUT, m_connectSeconds);
     transfer.set(CURLOPT_LOW_SPEED_LIMIT, 1L);
-    transfer.set(CURLOPT_LOW_SPEED_TIME, m_lStallSeconds);
+    transfer.set(CURLOPT_LOW_SPEED_TIME, m_stallSeconds);
     transfer.set(CURLOPT_NOSIGNAL, 1L);
     const CURLcode code = transfer.perform();
     return outcome(code, transfer.status());

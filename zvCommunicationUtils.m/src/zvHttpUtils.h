@@ -24,8 +24,8 @@ private:
 
     // Copies share it: libcurl, once initialised, is cleaned up behind the last of them.
     std::shared_ptr<void> m_pLibrary;
-    long m_lConnectSeconds = 30;
-    long m_lStallSeconds = 60;
+    long m_connectSeconds = 30;
+    long m_stallSeconds = 60;
 };
 
 #endif

@@ -62,8 +62,8 @@ private:
 class LoopbackServer {
 public:
     explicit LoopbackServer(std::unique_ptr<httplib::Server> server = std::make_unique<httplib::Server>())
-        : m_pServer(std::move(server)), m_iPort(m_pServer->bind_to_any_port("127.0.0.1")) {
-        if (m_iPort < 0) {
+        : m_pServer(std::move(server)), m_port(m_pServer->bind_to_any_port("127.0.0.1")) {
+        if (m_port < 0) {
             throw std::runtime_error("no port on the loopback interface");
         }
         // A busy machine is no reason to give a test's client up.
@@ -71,7 +71,7 @@ public:
         m_pServer->set_write_timeout(std::chrono::minutes(1));
         m_pServer->Post(R"(/(\d+))", [this](const httplib::Request& request, httplib::Response& response,
                                             const httplib::ContentReader& read) {
-            ++m_iRequests;
+            ++m_requests;
             m_strBody.clear();
             read([this](const char* data, std::size_t size) {
                 m_strBody.append(data, size);
@@ -95,17 +95,17 @@ public:
     }
 
     zvString url(const std::string& path = "/200", const std::string& scheme = "http") const {
-        return (scheme + "://127.0.0.1:" + std::to_string(m_iPort) + path).c_str();
+        return (scheme + "://127.0.0.1:" + std::to_string(m_port) + path).c_str();
     }
 
     std::function<void(httplib::Response&)> m_answer = [](httplib::Response&) {};
-    int m_iRequests = 0;
+    int m_requests = 0;
     std::string m_strBody;
     std::string m_strContentType;
 
 private:
     std::unique_ptr<httplib::Server> m_pServer;
-    int m_iPort;
+    int m_port;
     std::thread m_thread;
 };
 
@@ -192,7 +192,7 @@ TEST_F(zvCommunicationUtilsTest, AnswersAreReportedByTheirStatus) {
     for (const auto& [path, outcome] : cases) {
         EXPECT_EQ(request(server.url(path)), outcome);
     }
-    EXPECT_EQ(server.m_iRequests, 7) << "a redirection was followed";
+    EXPECT_EQ(server.m_requests, 7) << "a redirection was followed";
     EXPECT_EQ(server.m_strContentType, "application/x-www-form-urlencoded");
     EXPECT_EQ(lines("error"), (std::vector<std::string>{
                                   "Following error occured while sending the request : HTTP status 400",
@@ -373,7 +373,7 @@ TEST_F(zvCommunicationUtilsTest, ACertificateThatNobodyVouchesForIsRefused) {
     }
     LoopbackServer server(std::move(selfSigned));
     EXPECT_EQ(request(server.url("/200", "https")), "-1|SSL peer certificate or SSH remote key was not OK|");
-    EXPECT_EQ(server.m_iRequests, 0);
+    EXPECT_EQ(server.m_requests, 0);
 }
 
 TEST_F(zvCommunicationUtilsTest, AServerThatHangsUpIsAFailure) {

@@ -5,7 +5,7 @@
 zvCndOperand::zvCndOperand() = default;
 
 zvCndOperand::zvCndOperand(zvString&& text, zvOperandValueTypeEnum valueType)
-    : m_value(std::move(text)), m_eValueType(valueType) {}
+    : m_value(std::move(text)), m_valueType(valueType) {}
 
 zvCndOperand::zvCndOperand(const zvCndOperand& other) = default;
 
@@ -19,7 +19,7 @@ void zvCndOperand::setValue(const zvValue& value) { m_value = value; }
 
 void zvCndOperand::setText(zvString&& text, zvOperandValueTypeEnum valueType) {
     m_value.setStrValue(std::move(text));
-    m_eValueType = valueType;
+    m_valueType = valueType;
 }
 
 // Numbers, dates and booleans always have a text form, which need not be made to know that.

@@ -24,8 +24,8 @@ public:
 
     zvValue getValue() const { return m_value; }
     void setValue(const zvValue& value);
-    zvOperandValueTypeEnum getValueType() const { return m_eValueType; }
-    void setValueType(const zvOperandValueTypeEnum& valueType) { m_eValueType = valueType; }
+    zvOperandValueTypeEnum getValueType() const { return m_valueType; }
+    void setValueType(const zvOperandValueTypeEnum& valueType) { m_valueType = valueType; }
 
     /// Becomes an operand with the String `text`.
     void setText(zvString&& text, zvOperandValueTypeEnum valueType);
@@ -37,7 +37,7 @@ public:
 
 private:
     zvValue m_value;
-    zvOperandValueTypeEnum m_eValueType = zvOperandConstant;
+    zvOperandValueTypeEnum m_valueType = zvOperandConstant;
 };
 
 #endif

@@ -298,7 +298,7 @@ void closeChild(zvTextBuilder& builder, const OpenCondition& parent) {
 /// Reads one condition text, from left to right.
 class zvCndParsingUtils::Reader {
 public:
-    explicit Reader(const zvString& text) : m_text(text), m_pUnits(text.data()), m_iEnd(text.size()) {}
+    explicit Reader(const zvString& text) : m_text(text), m_pUnits(text.data()), m_end(text.size()) {}
 
     zvCndCondition read() {
         try {
@@ -316,10 +316,10 @@ private:
         if (m_text.empty()) {
             logger.raise("Empty condition string received");
         }
-        for (trim(); m_iPosition < m_iEnd; ++m_iPosition) {
+        for (trim(); m_position < m_end; ++m_position) {
             readNext();
         }
-        m_iPosition = m_text.size();
+        m_position = m_text.size();
         applyOperators(m_operators, m_conditions, false);
         if (m_conditions.numConditions() != 1) {
             logger.raise("Invalid condition string, check the usage of operators");
@@ -328,17 +328,17 @@ private:
     }
 
     void trim() {
-        while (m_iEnd > 0 && std::iswspace(m_pUnits[m_iEnd - 1]) != 0) {
-            --m_iEnd;
+        while (m_end > 0 && std::iswspace(m_pUnits[m_end - 1]) != 0) {
+            --m_end;
         }
-        while (m_iPosition < m_iEnd && std::iswspace(m_pUnits[m_iPosition]) != 0) {
-            ++m_iPosition;
+        while (m_position < m_end && std::iswspace(m_pUnits[m_position]) != 0) {
+            ++m_position;
         }
     }
 
     // Leaves the position on the last character that belongs to what begins at it.
     void readNext() {
-        switch (m_pUnits[m_iPosition]) {
+        switch (m_pUnits[m_position]) {
             case u'\'':
                 readConstant();
                 break;
@@ -348,7 +348,7 @@ private:
             case u'}':
                 logger.raise(braceNotOpened);
             case u'(':
-                m_operators.push(nullptr, m_iPosition);
+                m_operators.push(nullptr, m_position);
                 break;
             case u')':
                 closeParenthesis();
@@ -364,8 +364,8 @@ private:
     // Only a backslash without another one before it is left out, whatever that other one meant.
     void readConstant() {
         const auto isSpecial = [](wchar16 unit) { return unit == u'\'' || unit == u'\\'; };
-        const wchar16* const end = m_pUnits + m_iEnd;
-        const wchar16* begin = m_pUnits + m_iPosition + 1;
+        const wchar16* const end = m_pUnits + m_end;
+        const wchar16* begin = m_pUnits + m_position + 1;
         zvTextBuilder builder;
         for (const wchar16* at = std::find_if(begin, end, isSpecial); at != end;
              at = std::find_if(at + 1, end, isSpecial)) {
@@ -387,15 +387,15 @@ private:
     }
 
     void readVariable() {
-        const wchar16* const begin = m_pUnits + m_iPosition + 1;
-        const wchar16* const end = m_pUnits + m_iEnd;
+        const wchar16* const begin = m_pUnits + m_position + 1;
+        const wchar16* const end = m_pUnits + m_end;
         const wchar16* const brace =
             std::find_if(begin, end, [](wchar16 unit) { return unit == u'{' || unit == u'}'; });
         if (brace == end) {
             failOpenOperand();
         }
         if (*brace == u'{') {
-            m_iPosition = positionOf(brace);
+            m_position = positionOf(brace);
             logger.raise("1.Variable Operand syntax error");
         }
         finishOperand(zvString(begin, static_cast<int>(brace - begin)), zvOperandVariable, brace);
@@ -404,8 +404,8 @@ private:
     int positionOf(const wchar16* unit) const { return static_cast<int>(unit - m_pUnits); }
 
     void finishOperand(zvString text, zvOperandValueTypeEnum valueType, const wchar16* last) {
-        m_iPosition = positionOf(last);
-        processComparisonOperands(text, m_leftText, valueType, m_leftOperand, m_ePendingType, m_conditions);
+        m_position = positionOf(last);
+        processComparisonOperands(text, m_leftText, valueType, m_leftOperand, m_pendingType, m_conditions);
     }
 
     [[noreturn]] static void failOpenOperand() {
@@ -420,18 +420,18 @@ private:
     }
 
     void readOperator() {
-        const int end = operatorEnd(m_text, m_iPosition);
-        const zvCndOperator* const made = zvCndOperator::of(m_pUnits + m_iPosition, end - m_iPosition);
+        const int end = operatorEnd(m_text, m_position);
+        const zvCndOperator* const made = zvCndOperator::of(m_pUnits + m_position, end - m_position);
         if (made == nullptr) {
             failOperator();
         }
         if (made->isComparison()) {
-            m_ePendingType = made->type;
+            m_pendingType = made->type;
         } else {
             applyCloserOperators(made->precedence, m_operators, m_conditions);
-            m_operators.push(made, m_iPosition);
+            m_operators.push(made, m_position);
         }
-        m_iPosition = end - 1;
+        m_position = end - 1;
     }
 
     // A word up to a closing brace is a name that lacks its opening one.
@@ -440,10 +440,10 @@ private:
             return unit == u'}' || unit == u'{' || unit == u'\'' || unit == u'(' || unit == u')' ||
                    unit == u' ';
         };
-        const wchar16* const end = m_pUnits + m_iEnd;
-        const wchar16* const wordEnd = std::find_if(m_pUnits + m_iPosition, end, isWordEnd);
+        const wchar16* const end = m_pUnits + m_end;
+        const wchar16* const wordEnd = std::find_if(m_pUnits + m_position, end, isWordEnd);
         if (wordEnd != end && *wordEnd == u'}') {
-            m_iPosition = positionOf(wordEnd);
+            m_position = positionOf(wordEnd);
             logger.raise(braceNotOpened);
         }
         logger.raise("Valid condition operator not found");
@@ -452,17 +452,17 @@ private:
     // At the end of the text, a parenthesis that still waits on top is the one that is never closed.
     int faultPosition() const {
         const bool isUnclosed =
-            m_iPosition == m_text.size() && !m_operators.empty() && m_operators.isParenthesis();
-        return isUnclosed ? m_operators.position() : m_iPosition;
+            m_position == m_text.size() && !m_operators.empty() && m_operators.isParenthesis();
+        return isUnclosed ? m_operators.position() : m_position;
     }
 
     const zvString& m_text;
     const wchar16* m_pUnits;
-    int m_iPosition = 0;
-    int m_iEnd;  // without the white space at the end
+    int m_position = 0;
+    int m_end;  // without the white space at the end
     zvString m_leftText;
     zvCndOperand m_leftOperand;
-    zvCndConditionTypeEnum m_ePendingType = zvCndConditionNone;
+    zvCndConditionTypeEnum m_pendingType = zvCndConditionNone;
     WaitingOperators m_operators;
     zvCndConditionList m_conditions;
 };

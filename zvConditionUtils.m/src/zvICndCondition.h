@@ -30,14 +30,14 @@ public:
     /// Whether the condition holds for the attributes in `context`. Throws the zvException of zvValue when
     /// two values cannot be compared.
     virtual bool evaluate(const zvCndContext& context) const = 0;
-    zvCndConditionTypeEnum getConditionType() const { return m_eConditionType; }
+    zvCndConditionTypeEnum getConditionType() const { return m_conditionType; }
 
 protected:
     /// The types And, Or and Not are for descendants of zvICndLogicalCondition alone.
-    explicit zvICndCondition(zvCndConditionTypeEnum type = zvCndConditionNone) : m_eConditionType(type) {}
+    explicit zvICndCondition(zvCndConditionTypeEnum type = zvCndConditionNone) : m_conditionType(type) {}
 
 private:
-    zvCndConditionTypeEnum m_eConditionType;
+    zvCndConditionTypeEnum m_conditionType;
 };
 
 /// The classes that differ from their base in the type alone.

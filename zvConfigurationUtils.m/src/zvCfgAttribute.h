@@ -22,8 +22,8 @@ public:
     void setLocalName(zvString name) { m_strLocalName.swap(name); }
     zvString getRemoteName() const { return m_strRemoteName; }
     void setRemoteName(zvString name) { m_strRemoteName.swap(name); }
-    zvDataTypeEnum getDataType() const { return m_eDataType; }
-    void setDataType(zvDataTypeEnum type) { m_eDataType = type; }
+    zvDataTypeEnum getDataType() const { return m_dataType; }
+    void setDataType(zvDataTypeEnum type) { m_dataType = type; }
     /// The value to use when none is given.
     zvString getDefaultValue() const { return m_strDefaultValue; }
     void setDefaultValue(zvString value) { m_strDefaultValue.swap(value); }
@@ -40,7 +40,7 @@ private:
     zvString m_strKeyName;
     zvString m_strLocalName;
     zvString m_strRemoteName;
-    zvDataTypeEnum m_eDataType = zvDataTypeNone;
+    zvDataTypeEnum m_dataType = zvDataTypeNone;
     zvString m_strDefaultValue;
 };
 

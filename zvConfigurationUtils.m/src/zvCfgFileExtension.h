@@ -18,14 +18,14 @@ public:
     void setImportAllowed(bool allowed) { m_bImportAllowed = allowed; }
     bool isExportAllowed() const { return m_bExportAllowed; }
     void setExportAllowed(bool allowed) { m_bExportAllowed = allowed; }
-    zvTransferModeEnum getTransferMode() const { return m_eTransferMode; }
-    void setTransferMode(zvTransferModeEnum mode) { m_eTransferMode = mode; }
+    zvTransferModeEnum getTransferMode() const { return m_transferMode; }
+    void setTransferMode(zvTransferModeEnum mode) { m_transferMode = mode; }
 
 private:
     zvString m_strName;
     bool m_bImportAllowed = false;
     bool m_bExportAllowed = false;
-    zvTransferModeEnum m_eTransferMode = zvTransferModeBinary;
+    zvTransferModeEnum m_transferMode = zvTransferModeBinary;
 };
 
 #endif

@@ -18,12 +18,12 @@ public:
     SelectedTransitions(int states, const zvString& selector)
         : m_search(states),
           m_bAll(selector.empty()),
-          m_bAny(m_bAll || zvCfgTransition::typeOf(selector, m_eType)),
+          m_bAny(m_bAll || zvCfgTransition::typeOf(selector, m_type)),
           m_lastFrom{std::vector<int>(static_cast<std::size_t>(states), -1),
                      std::vector<int>(static_cast<std::size_t>(states), -1)} {}
 
     bool wants(const zvCfgTransition& transition) const {
-        return m_bAny && (m_bAll || transition.getType() == m_eType);
+        return m_bAny && (m_bAll || transition.getType() == m_type);
     }
 
     // A transition that a state has twice is one way.
@@ -53,7 +53,7 @@ private:
     };
 
     zvCfgPathSearch m_search;
-    zvCfgTransitionTypeEnum m_eType = zvCfgTransitionPromote;
+    zvCfgTransitionTypeEnum m_type = zvCfgTransitionPromote;
     bool m_bAll;
     bool m_bAny;
     std::vector<int> m_lastFrom[2];  // for each type and state, the last state with such a transition to it

@@ -14,8 +14,8 @@ public:
     ~zvCfgLcmState() override;
 
     /// The state's place in its lifecycle.
-    int getIndex() const { return m_iIndex; }
-    void setIndex(int index) { m_iIndex = index; }
+    int getIndex() const { return m_index; }
+    void setIndex(int index) { m_index = index; }
     /// The local name as long as no key was set.
     zvString getKey() const { return key(); }
     void setKey(zvString key) { m_strKey.swap(key); }
@@ -37,7 +37,7 @@ public:
     const zvCfgTransition* getOutgoingTransition(int i) const;
 
 private:
-    int m_iIndex = 0;
+    int m_index = 0;
     zvString m_strKey;
     zvString m_strLocalName;
     zvString m_strRemoteName;

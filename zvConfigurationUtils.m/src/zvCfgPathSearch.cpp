@@ -12,13 +12,13 @@ class Marks {
 public:
     explicit Marks(std::size_t size) : m_rounds(size, 0) {}
 
-    void clear() { ++m_uRound; }
-    void add(int number) { m_rounds[position(number)] = m_uRound; }
-    bool has(int number) const { return m_rounds[position(number)] == m_uRound; }
+    void clear() { ++m_round; }
+    void add(int number) { m_rounds[position(number)] = m_round; }
+    bool has(int number) const { return m_rounds[position(number)] == m_round; }
 
 private:
     std::vector<std::uint32_t> m_rounds;
-    std::uint32_t m_uRound = 1;
+    std::uint32_t m_round = 1;
 };
 
 // The first of the ways that follow `path` up to its edge number `deviation` and go on by no refused edge.
@@ -39,9 +39,9 @@ class zvCfgPathSearch::Query {
 public:
     Query(const zvCfgPathSearch& graph, int from, int to, std::int64_t maxSteps)
         : m_graph(graph),
-          m_iFrom(from),
-          m_iTarget(to),
-          m_iSteps(maxSteps),
+          m_from(from),
+          m_target(to),
+          m_steps(maxSteps),
           m_visited(graph.m_out.size()),
           m_leading(graph.m_out.size()),
           m_measured(graph.m_out.size()),
@@ -51,10 +51,10 @@ public:
 
     Result run(std::size_t maxPaths) {
         Result result{{}, Outcome::complete};
-        m_visited.add(m_iFrom);
+        m_visited.add(m_from);
         measure(-1);
         std::swap(m_leading, m_measured);
-        findFirst({}, 0, m_iFrom, {});
+        findFirst({}, 0, m_from, {});
         while (!m_candidates.empty() && !isExhausted()) {
             if (result.paths.size() == maxPaths) {
                 result.outcome = Outcome::tooManyPaths;
@@ -76,12 +76,12 @@ private:
     const Edge& edge(int number) const { return m_graph.m_edges[position(number)]; }
     const std::vector<int>& edgesFrom(int node) const { return m_graph.m_out[position(node)]; }
 
-    void spend(std::size_t steps) { m_iSteps -= static_cast<std::int64_t>(steps); }
-    bool isExhausted() const { return m_iSteps < 0; }
+    void spend(std::size_t steps) { m_steps -= static_cast<std::int64_t>(steps); }
+    bool isExhausted() const { return m_steps < 0; }
 
     void split(const Candidate& found) {
         m_visited.clear();
-        int node = m_iFrom;
+        int node = m_from;
         for (std::size_t i = 0; i < found.path.size() && !isExhausted(); ++i) {
             m_visited.add(node);
             if (i >= found.deviation) {
@@ -139,8 +139,8 @@ private:
     // without any.
     int measure(int node) {
         m_measured.clear();
-        m_queue.assign(1, m_iTarget);
-        setDistance(m_iTarget, 0);
+        m_queue.assign(1, m_target);
+        setDistance(m_target, 0);
         for (std::size_t i = 0; i < m_queue.size() && !isExhausted(); ++i) {
             const int current = m_queue[i];
             if (node >= 0 && m_wanted.has(current)) {
@@ -176,9 +176,9 @@ private:
     }
 
     const zvCfgPathSearch& m_graph;
-    int m_iFrom;
-    int m_iTarget;
-    std::int64_t m_iSteps;
+    int m_from;
+    int m_target;
+    std::int64_t m_steps;
     Marks m_visited;   // the nodes of the way that is being followed
     Marks m_leading;   // those from which the target can be reached at all
     Marks m_measured;  // those with a distance

@@ -9,7 +9,7 @@ constexpr const char* typeNames[] = {"Promote", "Demote"};
 }  // namespace
 
 zvCfgTransition::zvCfgTransition(zvCfgTransitionTypeEnum type, const zvString& toState)
-    : m_eType(type), m_strToState(toState) {}
+    : m_type(type), m_strToState(toState) {}
 
 zvCfgTransition::zvCfgTransition(const zvCfgTransition& other) = default;
 

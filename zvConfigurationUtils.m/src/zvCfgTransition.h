@@ -16,7 +16,7 @@ public:
 
     zvCfgTransition& operator=(const zvCfgTransition& other);
 
-    zvCfgTransitionTypeEnum getType() const { return m_eType; }
+    zvCfgTransitionTypeEnum getType() const { return m_type; }
     /// The local name of the state that it leads to.
     zvString getToState() const { return m_strToState; }
     /// The name itself, owned by the transition.
@@ -28,7 +28,7 @@ public:
     static bool typeOf(const zvString& name, zvCfgTransitionTypeEnum& type);
 
 private:
-    zvCfgTransitionTypeEnum m_eType;
+    zvCfgTransitionTypeEnum m_type;
     zvString m_strToState;
 };
 

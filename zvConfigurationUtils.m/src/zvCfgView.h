@@ -18,8 +18,8 @@ public:
     zvString getNetworkName() const { return m_strNetworkName; }
     void setNetworkName(zvString name) { m_strNetworkName.swap(name); }
     /// The view with the lowest index is the default one of its collection.
-    int getIndex() const { return m_iIndex; }
-    void setIndex(int index) { m_iIndex = index; }
+    int getIndex() const { return m_index; }
+    void setIndex(int index) { m_index = index; }
     zvString getLocalName() const { return m_strLocalName; }
     void setLocalName(zvString name) { m_strLocalName.swap(name); }
     zvString getRemoteName() const { return m_strRemoteName; }
@@ -27,7 +27,7 @@ public:
 
 private:
     zvString m_strNetworkName;
-    int m_iIndex = 0;
+    int m_index = 0;
     zvString m_strLocalName;
     zvString m_strRemoteName;
 };

@@ -19,7 +19,7 @@ public:
 
     void add(int from, int to) {
         m_search.addEdge(from, to);
-        m_out[static_cast<std::size_t>(from)].emplace_back(m_iEdges++, to);
+        m_out[static_cast<std::size_t>(from)].emplace_back(m_edges++, to);
     }
     void addBothWays(int from, int to) {
         add(from, to);
@@ -68,7 +68,7 @@ private:
 
     zvCfgPathSearch m_search;
     std::vector<std::vector<std::pair<int, int>>> m_out;
-    int m_iEdges = 0;
+    int m_edges = 0;
 };
 
 TEST(zvCfgPathSearch, FindsEveryWayInOrder) {

@@ -6,7 +6,7 @@
 #include "zvTypedText.h"
 
 zvObjectMapping::zvObjectMapping(Direction direction, Values values)
-    : m_eDirection(direction), m_values(std::move(values)) {}
+    : m_direction(direction), m_values(std::move(values)) {}
 
 bool zvObjectMapping::map(const zvCfgObjectList* candidates) {
     const int count = candidates == nullptr ? 0 : candidates->size();
@@ -69,9 +69,9 @@ void zvObjectMapping::carry(const zvCfgObject& object) {
 }
 
 const zvString& zvObjectMapping::sourceName(const zvCfgAttribute& attribute) const {
-    return m_eDirection == Direction::localToRemote ? attribute.localName() : attribute.remoteName();
+    return m_direction == Direction::localToRemote ? attribute.localName() : attribute.remoteName();
 }
 
 const zvString& zvObjectMapping::targetName(const zvCfgAttribute& attribute) const {
-    return m_eDirection == Direction::localToRemote ? attribute.remoteName() : attribute.localName();
+    return m_direction == Direction::localToRemote ? attribute.remoteName() : attribute.localName();
 }

@@ -46,7 +46,7 @@ private:
     const zvString& sourceName(const zvCfgAttribute& attribute) const;
     const zvString& targetName(const zvCfgAttribute& attribute) const;
 
-    Direction m_eDirection;
+    Direction m_direction;
     Values m_values;
     const zvCfgObject* m_pObject = nullptr;
     std::vector<Attribute> m_attributes;

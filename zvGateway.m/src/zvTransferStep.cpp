@@ -112,7 +112,7 @@ zvStepOutcome zvTransferStep::send(const zvString& configuration) {
         // The event may be run again to remove them.
         zvConsole::fact("warning", zvConsole::printable(notRemoved));
     }
-    return zvStepOutcome::done(zvConsole::counted(m_lSentFiles, "file") + ", " + sizeText(m_lSentBytes));
+    return zvStepOutcome::done(zvConsole::counted(m_sentFiles, "file") + ", " + sizeText(m_sentBytes));
 }
 
 void zvTransferStep::require(const zvResult& result) {
@@ -142,8 +142,8 @@ void zvTransferStep::fileTransferred(const zvString& local, zvInt64 bytes, zvInt
     m_event.progress->setArrived(local);
     m_event.progress
         ->requireWritten();  // or the files that have to be deleted would go, and nobody would know
-    ++m_lSentFiles;
-    m_lSentBytes += bytes;
+    ++m_sentFiles;
+    m_sentBytes += bytes;
     const std::string path = zvConsole::printablePath(local);
     zvConsole::fact("sent",
                     path + ", " + sizeText(bytes) + ", " +

@@ -27,8 +27,8 @@ private:
 
     zvRoadEvent& m_event;
     zvRoadReport& m_report;
-    zvInt64 m_lSentBytes = 0;
-    int m_lSentFiles = 0;
+    zvInt64 m_sentBytes = 0;
+    int m_sentFiles = 0;
 };
 
 #endif

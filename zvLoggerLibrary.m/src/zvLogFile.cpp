@@ -32,13 +32,13 @@ void zvLogFile::catchUp() {
     } else if (m_pRolling != nullptr) {
         m_pRolling->incrementFileLength(static_cast<std::size_t>(found.size) - m_pRolling->getFileLength());
     }
-    m_uLength = m_pRolling == nullptr ? 0 : m_pRolling->getFileLength();
+    m_length = m_pRolling == nullptr ? 0 : m_pRolling->getFileLength();
 }
 
 // A file that was rolled over is shorter; one that is not found out so is opened once more before the next
 // line.
 void zvLogFile::remember() {
-    if (m_pRolling != nullptr && m_pRolling->getFileLength() < m_uLength) {
+    if (m_pRolling != nullptr && m_pRolling->getFileLength() < m_length) {
         look(m_own);
     }
 }

@@ -33,7 +33,7 @@ private:
         m_pRolling;  // null for a file that is never rolled over
     std::string m_path;
     apr_finfo_t m_own{};
-    std::size_t m_uLength = 0;  // when a line was about to be written
+    std::size_t m_length = 0;  // when a line was about to be written
 };
 
 #endif

@@ -37,7 +37,7 @@ struct Place {
 
 }  // namespace
 
-zvDOMErrorHandler::zvDOMErrorHandler() : m_result(0), m_iCollected(0) {}
+zvDOMErrorHandler::zvDOMErrorHandler() : m_result(0), m_collected(0) {}
 zvDOMErrorHandler::~zvDOMErrorHandler() = default;
 
 bool zvDOMErrorHandler::handleError(const DOMError& error) {
@@ -56,8 +56,8 @@ bool zvDOMErrorHandler::handleError(const DOMError& error) {
             ", Node name = ", place.nodeName, ", Node value = ", place.nodeValue,
             ", Error line number = ", place.line, ", Error column number = ", place.column, ".\"");
         m_errors.addString(line);
-        m_iCollected += line.size();
-        goOn = m_iCollected < mostCollected;
+        m_collected += line.size();
+        goOn = m_collected < mostCollected;
     }
     logger.info("End: zvDOMErrorHandler::handleError");
     return goOn;

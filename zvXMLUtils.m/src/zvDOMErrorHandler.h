@@ -27,7 +27,7 @@ public:
 private:
     zvResult m_result;
     zvStringList m_errors;
-    int m_iCollected;  // code units in m_errors
+    int m_collected;  // code units in m_errors
 };
 
 #endif

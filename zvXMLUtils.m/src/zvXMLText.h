@@ -25,15 +25,15 @@ inline void assign(zvString& out, const XMLCh* text) { out = text; }
 class zvXMLChars {
 public:
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): most of the inline buffer is never looked at
-    explicit zvXMLChars(const zvString& text) : m_uLength(static_cast<std::size_t>(text.size())) {
-        if (m_uLength >= inlineCapacity) {
-            m_pHeap = std::make_unique<XMLCh[]>(m_uLength + 1);
+    explicit zvXMLChars(const zvString& text) : m_length(static_cast<std::size_t>(text.size())) {
+        if (m_length >= inlineCapacity) {
+            m_pHeap = std::make_unique<XMLCh[]>(m_length + 1);
         }
         XMLCh* const out = m_pHeap == nullptr ? m_inline : m_pHeap.get();
-        if (m_uLength > 0) {
-            std::memcpy(out, text.data(), m_uLength * sizeof(XMLCh));
+        if (m_length > 0) {
+            std::memcpy(out, text.data(), m_length * sizeof(XMLCh));
         }
-        out[m_uLength] = 0;
+        out[m_length] = 0;
     }
     zvXMLChars(const zvXMLChars&) = delete;
     zvXMLChars& operator=(const zvXMLChars&) = delete;
@@ -45,9 +45,9 @@ public:
 private:
     static constexpr std::size_t inlineCapacity = 64;  // names fit, so that a query does not allocate
 
-    std::u16string_view view() const { return {get(), m_uLength}; }
+    std::u16string_view view() const { return {get(), m_length}; }
 
-    std::size_t m_uLength;
+    std::size_t m_length;
     std::unique_ptr<XMLCh[]> m_pHeap;
     XMLCh m_inline[inlineCapacity];
 };

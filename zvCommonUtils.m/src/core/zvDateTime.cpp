@@ -45,8 +45,8 @@ struct zvDateTime::Field {
 
 const zvDateTime::Field* zvDateTime::fieldOf(wchar16 letter) {
     static constexpr Field fields[fieldCount] = {
-        {u'D', 3, &zvDateTime::m_sDay},  {u'M', 3, &zvDateTime::m_sMonth},  {u'Y', 5, &zvDateTime::m_sYear},
-        {u'h', 3, &zvDateTime::m_sHour}, {u'm', 3, &zvDateTime::m_sMinute}, {u's', 3, &zvDateTime::m_sSecond},
+        {u'D', 3, &zvDateTime::m_day},  {u'M', 3, &zvDateTime::m_month},  {u'Y', 5, &zvDateTime::m_year},
+        {u'h', 3, &zvDateTime::m_hour}, {u'm', 3, &zvDateTime::m_minute}, {u's', 3, &zvDateTime::m_second},
     };
     for (const Field& field : fields) {
         if (field.letter == letter) {
@@ -61,7 +61,7 @@ zvDateTime::zvDateTime() = default;
 zvDateTime::zvDateTime(const zvString& format) { setFormat(format); }
 
 zvDateTime::zvDateTime(short year, short month, short day, short hour, short minute, short second)
-    : m_sYear(year), m_sMonth(month), m_sDay(day), m_sHour(hour), m_sMinute(minute), m_sSecond(second) {}
+    : m_year(year), m_month(month), m_day(day), m_hour(hour), m_minute(minute), m_second(second) {}
 
 zvDateTime::zvDateTime(zvInt64 seconds) : zvDateTime() { setDateTimeInSeconds(seconds); }
 
@@ -77,12 +77,12 @@ zvDateTime& zvDateTime::operator=(const zvDateTime& other) {
 }
 
 void zvDateTime::copy(const zvDateTime& other) {
-    m_sYear = other.m_sYear;
-    m_sMonth = other.m_sMonth;
-    m_sDay = other.m_sDay;
-    m_sHour = other.m_sHour;
-    m_sMinute = other.m_sMinute;
-    m_sSecond = other.m_sSecond;
+    m_year = other.m_year;
+    m_month = other.m_month;
+    m_day = other.m_day;
+    m_hour = other.m_hour;
+    m_minute = other.m_minute;
+    m_second = other.m_second;
     if (other.m_strFormat.data() == nullptr) {
         m_strFormat.clear();
     } else {
@@ -103,7 +103,7 @@ zvString zvDateTime::getDateFormat() const {
 }
 
 bool zvDateTime::isInitialized() const {
-    return (m_sYear | m_sMonth | m_sDay | m_sHour | m_sMinute | m_sSecond) != 0;
+    return (m_year | m_month | m_day | m_hour | m_minute | m_second) != 0;
 }
 
 void zvDateTime::setDate(const zvString& value, const zvString& format) {
@@ -174,12 +174,12 @@ zvString zvDateTime::toString() const {
 
 zvInt64 zvDateTime::getDateTimeInSeconds() const {
     std::tm local{};
-    local.tm_sec = m_sSecond;
-    local.tm_min = m_sMinute;
-    local.tm_hour = m_sHour;
-    local.tm_mday = m_sDay;
-    local.tm_mon = m_sMonth - 1;
-    local.tm_year = m_sYear - 1900;
+    local.tm_sec = m_second;
+    local.tm_min = m_minute;
+    local.tm_hour = m_hour;
+    local.tm_mday = m_day;
+    local.tm_mon = m_month - 1;
+    local.tm_year = m_year - 1900;
     return zvPlatform::fromLocalTime(local);
 }
 
@@ -188,12 +188,12 @@ void zvDateTime::setDateTimeInSeconds(zvInt64 seconds) {
     if (!zvPlatform::toLocalTime(seconds, local)) {
         return;
     }
-    m_sYear = static_cast<short>(local.tm_year + 1900);
-    m_sMonth = static_cast<short>(local.tm_mon + 1);
-    m_sDay = static_cast<short>(local.tm_mday);
-    m_sHour = static_cast<short>(local.tm_hour);
-    m_sMinute = static_cast<short>(local.tm_min);
-    m_sSecond = static_cast<short>(local.tm_sec);
+    m_year = static_cast<short>(local.tm_year + 1900);
+    m_month = static_cast<short>(local.tm_mon + 1);
+    m_day = static_cast<short>(local.tm_mday);
+    m_hour = static_cast<short>(local.tm_hour);
+    m_minute = static_cast<short>(local.tm_min);
+    m_second = static_cast<short>(local.tm_sec);
 }
 
 void zvDateTime::setCurrentDateTime() { setDateTimeInSeconds(zvPlatform::currentTime()); }

@@ -20,18 +20,18 @@ public:
 
     zvDateTime& operator=(const zvDateTime& other);
 
-    short getYear() const { return m_sYear; }
-    short getMonth() const { return m_sMonth; }
-    short getDay() const { return m_sDay; }
-    short getHour() const { return m_sHour; }
-    short getMinute() const { return m_sMinute; }
-    short getSecond() const { return m_sSecond; }
-    void setYear(short year) { m_sYear = year; }
-    void setMonth(short month) { m_sMonth = month; }
-    void setDay(short day) { m_sDay = day; }
-    void setHour(short hour) { m_sHour = hour; }
-    void setMinute(short minute) { m_sMinute = minute; }
-    void setSecond(short second) { m_sSecond = second; }
+    short getYear() const { return m_year; }
+    short getMonth() const { return m_month; }
+    short getDay() const { return m_day; }
+    short getHour() const { return m_hour; }
+    short getMinute() const { return m_minute; }
+    short getSecond() const { return m_second; }
+    void setYear(short year) { m_year = year; }
+    void setMonth(short month) { m_month = month; }
+    void setDay(short day) { m_day = day; }
+    void setHour(short hour) { m_hour = hour; }
+    void setMinute(short minute) { m_minute = minute; }
+    void setSecond(short second) { m_second = second; }
     zvString getDateFormat() const;
     /// Whether any of the six numbers is not 0.
     bool isInitialized() const;
@@ -70,12 +70,12 @@ private:
     static const Field* fieldOf(wchar16 letter);
     void setFormat(const zvString& format);
 
-    short m_sYear = 0;
-    short m_sMonth = 0;
-    short m_sDay = 0;
-    short m_sHour = 0;
-    short m_sMinute = 0;
-    short m_sSecond = 0;
+    short m_year = 0;
+    short m_month = 0;
+    short m_day = 0;
+    short m_hour = 0;
+    short m_minute = 0;
+    short m_second = 0;
     zvString m_strFormat;  // without a buffer for the default pattern: most dates have it, and never write it
 };
 

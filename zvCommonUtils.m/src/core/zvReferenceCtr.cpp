@@ -2,11 +2,11 @@
 
 zvReferenceCtr::~zvReferenceCtr() = default;
 
-int zvReferenceCtr::AddRef() { return ++m_iCount; }
+int zvReferenceCtr::AddRef() { return ++m_count; }
 
 int zvReferenceCtr::Release() {
-    if (--m_iCount > 0) {
-        return m_iCount;
+    if (--m_count > 0) {
+        return m_count;
     }
     delete this;
     return 0;

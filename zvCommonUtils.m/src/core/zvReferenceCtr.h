@@ -18,7 +18,7 @@ public:
     virtual int Release();
 
 private:
-    int m_iCount = 0;
+    int m_count = 0;
 };
 
 #endif

@@ -46,9 +46,9 @@ protected:
     void copy(const zvResult& other);
 
 private:
-    int m_iResult;
+    int m_result;
     zvString m_strMessage;
-    int m_iFailureType;
+    int m_failureType;
     zvString m_strAdditionalInformation;
 };
 

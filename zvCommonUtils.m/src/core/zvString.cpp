@@ -269,12 +269,12 @@ int countIn(View text, View pattern, int start, int end) {
 
 zvString::zvString() = default;
 
-zvString::zvString(const zvString& other) { assign(other.m_pBuffer, other.m_iLength); }
+zvString::zvString(const zvString& other) { assign(other.m_pBuffer, other.m_length); }
 
 zvString::zvString(zvString&& other) noexcept
     : m_pBuffer(other.m_pBuffer),
-      m_iLength(other.m_iLength),
-      m_iCapacity(other.m_iCapacity),
+      m_length(other.m_length),
+      m_capacity(other.m_capacity),
       m_bCacheUnchanged(other.m_bCacheUnchanged),
       m_pNarrowCache(other.m_pNarrowCache) {
     other.init();
@@ -326,8 +326,8 @@ zvString::~zvString() {
 
 void zvString::init() {
     m_pBuffer = nullptr;
-    m_iLength = 0;
-    m_iCapacity = 0;
+    m_length = 0;
+    m_capacity = 0;
     m_bCacheUnchanged = true;
     m_pNarrowCache = nullptr;
 }
@@ -347,8 +347,8 @@ bool zvString::adopt(wchar16* buffer, int length) {
     ::operator delete(m_pBuffer);
     m_pBuffer = buffer;
     m_pBuffer[length] = 0;
-    m_iLength = length;
-    m_iCapacity = length + 1;
+    m_length = length;
+    m_capacity = length + 1;
     return true;
 }
 
@@ -392,17 +392,17 @@ void zvString::assign(const Unit* text, int length) {
     if (length == 0) {
         return;
     }
-    if (m_iCapacity <= length && !adopt(allocate<wchar16>(static_cast<std::size_t>(length) + 1), length)) {
+    if (m_capacity <= length && !adopt(allocate<wchar16>(static_cast<std::size_t>(length) + 1), length)) {
         return;
     }
     std::copy_n(text, length, m_pBuffer);
     m_pBuffer[length] = 0;
-    m_iLength = length;
+    m_length = length;
 }
 
 void zvString::addTail(const char* text, int n) {
     const zvString wide(text, n);
-    extend(wide.m_pBuffer, wide.m_iLength);
+    extend(wide.m_pBuffer, wide.m_length);
 }
 
 void zvString::addTailW(const wchar16* text, int n) {
@@ -412,20 +412,20 @@ void zvString::addTailW(const wchar16* text, int n) {
 }
 
 void zvString::extend(const wchar16* text, int tail) {
-    if (tail == 0 || tail > static_cast<int>(longestText) - m_iLength) {
+    if (tail == 0 || tail > static_cast<int>(longestText) - m_length) {
         return;
     }
-    const int length = m_iLength + tail;
-    if (m_iCapacity > length) {
-        std::copy_n(text, tail, m_pBuffer + m_iLength);
+    const int length = m_length + tail;
+    if (m_capacity > length) {
+        std::copy_n(text, tail, m_pBuffer + m_length);
         m_pBuffer[length] = 0;
-        m_iLength = length;
+        m_length = length;
         return;
     }
     auto* const buffer = allocate<wchar16>(static_cast<std::size_t>(length) + 1);
     if (buffer != nullptr) {
-        std::copy_n(m_pBuffer, m_iLength, buffer);
-        std::copy_n(text, tail, buffer + m_iLength);
+        std::copy_n(m_pBuffer, m_length, buffer);
+        std::copy_n(text, tail, buffer + m_length);
         adopt(buffer, length);
     }
 }
@@ -433,7 +433,7 @@ void zvString::extend(const wchar16* text, int tail) {
 zvString& zvString::operator=(const zvString& other) {
     if (this != &other) {
         reset();
-        assign(other.m_pBuffer, other.m_iLength);
+        assign(other.m_pBuffer, other.m_length);
     }
     return *this;
 }
@@ -448,15 +448,15 @@ zvString& zvString::operator=(const char16_t* text) {
 
 void zvString::swap(zvString& other) noexcept {
     std::swap(m_pBuffer, other.m_pBuffer);
-    std::swap(m_iLength, other.m_iLength);
-    std::swap(m_iCapacity, other.m_iCapacity);
+    std::swap(m_length, other.m_length);
+    std::swap(m_capacity, other.m_capacity);
     std::swap(m_bCacheUnchanged, other.m_bCacheUnchanged);
     std::swap(m_pNarrowCache, other.m_pNarrowCache);
 }
 
 zvString& zvString::append(const zvString& other) {
     _clearCache();
-    extend(other.m_pBuffer, other.m_iLength);
+    extend(other.m_pBuffer, other.m_length);
     return *this;
 }
 
@@ -488,7 +488,7 @@ const char* zvString::getChars() const {
 
 char* zvString::narrowCopy() const {
     int bytes = 0;
-    return m_pBuffer == nullptr ? nullptr : narrowed(m_pBuffer, m_iLength, bytes);
+    return m_pBuffer == nullptr ? nullptr : narrowed(m_pBuffer, m_length, bytes);
 }
 
 char zvString::getCharAt(int i) const {
@@ -497,29 +497,29 @@ char zvString::getCharAt(int i) const {
 }
 
 bool zvString::equals(const zvString& other) const {
-    return m_iLength == other.m_iLength && std::equal(m_pBuffer, m_pBuffer + m_iLength, other.m_pBuffer);
+    return m_length == other.m_length && std::equal(m_pBuffer, m_pBuffer + m_length, other.m_pBuffer);
 }
 
 bool zvString::equalsIgnoreCase(const zvString& other) const {
-    if (m_iLength != other.m_iLength) {
+    if (m_length != other.m_length) {
         return false;
     }
-    if (isAscii(m_pBuffer, m_iLength) && isAscii(other.m_pBuffer, m_iLength) && foldsAsciiPlainly()) {
+    if (isAscii(m_pBuffer, m_length) && isAscii(other.m_pBuffer, m_length) && foldsAsciiPlainly()) {
         unsigned difference = 0;
-        for (int i = 0; i < m_iLength; ++i) {
+        for (int i = 0; i < m_length; ++i) {
             difference |= static_cast<unsigned>(otherCaseOf<u'A'>(m_pBuffer[i]) ^
                                                 otherCaseOf<u'A'>(other.m_pBuffer[i]));
         }
         return difference == 0;
     }
-    return std::equal(m_pBuffer, m_pBuffer + m_iLength, other.m_pBuffer, [](wchar16 left, wchar16 right) {
+    return std::equal(m_pBuffer, m_pBuffer + m_length, other.m_pBuffer, [](wchar16 left, wchar16 right) {
         return left == right || toLowerUnit(left) == toLowerUnit(right);
     });
 }
 
 bool zvString::operator<(const zvString& other) const {
     // Maps spend their time here, and a view's own comparison looks at every unit twice.
-    const int common = std::min(m_iLength, other.m_iLength);
+    const int common = std::min(m_length, other.m_length);
     if (common < unitsInOrder) {
         return viewOf(*this) < viewOf(other);
     }
@@ -532,7 +532,7 @@ bool zvString::operator<(const zvString& other) const {
     i = std::min(i, common - unitsInOrder);
     const std::uint64_t left = inOrder(m_pBuffer + i);
     const std::uint64_t right = inOrder(other.m_pBuffer + i);
-    return left != right ? left < right : m_iLength < other.m_iLength;
+    return left != right ? left < right : m_length < other.m_length;
 }
 
 bool zvString::operator>(const zvString& other) const { return other < *this; }
@@ -572,11 +572,11 @@ int zvString::replaceNoCase(const zvString& from, const zvString& to, int start,
 int zvString::replaceW(const zvString& from, const zvString& to, int start, int end, bool ignoreCase) {
     _clearCache();
     if (&from == this || &to == this || from.equals(to) || empty() || from.empty() ||
-        from.m_iLength > m_iLength) {
+        from.m_length > m_length) {
         return 0;
     }
     const std::unique_ptr<int[]> positions(
-        new (std::nothrow) int[static_cast<std::size_t>(m_iLength / from.m_iLength)]);
+        new (std::nothrow) int[static_cast<std::size_t>(m_length / from.m_length)]);
     if (positions == nullptr) {
         return 0;
     }
@@ -585,7 +585,7 @@ int zvString::replaceW(const zvString& from, const zvString& to, int start, int 
     const int matches =
         ignoreCase ? forEachMatch(viewOf(lowered(*this)), viewOf(lowered(from)), start, end, remember)
                    : forEachMatch(viewOf(*this), viewOf(from), start, end, remember);
-    const long long length = m_iLength + static_cast<long long>(matches) * (to.m_iLength - from.m_iLength);
+    const long long length = m_length + static_cast<long long>(matches) * (to.m_length - from.m_length);
     if (matches == 0 || length > static_cast<long long>(longestText)) {
         return 0;
     }
@@ -597,33 +597,33 @@ int zvString::replaceW(const zvString& from, const zvString& to, int start, int 
     int copied = 0;
     for (int i = 0; i < matches; ++i) {
         out = std::copy(m_pBuffer + copied, m_pBuffer + positions[static_cast<std::size_t>(i)], out);
-        out = std::copy_n(to.m_pBuffer, to.m_iLength, out);
-        copied = positions[static_cast<std::size_t>(i)] + from.m_iLength;
+        out = std::copy_n(to.m_pBuffer, to.m_length, out);
+        copied = positions[static_cast<std::size_t>(i)] + from.m_length;
     }
-    std::copy(m_pBuffer + copied, m_pBuffer + m_iLength, out);
+    std::copy(m_pBuffer + copied, m_pBuffer + m_length, out);
     adopt(buffer, static_cast<int>(length));
     return matches;
 }
 
 bool zvString::insert(const zvString& s, int pos) {
     _clearCache();
-    if (&s == this || s.empty() || pos < 0 || pos > m_iLength) {
+    if (&s == this || s.empty() || pos < 0 || pos > m_length) {
         return false;
     }
     if (empty()) {
         *this = s;
         return !empty();
     }
-    if (pos == m_iLength) {
+    if (pos == m_length) {
         append(s);
-        return m_iLength > pos;
+        return m_length > pos;
     }
-    if (s.m_iLength > static_cast<int>(longestText) - m_iLength) {
+    if (s.m_length > static_cast<int>(longestText) - m_length) {
         return false;
     }
-    const int length = m_iLength + s.m_iLength;
+    const int length = m_length + s.m_length;
     wchar16* buffer = m_pBuffer;
-    if (m_iCapacity <= length) {
+    if (m_capacity <= length) {
         buffer = allocate<wchar16>(static_cast<std::size_t>(length) + 1);
         if (buffer == nullptr) {
             return false;
@@ -631,22 +631,22 @@ bool zvString::insert(const zvString& s, int pos) {
         std::copy_n(m_pBuffer, pos, buffer);
     }
     // Lowest position first on purpose: in place, a long tail reads what it has just written.
-    for (int i = pos; i < m_iLength; ++i) {
-        buffer[i + s.m_iLength] = m_pBuffer[i];
+    for (int i = pos; i < m_length; ++i) {
+        buffer[i + s.m_length] = m_pBuffer[i];
     }
-    std::copy_n(s.m_pBuffer, s.m_iLength, buffer + pos);
+    std::copy_n(s.m_pBuffer, s.m_length, buffer + pos);
     if (buffer != m_pBuffer) {
         return adopt(buffer, length);
     }
     m_pBuffer[length] = 0;
-    m_iLength = length;
+    m_length = length;
     return true;
 }
 
 zvString zvString::substr(int pos, int n) const {
     zvString piece;
-    if (pos >= 0 && pos < m_iLength && n > 0) {
-        piece.assign(m_pBuffer + pos, std::min(n, m_iLength - pos));
+    if (pos >= 0 && pos < m_length && n > 0) {
+        piece.assign(m_pBuffer + pos, std::min(n, m_length - pos));
     }
     return piece;
 }
@@ -657,36 +657,36 @@ void zvString::trim() {
         return;
     }
     const auto isText = [](wchar16 unit) { return std::iswspace(unit) == 0; };
-    const wchar16* const first = std::find_if(m_pBuffer, m_pBuffer + m_iLength, isText);
-    const wchar16* last = m_pBuffer + m_iLength;
+    const wchar16* const first = std::find_if(m_pBuffer, m_pBuffer + m_length, isText);
+    const wchar16* last = m_pBuffer + m_length;
     while (last != first && !isText(last[-1])) {
         --last;
     }
-    m_iLength = static_cast<int>(last - first);
+    m_length = static_cast<int>(last - first);
     std::copy(first, last, m_pBuffer);
-    m_pBuffer[m_iLength] = 0;
+    m_pBuffer[m_length] = 0;
 }
 
 void zvString::reverse() {
     _clearCache();
-    std::reverse(m_pBuffer, m_pBuffer + m_iLength);
+    std::reverse(m_pBuffer, m_pBuffer + m_length);
 }
 
 void zvString::toLower() {
     _clearCache();
-    lower(m_pBuffer, m_iLength);
+    lower(m_pBuffer, m_length);
 }
 
 void zvString::toUpper() {
     _clearCache();
-    std::transform(m_pBuffer, m_pBuffer + m_iLength, m_pBuffer, toUpperUnit);
+    std::transform(m_pBuffer, m_pBuffer + m_length, m_pBuffer, toUpperUnit);
 }
 
 void zvString::clear() {
     _clearCache();
     releaseUnicode(m_pBuffer);
-    m_iLength = 0;
-    m_iCapacity = 0;
+    m_length = 0;
+    m_capacity = 0;
 }
 
 void zvString::reset() {
@@ -694,7 +694,7 @@ void zvString::reset() {
     if (m_pBuffer != nullptr) {
         *m_pBuffer = 0;
     }
-    m_iLength = 0;
+    m_length = 0;
 }
 
 bool zvString::toBoolean() const { return equalsIgnoreCase("true") || equalsIgnoreCase("1"); }

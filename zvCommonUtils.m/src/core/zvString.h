@@ -53,8 +53,8 @@ public:
     /// The text, owned by the string and valid until it changes; null for a string that never held text.
     const wchar16* data() const { return m_pBuffer; }
     /// Code units before the terminator.
-    int size() const { return m_iLength; }
-    bool empty() const { return m_iLength == 0; }
+    int size() const { return m_length; }
+    bool empty() const { return m_length == 0; }
     /// The code unit at `i`, which is not checked; 0 without a buffer.
     wchar16 operator[](int i) const { return m_pBuffer == nullptr ? wchar16{0} : m_pBuffer[i]; }
     /// The text as narrow text, owned by the string and valid until it changes; null for an empty string and
@@ -152,8 +152,8 @@ private:
     static int convertUnicodeToString(const wchar16* text, char*& out);
 
     wchar16* m_pBuffer = nullptr;
-    int m_iLength = 0;
-    int m_iCapacity = 0;  // elements allocated, terminator included
+    int m_length = 0;
+    int m_capacity = 0;  // elements allocated, terminator included
     mutable bool m_bCacheUnchanged = true;
     mutable char* m_pNarrowCache = nullptr;
 };

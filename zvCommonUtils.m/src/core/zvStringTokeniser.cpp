@@ -19,7 +19,7 @@ void addToken(zvStringList& tokens, const zvString& source, std::size_t begin, s
 }  // namespace
 
 zvStringTokeniser::zvStringTokeniser(zvString source, char delimiter)
-    : m_cDelimiter(delimiter), m_strSource(std::move(source)), m_bCharDelimiter(true) {}
+    : m_delimiter(delimiter), m_strSource(std::move(source)), m_bCharDelimiter(true) {}
 
 zvStringTokeniser::zvStringTokeniser(zvString source, const char* delimiters, bool wholeString)
     : m_strDelimiters(delimiters), m_strSource(std::move(source)), m_bWholeString(wholeString) {}
@@ -46,7 +46,7 @@ zvString zvStringTokeniser::getToken(int i) const { return m_tokens.getString(i)
 void zvStringTokeniser::tokeniseWithCharDelimiter() {
     const View text = viewOf(m_strSource);
     // A byte beyond ASCII stays the negative number that it is as a signed char, and matches no text.
-    const auto delimiter = static_cast<wchar16>(static_cast<signed char>(m_cDelimiter));
+    const auto delimiter = static_cast<wchar16>(static_cast<signed char>(m_delimiter));
     std::size_t start = text.find_first_not_of(delimiter);
     while (start != npos) {
         std::size_t end = text.find(delimiter, start);

@@ -31,7 +31,7 @@ private:
     void tokeniseWithStringDelimiter();
     void tokeniseWithStringAsWholeDelimiter();
 
-    char m_cDelimiter = '\0';
+    char m_delimiter = '\0';
     zvString m_strDelimiters;
     zvString m_strSource;
     zvStringList m_tokens;

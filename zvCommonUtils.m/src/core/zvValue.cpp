@@ -47,11 +47,11 @@ zvValue::zvValue(bool value) : zvValue() { setBoolValue(value); }
 
 zvValue::zvValue(int value) : zvValue() { setIntValue(value); }
 
-zvValue::zvValue(float value) : zvValue() { setFloatValue(value, m_iPrecision); }
+zvValue::zvValue(float value) : zvValue() { setFloatValue(value, m_precision); }
 
 zvValue::zvValue(const zvString& value) : zvValue() { setStrValue(value); }
 
-zvValue::zvValue(zvString&& value) : m_strValue(std::move(value)), m_eDataType(zvDataTypeString) {}
+zvValue::zvValue(zvString&& value) : m_strValue(std::move(value)), m_dataType(zvDataTypeString) {}
 
 zvValue::zvValue(const zvDateTime& value) : zvValue() { setDateValue(value); }
 
@@ -70,56 +70,56 @@ zvValue& zvValue::operator=(const zvValue& other) {
     zvKeptString text(other.m_strValue);
     m_strValue.swap(text);
     m_bValue = other.m_bValue;
-    m_iValue = other.m_iValue;
-    m_fValue = other.m_fValue;
-    m_iPrecision = other.m_iPrecision;
+    m_integer = other.m_integer;
+    m_float = other.m_float;
+    m_precision = other.m_precision;
     m_dateValue = other.m_dateValue;
-    m_eDataType = other.m_eDataType;
+    m_dataType = other.m_dataType;
     return *this;
 }
 
 void zvValue::initialize() {
     m_bValue = false;
-    m_iValue = -1;
-    m_fValue = -1.0F;
-    m_iPrecision = 3;
-    m_eDataType = zvDataTypeNone;
+    m_integer = -1;
+    m_float = -1.0F;
+    m_precision = 3;
+    m_dataType = zvDataTypeNone;
 }
 
 void zvValue::copy(const zvValue& other) { *this = other; }
 
 void zvValue::setBoolValue(bool value) {
     m_bValue = value;
-    m_eDataType = zvDataTypeBoolean;
+    m_dataType = zvDataTypeBoolean;
 }
 
 void zvValue::setIntValue(int value) {
-    m_iValue = value;
-    m_eDataType = zvDataTypeInteger;
+    m_integer = value;
+    m_dataType = zvDataTypeInteger;
 }
 
 void zvValue::setFloatValue(float value, int precision) {
-    m_fValue = value;
-    m_iPrecision = precision;
-    m_eDataType = zvDataTypeFloat;
+    m_float = value;
+    m_precision = precision;
+    m_dataType = zvDataTypeFloat;
 }
 
 void zvValue::setStrValue(const zvString& value) {
     m_strValue = value;
-    m_eDataType = zvDataTypeString;
+    m_dataType = zvDataTypeString;
 }
 
 void zvValue::setStrValue(zvString&& value) {
     m_strValue.swap(value);
-    m_eDataType = zvDataTypeString;
+    m_dataType = zvDataTypeString;
 }
 
 void zvValue::setDateValue(const zvDateTime& value) {
     m_dateValue = value;
-    m_eDataType = zvDataTypeDate;
+    m_dataType = zvDataTypeDate;
 }
 
-void zvValue::setDataType(zvDataTypeEnum type) { m_eDataType = type; }
+void zvValue::setDataType(zvDataTypeEnum type) { m_dataType = type; }
 
 void zvValue::setValue(const zvString& text, zvDataTypeEnum type, int precision) {
     initialize();
@@ -145,7 +145,7 @@ void zvValue::setValue(const zvString& text, zvDataTypeEnum type, int precision)
 }
 
 bool zvValue::getBoolValue() const {
-    switch (m_eDataType) {
+    switch (m_dataType) {
         case zvDataTypeBoolean:
             return m_bValue;
         case zvDataTypeString:
@@ -156,33 +156,33 @@ bool zvValue::getBoolValue() const {
 }
 
 int zvValue::getIntValue() const {
-    switch (m_eDataType) {
+    switch (m_dataType) {
         case zvDataTypeInteger:
-            return m_iValue;
+            return m_integer;
         case zvDataTypeString:
             return zvString::convertUnicodeToInt(m_strValue);
         case zvDataTypeFloat:
-            return toInt(m_fValue);
+            return toInt(m_float);
         default:
             fail("Data cannot be converted to integer datatype");
     }
 }
 
 float zvValue::getFloatValue() const {
-    switch (m_eDataType) {
+    switch (m_dataType) {
         case zvDataTypeFloat:
-            return m_fValue;
+            return m_float;
         case zvDataTypeString:
             return toFloat(zvString::convertUnicodeToDouble(m_strValue));
         case zvDataTypeInteger:
-            return static_cast<float>(m_iValue);
+            return static_cast<float>(m_integer);
         default:
             fail("Data cannot be converted to float datatype");
     }
 }
 
 zvDateTime zvValue::getDateValue() const {
-    switch (m_eDataType) {
+    switch (m_dataType) {
         case zvDataTypeDate:
             return m_dateValue;
         case zvDataTypeString:
@@ -195,13 +195,13 @@ zvDateTime zvValue::getDateValue() const {
 zvString zvValue::getStrValue() const { return getValue(); }
 
 zvString zvValue::getValue() const {
-    switch (m_eDataType) {
+    switch (m_dataType) {
         case zvDataTypeString:
             return m_strValue;
         case zvDataTypeInteger:
-            return zvString(m_iValue);
+            return zvString(m_integer);
         case zvDataTypeFloat:
-            return zvString(static_cast<double>(m_fValue));
+            return zvString(static_cast<double>(m_float));
         case zvDataTypeDate:
             return m_dateValue.getDateTime(dateFormat, "/", "-");
         case zvDataTypeBoolean:
@@ -215,18 +215,18 @@ zvString zvValue::getValue() const {
 // Compares the text forms; two Strings, the usual case, are not copied for it.
 template <typename Compare>
 bool zvValue::compareText(const zvValue& other, Compare compare) const {
-    if (m_eDataType == zvDataTypeString && other.m_eDataType == zvDataTypeString) {
+    if (m_dataType == zvDataTypeString && other.m_dataType == zvDataTypeString) {
         return compare(m_strValue, other.m_strValue);
     }
     return compare(getValue(), other.getValue());
 }
 
 bool zvValue::operator==(const zvValue& other) const {
-    switch (m_eDataType) {
+    switch (m_dataType) {
         case zvDataTypeInteger:
-            return m_iValue == other.getIntValue();
+            return m_integer == other.getIntValue();
         case zvDataTypeFloat:
-            return m_fValue == other.getFloatValue();
+            return m_float == other.getFloatValue();
         case zvDataTypeDate:
             return m_dateValue == other.getDateValue();
         case zvDataTypeBoolean:
@@ -238,11 +238,11 @@ bool zvValue::operator==(const zvValue& other) const {
 }
 
 bool zvValue::operator<=(const zvValue& other) const {
-    switch (m_eDataType) {
+    switch (m_dataType) {
         case zvDataTypeInteger:
-            return m_iValue <= other.getIntValue();
+            return m_integer <= other.getIntValue();
         case zvDataTypeFloat:
-            return m_fValue <= other.getFloatValue();
+            return m_float <= other.getFloatValue();
         case zvDataTypeDate:
             return m_dateValue < other.getDateValue();
         case zvDataTypeBoolean:
@@ -254,11 +254,11 @@ bool zvValue::operator<=(const zvValue& other) const {
 }
 
 bool zvValue::operator>=(const zvValue& other) const {
-    switch (m_eDataType) {
+    switch (m_dataType) {
         case zvDataTypeInteger:
-            return m_iValue >= other.getIntValue();
+            return m_integer >= other.getIntValue();
         case zvDataTypeFloat:
-            return m_fValue >= other.getFloatValue();
+            return m_float >= other.getFloatValue();
         case zvDataTypeDate:
             return m_dateValue >= other.getDateValue();
         case zvDataTypeBoolean:

@@ -45,7 +45,7 @@ public:
     void setDateValue(const zvDateTime& value);
     /// Changes the type alone.
     void setDataType(zvDataTypeEnum type);
-    zvDataTypeEnum getDataType() const { return m_eDataType; }
+    zvDataTypeEnum getDataType() const { return m_dataType; }
     /// Reads `text` as a value of `type`. Text that is no number gives 0, a boolean is true when its text
     /// reads as an integer other than 0, and an unknown type gives a String.
     void setValue(const zvString& text, zvDataTypeEnum type, int precision);
@@ -87,12 +87,12 @@ private:
     bool compareText(const zvValue& other, Compare compare) const;
 
     bool m_bValue = false;
-    int m_iValue = -1;
-    float m_fValue = -1.0F;
-    int m_iPrecision = 3;
+    int m_integer = -1;
+    float m_float = -1.0F;
+    int m_precision = 3;
     zvKeptString m_strValue;
     zvDateTime m_dateValue;
-    zvDataTypeEnum m_eDataType = zvDataTypeNone;
+    zvDataTypeEnum m_dataType = zvDataTypeNone;
 };
 
 #endif

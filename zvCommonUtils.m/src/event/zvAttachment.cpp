@@ -11,7 +11,7 @@ constexpr const char* asciiText = "ASCII";
 
 }  // namespace
 
-zvAttachment::zvAttachment() : m_iFileTransferMode(binaryMode), m_bToBeDeleted(true) {}
+zvAttachment::zvAttachment() : m_fileTransferMode(binaryMode), m_bToBeDeleted(true) {}
 zvAttachment::zvAttachment(const zvAttachment&) = default;
 zvAttachment& zvAttachment::operator=(const zvAttachment&) = default;
 zvAttachment::~zvAttachment() = default;
@@ -20,13 +20,13 @@ void zvAttachment::setFilePath(const zvString& path) { m_strFilePath = path; }
 
 zvString zvAttachment::getFilePath() const { return m_strFilePath; }
 
-void zvAttachment::setFileTransferMode(int mode) { m_iFileTransferMode = mode; }
+void zvAttachment::setFileTransferMode(int mode) { m_fileTransferMode = mode; }
 
 void zvAttachment::setFileTransferMode(const zvString& mode) {
-    m_iFileTransferMode = getFileTransferModeInt(mode);
+    m_fileTransferMode = getFileTransferModeInt(mode);
 }
 
-int zvAttachment::getFileTransferMode() const { return m_iFileTransferMode; }
+int zvAttachment::getFileTransferMode() const { return m_fileTransferMode; }
 
 void zvAttachment::setToBeDeleted(bool toBeDeleted) { m_bToBeDeleted = toBeDeleted; }
 
@@ -34,7 +34,7 @@ bool zvAttachment::getToBeDeleted() const { return m_bToBeDeleted; }
 
 zvString zvAttachment::toString() const {
     return zvTextBuilder::concat("Attachment[", "FilePath:", m_strFilePath,
-                                 " FileType:", getFileTransferModeStr(m_iFileTransferMode),
+                                 " FileType:", getFileTransferModeStr(m_fileTransferMode),
                                  " ToBeDeleted:", m_bToBeDeleted ? "TRUE" : "FALSE", "]");
 }
 

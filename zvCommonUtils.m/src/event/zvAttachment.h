@@ -38,7 +38,7 @@ public:
 
 private:
     zvString m_strFilePath;
-    int m_iFileTransferMode;
+    int m_fileTransferMode;
     bool m_bToBeDeleted;
 };
 

@@ -4,16 +4,16 @@
 #include <cstring>
 
 zvJvmOptionList::~zvJvmOptionList() {
-    for (int i = 0; i < m_iCount; ++i) {
+    for (int i = 0; i < m_count; ++i) {
         zvMalloc::Free()(m_pOptions[static_cast<std::size_t>(i)].optionString);
     }
 }
 
 void zvJvmOptionList::add(zvMalloc::Array<char> option, void* extraInformation) {
-    if (m_iCount == m_iCapacity) {
+    if (m_count == m_capacity) {
         grow();
     }
-    m_pOptions[static_cast<std::size_t>(m_iCount++)] = {option.release(), extraInformation};
+    m_pOptions[static_cast<std::size_t>(m_count++)] = {option.release(), extraInformation};
 }
 
 void zvJvmOptionList::addClassPath(const char* classPath) {
@@ -26,9 +26,9 @@ void zvJvmOptionList::addClassPath(const char* classPath) {
 
 void zvJvmOptionList::grow() {
     constexpr int firstCapacity = 4;
-    m_iCapacity = m_iCapacity == 0 ? firstCapacity : 2 * m_iCapacity;
+    m_capacity = m_capacity == 0 ? firstCapacity : 2 * m_capacity;
     zvMalloc::Array<JavaVMOption> larger =
-        zvMalloc::allocate<JavaVMOption>(static_cast<std::size_t>(m_iCapacity));
-    std::copy_n(m_pOptions.get(), m_iCount, larger.get());
+        zvMalloc::allocate<JavaVMOption>(static_cast<std::size_t>(m_capacity));
+    std::copy_n(m_pOptions.get(), m_count, larger.get());
     m_pOptions = std::move(larger);
 }

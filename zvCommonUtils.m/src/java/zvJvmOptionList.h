@@ -18,15 +18,15 @@ public:
     /// Appends the class path, in the form that the system's own list of folders has.
     void addClassPath(const char* classPath);
 
-    int count() const { return m_iCount; }
-    int capacity() const { return m_iCapacity; }
+    int count() const { return m_count; }
+    int capacity() const { return m_capacity; }
     JavaVMOption* data() { return m_pOptions.get(); }
 
 private:
     void grow();
 
-    int m_iCount = 0;
-    int m_iCapacity = 0;
+    int m_count = 0;
+    int m_capacity = 0;
     zvMalloc::Array<JavaVMOption> m_pOptions;
 };
 

@@ -9,8 +9,8 @@
 #include "zvLoggerLibrary.h"
 #include "zvPath.h"
 
-zvLogChannel::zvLogChannel(const zvString& name) : m_bReady(false), m_szLoggerName() {
-    std::snprintf(m_szLoggerName, sizeof(m_szLoggerName), "%s", zvCharString(name).data());
+zvLogChannel::zvLogChannel(const zvString& name) : m_bReady(false), m_loggerName() {
+    std::snprintf(m_loggerName, sizeof(m_loggerName), "%s", zvCharString(name).data());
     const zvString home = zvGatewayHome::getPath();
     if (!home.empty()) {
         m_bReady = InitializeLogger(zvCharString(zvGatewayHome::configFile(home, "log4cxx.xml")).data());
@@ -49,10 +49,10 @@ void zvLogChannel::forward(LibraryFunction write, const char* message, const cha
     }
     const std::string_view fileName = zvPath::fileName(std::string_view(file == nullptr ? "" : file));
     if (fileName.empty()) {
-        write(m_szLoggerName, message, file, line);
+        write(m_loggerName, message, file, line);
         return;
     }
     std::string located(fileName);
     located.append("[").append(std::to_string(line)).append("] ").append(message);
-    write(m_szLoggerName, located.c_str(), file, line);
+    write(m_loggerName, located.c_str(), file, line);
 }

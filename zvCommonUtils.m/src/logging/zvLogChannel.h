@@ -32,7 +32,7 @@ private:
     static constexpr int loggerNameCapacity = 1027;
 
     bool m_bReady;
-    char m_szLoggerName[loggerNameCapacity];
+    char m_loggerName[loggerNameCapacity];
 };
 
 #endif
