@@ -1,9 +1,20 @@
-# Helpers with which a module's CMakeLists.txt describes itself.
+# Helpers with which a module's CMakeLists.txt describes itself. A target named in them may be defined later.
+
+# The public headers alone, as they are installed: what the library's users in the build tree see.
+set(ZV_PUBLIC_INCLUDE ${PROJECT_BINARY_DIR}/include)
+file(REMOVE_RECURSE ${ZV_PUBLIC_INCLUDE})
+file(MAKE_DIRECTORY ${ZV_PUBLIC_INCLUDE})
+
+# The shared library, and the same objects as a static library for the tests, which reach what is hidden and bring a
+# logging library of their own. Every layer adds its objects to both.
+add_library(zvCommonUtilsExport SHARED)
+add_library(zvAllObjects STATIC)
+set_target_properties(zvCommonUtilsExport zvAllObjects PROPERTIES LINKER_LANGUAGE CXX)
 
 # zv_add_layer(NAME SOURCES ... PUBLIC_HEADERS ... DIRECTORIES ... DEPENDS ... LIBRARIES ...)
 #
-# Adds the object library NAME, a part of zvCommonUtilsExport. It sees only the headers in its own
-# DIRECTORIES and in those of the layers under DEPENDS, so that an include that points upward does not compile.
+# Adds the object library NAME, a layer of zvCommonUtilsExport. It sees only the headers in its own DIRECTORIES and in
+# those of the layers under DEPENDS, so that an include that points upward does not compile.
 # PUBLIC_HEADERS are installed; LIBRARIES are what it calls outside the project.
 function(zv_add_layer NAME)
     cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC_HEADERS;DIRECTORIES;DEPENDS;LIBRARIES" ${ARGN})
@@ -12,74 +23,71 @@ function(zv_add_layer NAME)
     foreach(directory IN LISTS ARG_DIRECTORIES)
         target_include_directories(${NAME} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR}/${directory})
     endforeach()
-    foreach(layer IN LISTS ARG_DEPENDS)
-        target_include_directories(${NAME} PUBLIC $<TARGET_PROPERTY:${layer},INTERFACE_INCLUDE_DIRECTORIES>)
-    endforeach()
-    target_link_libraries(${NAME} PUBLIC ${ARG_LIBRARIES})
+    target_link_libraries(${NAME} PUBLIC ${ARG_DEPENDS} ${ARG_LIBRARIES})
     if(ZV_LINK_TIME_OPTIMISATION)
         # Machine code stands beside, for the test programs, which are linked without.
         target_compile_options(${NAME} PRIVATE -flto=auto -ffat-lto-objects)
     endif()
-    list(TRANSFORM ARG_PUBLIC_HEADERS PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
-    set_property(GLOBAL APPEND PROPERTY ZV_LAYERS ${NAME})
-    set_property(GLOBAL APPEND PROPERTY ZV_PUBLIC_HEADERS ${ARG_PUBLIC_HEADERS})
+    target_link_libraries(zvCommonUtilsExport PRIVATE ${NAME})
+    target_link_libraries(zvAllObjects PUBLIC ${NAME})
+    foreach(header IN LISTS ARG_PUBLIC_HEADERS)
+        zv_add_public_header(${CMAKE_CURRENT_SOURCE_DIR}/${header})
+    endforeach()
 endfunction()
+
+# Installs the header, and shows it to the library's users in the build tree.
+function(zv_add_public_header HEADER)
+    cmake_path(GET HEADER FILENAME name)
+    file(CREATE_LINK ${HEADER} ${ZV_PUBLIC_INCLUDE}/${name} SYMBOLIC)
+    set_property(TARGET zvCommonUtilsExport APPEND PROPERTY PUBLIC_HEADER ${HEADER})
+endfunction()
+
+if(ZV_BUILD_TESTS)
+    find_package(GTest REQUIRED)
+    set_target_properties(GTest::gtest GTest::gtest_main PROPERTIES IMPORTED_GLOBAL TRUE)
+    include(GoogleTest)
+endif()
+
+# What a cross-build cannot run itself it lists for the scripts that do, a file for each program.
+set(ZV_TEST_LIST ${PROJECT_BINARY_DIR}/test-programs)
+file(REMOVE_RECURSE ${ZV_TEST_LIST})
 
 # zv_add_tests(NAME SOURCES ... LIBRARIES ... DEFINITIONS ... [ENVIRONMENT variable=value] [NOT_ON_WINDOWS reason])
 #
-# Registers a GoogleTest program over the library's own objects and the recording logger; every test in it is
-# a CTest test of its own, which runs with ENVIRONMENT. A cross-build lists the programs in the file
-# "test-programs" for the scripts that run them, and those that it leaves out with the reason.
+# Adds a GoogleTest program over the library's own objects and the recording logger; every test in it is a CTest test
+# of its own, which runs with ENVIRONMENT. A cross-build lists the program, or, with NOT_ON_WINDOWS, the reason why it
+# is left out.
 function(zv_add_tests NAME)
     cmake_parse_arguments(ARG "" "ENVIRONMENT;NOT_ON_WINDOWS" "SOURCES;LIBRARIES;DEFINITIONS" ${ARGN})
-    list(TRANSFORM ARG_SOURCES PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
+    if(NOT ZV_BUILD_TESTS)
+        return()
+    endif()
     if(WIN32 AND ARG_NOT_ON_WINDOWS)
+        list(TRANSFORM ARG_SOURCES PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
         zv_skip_tests(${NAME} ${ARG_NOT_ON_WINDOWS} ${ARG_SOURCES})
         return()
     endif()
-    set_property(GLOBAL APPEND PROPERTY ZV_TEST_PROGRAMS ${NAME})
-    set_property(GLOBAL PROPERTY ZV_TEST_SOURCES_${NAME} ${ARG_SOURCES})
-    set_property(GLOBAL PROPERTY ZV_TEST_LIBRARIES_${NAME} ${ARG_LIBRARIES})
-    set_property(GLOBAL PROPERTY ZV_TEST_DEFINITIONS_${NAME} ${ARG_DEFINITIONS})
-    set_property(GLOBAL PROPERTY ZV_TEST_ENVIRONMENT_${NAME} ${ARG_ENVIRONMENT})
+    add_executable(${NAME} ${ARG_SOURCES})
+    target_link_libraries(${NAME} PRIVATE zvTestSupport zvAllObjects GTest::gtest ${ARG_LIBRARIES})
+    target_compile_definitions(${NAME} PRIVATE ${ARG_DEFINITIONS})
+    if(CMAKE_CROSSCOMPILING)
+        zv_list_test_program(${NAME})
+        return()
+    endif()
+    set(properties TIMEOUT 300)
+    if(ARG_ENVIRONMENT)
+        list(APPEND properties ENVIRONMENT ${ARG_ENVIRONMENT})
+    endif()
+    gtest_discover_tests(${NAME} TEST_PREFIX ${NAME}. PROPERTIES ${properties} DISCOVERY_TIMEOUT 60)
 endfunction()
 
-# Notes in "test-programs" that the program is to be run.
+# Lists the program as one to be run.
 function(zv_list_test_program NAME)
-    set_property(GLOBAL APPEND_STRING PROPERTY ZV_TEST_LIST "run\t$<TARGET_FILE:${NAME}>\n")
+    file(GENERATE OUTPUT ${ZV_TEST_LIST}/${NAME} CONTENT "run\t$<TARGET_FILE:${NAME}>\n")
 endfunction()
 
-# Notes in "test-programs" that the tests in SOURCES are left out, or, without sources, the test NAME.
+# Lists the tests in SOURCES, or, without sources, the test NAME as left out.
 function(zv_skip_tests NAME REASON)
     list(JOIN ARGN " " sources)
-    set_property(GLOBAL APPEND_STRING PROPERTY ZV_TEST_LIST "skip\t${NAME}\t${REASON}\t${sources}\n")
-endfunction()
-
-# Adds the registered test programs. Called once, after every module, since each program links all of them.
-function(zv_add_module_tests)
-    find_package(GTest REQUIRED)
-    include(GoogleTest)
-    get_property(programs GLOBAL PROPERTY ZV_TEST_PROGRAMS)
-    foreach(program IN LISTS programs)
-        get_property(sources GLOBAL PROPERTY ZV_TEST_SOURCES_${program})
-        get_property(libraries GLOBAL PROPERTY ZV_TEST_LIBRARIES_${program})
-        add_executable(${program} ${sources})
-        target_link_libraries(${program} PRIVATE zvTestSupport zvAllObjects GTest::gtest ${libraries})
-        get_property(definitions GLOBAL PROPERTY ZV_TEST_DEFINITIONS_${program})
-        target_compile_definitions(${program} PRIVATE ${definitions})
-        if(CMAKE_CROSSCOMPILING)
-            zv_list_test_program(${program})
-            continue()
-        endif()
-        get_property(environment GLOBAL PROPERTY ZV_TEST_ENVIRONMENT_${program})
-        set(properties TIMEOUT 300)
-        if(environment)
-            list(APPEND properties ENVIRONMENT ${environment})
-        endif()
-        gtest_discover_tests(${program} TEST_PREFIX ${program}. PROPERTIES ${properties} DISCOVERY_TIMEOUT 60)
-    endforeach()
-    if(CMAKE_CROSSCOMPILING)
-        get_property(test_list GLOBAL PROPERTY ZV_TEST_LIST)
-        file(GENERATE OUTPUT ${PROJECT_BINARY_DIR}/test-programs CONTENT "${test_list}")
-    endif()
+    file(GENERATE OUTPUT ${ZV_TEST_LIST}/${NAME} CONTENT "skip\t${NAME}\t${REASON}\t${sources}\n")
 endfunction()

@@ -6,7 +6,7 @@ set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/zvCommonUtilsExport)
 set(generated_folder ${PROJECT_BINARY_DIR}/package)
 
 # The umbrella header names every public header.
-get_property(public_headers GLOBAL PROPERTY ZV_PUBLIC_HEADERS)
+get_target_property(public_headers zvCommonUtilsExport PUBLIC_HEADER)
 set(umbrella_includes "")
 foreach(header IN LISTS public_headers)
     get_filename_component(name ${header} NAME)
@@ -15,11 +15,10 @@ endforeach()
 list(SORT umbrella_includes)
 list(JOIN umbrella_includes "\n" umbrella_includes)
 configure_file(${CMAKE_CURRENT_LIST_DIR}/zvCommonUtilsExport.h.in ${generated_folder}/zvCommonUtilsExport.h @ONLY)
+zv_add_public_header(${generated_folder}/zvCommonUtilsExport.h)
 
-target_include_directories(zvCommonUtilsExport PUBLIC $<INSTALL_INTERFACE:${header_folder}>)
-target_link_libraries(zvCommonUtilsExport PUBLIC $<INSTALL_INTERFACE:XercesC::XercesC>)
+target_include_directories(zvCommonUtilsExport INTERFACE $<INSTALL_INTERFACE:${header_folder}>)
 
-install(FILES ${public_headers} ${generated_folder}/zvCommonUtilsExport.h DESTINATION ${header_folder})
 set(installed zvCommonUtilsExport zvLogger)
 if(WIN32)
     set(installed zvCommonUtilsExport)  # the logging library is the site's
@@ -28,7 +27,8 @@ install(TARGETS ${installed}
     EXPORT zvCommonUtilsExportTargets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    PUBLIC_HEADER DESTINATION ${header_folder})
 install(EXPORT zvCommonUtilsExportTargets NAMESPACE zvCommonUtilsExport:: DESTINATION ${package_folder})
 
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/zvCommonUtilsExportConfig.cmake.in

@@ -1,28 +1,15 @@
-# The shared library out of the layers' objects, and the same objects as a static library for the tests, which
-# reach what is hidden and bring a logging library of their own.
-get_property(layers GLOBAL PROPERTY ZV_LAYERS)
-
-add_library(zvCommonUtilsExport SHARED)
+# How the shared library is linked; the layers have added their objects.
 add_library(zvCommonUtilsExport::zvCommonUtilsExport ALIAS zvCommonUtilsExport)
-add_library(zvAllObjects STATIC)
-foreach(layer IN LISTS layers)
-    target_sources(zvCommonUtilsExport PRIVATE $<TARGET_OBJECTS:${layer}>)
-    target_sources(zvAllObjects PRIVATE $<TARGET_OBJECTS:${layer}>)
-    foreach(library zvCommonUtilsExport zvAllObjects)
-        target_include_directories(${library} PUBLIC $<BUILD_INTERFACE:$<TARGET_PROPERTY:${layer},INTERFACE_INCLUDE_DIRECTORIES>>)
-        target_link_libraries(${library} PUBLIC $<BUILD_INTERFACE:$<TARGET_PROPERTY:${layer},INTERFACE_LINK_LIBRARIES>>)
-    endforeach()
-endforeach()
-set_target_properties(zvAllObjects zvCommonUtilsExport PROPERTIES LINKER_LANGUAGE CXX)
 set_target_properties(zvCommonUtilsExport PROPERTIES
     VERSION ${PROJECT_VERSION}
     SOVERSION ${PROJECT_VERSION_MAJOR})
+target_include_directories(zvCommonUtilsExport INTERFACE $<BUILD_INTERFACE:${ZV_PUBLIC_INCLUDE}>)
+target_link_libraries(zvCommonUtilsExport PRIVATE zvLogger INTERFACE XercesC::XercesC)
+target_link_options(zvCommonUtilsExport PRIVATE ${ZV_NO_UNDEFINED})
 if(ZV_LINK_TIME_OPTIMISATION)
     target_link_options(zvCommonUtilsExport PRIVATE -flto=auto -O3)
     target_link_options(zvAllObjects INTERFACE -fno-lto)
 endif()
-target_link_libraries(zvCommonUtilsExport PRIVATE zvLogger)
-target_link_options(zvCommonUtilsExport PRIVATE ${ZV_NO_UNDEFINED})
 if(WIN32)
     # The name that programs have asked for ever since.
     set_target_properties(zvCommonUtilsExport PROPERTIES PREFIX "")

@@ -2,7 +2,6 @@
 
 #include "zvCommonUtils.h"
 #include "zvDebugLogger.h"
-#include "zvLogListener.h"
 #include "zvLogSource.h"
 #include "zvPlatform.h"
 #include "zvRecordingLogger.h"
@@ -85,27 +84,6 @@ TEST_F(zvLoggerTest, HasNoLoggerForCallsDuringItsCreation) {
     });
     EXPECT_NE(zvLogger::getInstance(), nullptr);
     EXPECT_TRUE(none);
-    EXPECT_TRUE(zvRecordingLogger::events().empty());
-}
-
-TEST_F(zvLoggerTest, AListenerHearsEverythingWithoutALog) {
-    class Listener : public zvLogListener {
-    public:
-        void hear(zvLogLevel level, const zvString& message, const char* file, int line) override {
-            heard +=
-                std::to_string(static_cast<int>(level)) + narrow(message) + file + std::to_string(line) + ";";
-        }
-        std::string heard;
-    };
-    zvRecordingLogger::onInitialize([](const std::string&) { return false; });
-    Listener listener;
-    zvLogger::setListener(&listener);
-    zvLogger::getInstance()->logWarn("m", "f", 1);
-    zvLogger::getInstance()->logAlways("m", "f", 2);
-    zvLogSource("f").error({"n", 3});
-    zvLogger::setListener(nullptr);
-    zvLogger::getInstance()->logError("m", "f", 4);
-    EXPECT_EQ(listener.heard, "2mf1;5mf2;3nf3;");
     EXPECT_TRUE(zvRecordingLogger::events().empty());
 }
 

@@ -3,6 +3,7 @@
 
 #include "zvCfgOptionalAttributes.h"
 #include "zvCoreObject.h"
+#include "zvFinding.h"
 #include "zvValue.h"
 
 /// An attribute that is carried across between the two systems: its names there, its type and its default.
@@ -35,6 +36,12 @@ public:
     const zvString& keyName() const { return m_strKeyName; }
     const zvString& localName() const { return m_strLocalName; }
     const zvString& remoteName() const { return m_strRemoteName; }
+    /// The first of the local name, the remote name and the key that is not empty.
+    const zvString& anyName() const;
+
+    /// Where the element begins in the file that it was read from; unknown when nobody wanted findings of it.
+    zvTextPosition getPosition() const { return m_position; }
+    void setPosition(zvTextPosition position) { m_position = position; }
 
 private:
     zvString m_strKeyName;
@@ -42,6 +49,7 @@ private:
     zvString m_strRemoteName;
     zvDataTypeEnum m_dataType = zvDataTypeNone;
     zvString m_strDefaultValue;
+    zvTextPosition m_position;
 };
 
 #endif

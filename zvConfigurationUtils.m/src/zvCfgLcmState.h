@@ -3,6 +3,7 @@
 
 #include "zvCfgOwner.h"
 #include "zvCfgTransition.h"
+#include "zvFinding.h"
 
 /// A lifecycle state, with its names in both systems and the transitions that lead out of it.
 class ZV_EXPORT zvCfgLcmState : public zvCoreObjectCfg {
@@ -36,12 +37,17 @@ public:
     /// Null out of range.
     const zvCfgTransition* getOutgoingTransition(int i) const;
 
+    /// Where the element begins in the file that it was read from; unknown when nobody wanted findings of it.
+    zvTextPosition getPosition() const { return m_position; }
+    void setPosition(zvTextPosition position) { m_position = position; }
+
 private:
     int m_index = 0;
     zvString m_strKey;
     zvString m_strLocalName;
     zvString m_strRemoteName;
     zvCfgOwner<zvCfgTransition> m_transitions;
+    zvTextPosition m_position;
 };
 
 #endif

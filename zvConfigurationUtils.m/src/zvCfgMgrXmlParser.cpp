@@ -12,18 +12,25 @@ constexpr zvLogSource logger(sourceName);
 
 enum ResultCode { notLoadable = 1, empty = 2, wrongRoot = 3 };
 
-zvResult parseObjectConfig(zvXMLParser& parser) { return zvCfgObjectXmlParser().parseObjectConfig(parser); }
+using InvalidRule = zvCfgMgrXmlParser::InvalidRule;
 
 struct Section {
     const char* tag;
-    zvResult (*parse)(zvXMLParser& parser);
+    zvResult (*parse)(zvXMLParser& parser, InvalidRule invalidRule);
     int failureCode;
 };
 
 constexpr Section sections[] = {
-    {"ObjectConfig", parseObjectConfig, 4},
-    {"LifecycleConfig", zvCfgLifecycleXmlParser::parseLifecycleConfig, 5},
-    {"ViewConfig", zvCfgViewXmlParser::parseViewConfig, 6},
+    {"ObjectConfig",
+     [](zvXMLParser& parser, InvalidRule invalidRule) {
+         return zvCfgObjectXmlParser(invalidRule).parseObjectConfig(parser);
+     },
+     4},
+    {"LifecycleConfig",
+     [](zvXMLParser& parser, InvalidRule) { return zvCfgLifecycleXmlParser::parseLifecycleConfig(parser); },
+     5},
+    {"ViewConfig",
+     [](zvXMLParser& parser, InvalidRule) { return zvCfgViewXmlParser::parseViewConfig(parser); }, 6},
 };
 
 // Null for an element that is no section.
@@ -51,7 +58,10 @@ zvResult refuse(int code, zvLogHead head, const Pieces&... rest) {
 
 }  // namespace
 
-zvCfgMgrXmlParser::zvCfgMgrXmlParser() = default;
+zvCfgMgrXmlParser::zvCfgMgrXmlParser() : zvCfgMgrXmlParser(nullptr) {}
+
+zvCfgMgrXmlParser::zvCfgMgrXmlParser(zvFindingSink* findings, InvalidRule invalidRule)
+    : m_pFindings(findings), m_invalidRule(invalidRule) {}
 
 zvCfgMgrXmlParser::~zvCfgMgrXmlParser() = default;
 
@@ -77,12 +87,13 @@ zvResult zvCfgMgrXmlParser::parse(const zvString& source, bool isFile) {
 }
 
 zvResult zvCfgMgrXmlParser::parseDocument(const zvString& source, bool isFile) {
-    m_pParser = std::make_unique<zvXMLParser>();
+    m_pParser = std::make_unique<zvXMLParser>(m_pFindings);
     if (!m_pParser->loadXMLFromString(source, isFile)) {
         return refuse(notLoadable, "Configuration file : \"", source, "\" not found!");
     }
     zvString tag;
     if (!m_pParser->getRoot(tag) || "CustomizationConfig" != tag) {
+        report(zvFindingKind::wrongRoot, "the root element is \"" + tag + "\", not \"CustomizationConfig\"");
         return refuse(wrongRoot, "Wrong Configuration file :", source);
     }
     m_strPdmSystemName = parsePdmSystemName();
@@ -98,13 +109,22 @@ zvString zvCfgMgrXmlParser::parsePdmSystemName() {
 zvResult zvCfgMgrXmlParser::parseSections(const zvString& source) {
     zvString tag;
     if (!m_pParser->getFirstChild(tag)) {
+        report(zvFindingKind::emptyDocument, "the configuration has no sections");
         return refuse(empty, "Empty Configuration file :", source);
     }
     do {
         const Section* const section = findSection(tag);
-        if (section != nullptr && !section->parse(*m_pParser).isOk()) {
+        if (section != nullptr && !section->parse(*m_pParser, m_invalidRule).isOk()) {
             return refuse(section->failureCode, "Error occured while parsing \"", section->tag, "\" node!");
         }
     } while (m_pParser->getNextSibling(tag));
     return 0;
+}
+
+// Of the element that the cursor stands on.
+void zvCfgMgrXmlParser::report(std::string_view kind, const zvString& text) const {
+    if (m_pFindings != nullptr) {
+        m_pFindings->report({zvFinding::Severity::error, kind, zvString(), zvString(),
+                             m_pParser->getPosition(m_pParser->getCurrentNode()), text});
+    }
 }

@@ -3,6 +3,7 @@
 
 #include <memory>
 
+#include "zvCfgObjectXmlParser.h"
 #include "zvCoreObject.h"
 #include "zvResult.h"
 #include "zvXMLParser.h"
@@ -11,7 +12,12 @@
 /// further parse adds to what is there.
 class ZV_EXPORT zvCfgMgrXmlParser : public zvCoreObjectCfg {
 public:
+    using InvalidRule = zvCfgObjectXmlParser::InvalidRule;
+
     zvCfgMgrXmlParser();
+    /// Also reports what is wrong, each fault with its place, to `findings`, which may be null and must
+    /// outlive the parser.
+    explicit zvCfgMgrXmlParser(zvFindingSink* findings, InvalidRule invalidRule = InvalidRule::endsTheParse);
     zvCfgMgrXmlParser(const zvCfgMgrXmlParser&) = delete;
     zvCfgMgrXmlParser& operator=(const zvCfgMgrXmlParser&) = delete;
     ~zvCfgMgrXmlParser() override;
@@ -20,9 +26,9 @@ public:
     ///
     /// @return code 0, or a failure with the message that was logged: 1 for a source that cannot be loaded, 2
     /// for a root without child elements, 3 for a root of another name, 4, 5 and 6 for a section with
-    /// objects, lifecycles and views that failed, and -1 for an exception such as a mapping rule's that is
-    /// none. A failure ends the parse; the manager keeps what was added before. Smaller errors are logged,
-    /// and what they concern is left out.
+    /// objects, lifecycles and views that failed, and -1 for an exception such as that of a mapping rule
+    /// that does not parse. A failure ends the parse; the manager keeps what was added before. Smaller errors
+    /// are logged, and what they concern is left out.
     zvResult parse(const zvString& source, bool isFile);
 
     /// The name of the remote system that the last parse found; empty when the file has none.
@@ -36,6 +42,10 @@ private:
     zvResult parseDocument(const zvString& source, bool isFile);
     zvResult parseSections(const zvString& source);
 
+    void report(std::string_view kind, const zvString& text) const;
+
+    zvFindingSink* m_pFindings;
+    InvalidRule m_invalidRule;
     std::unique_ptr<zvXMLParser> m_pParser;  // there during parse() only
     zvString m_strPdmSystemName;
 };

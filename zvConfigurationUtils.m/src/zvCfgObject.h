@@ -7,6 +7,7 @@
 #include "zvCfgAttribute.h"
 #include "zvCfgOwner.h"
 #include "zvCndCondition.h"
+#include "zvFinding.h"
 
 /// A mapped object: a type of the local system, the type of the remote system that it corresponds to, the
 /// attributes that are carried across, and the rule that says when.
@@ -27,6 +28,10 @@ public:
     /// When the mapping applies; a null handle when there is no rule.
     zvCndCondition getMappingRule() const { return m_mappingRule; }
     void setMappingRule(const zvCndCondition& rule) { m_mappingRule = rule; }
+
+    /// Where the element begins in the file that it was read from; unknown when nobody wanted findings of it.
+    zvTextPosition getPosition() const { return m_position; }
+    void setPosition(zvTextPosition position) { m_position = position; }
 
     /// Takes the attribute, also when it refuses it, and indexes it by the names that it has now. A name that
     /// another attribute has already is logged and stays the other's; the attribute is still found by its
@@ -67,6 +72,7 @@ private:
     std::vector<zvCfgAttribute*> m_defaultAttributes;
     zvCfgOwner<zvCfgAttribute> m_attributes;
     zvCndCondition m_mappingRule;
+    zvTextPosition m_position;
 };
 
 #endif

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "zvCfgConfigManager.h"
+#include "zvCfgFindings.h"
 #include "zvCndParsingUtils.h"
 #include "zvDataTypeWords.h"
 #include "zvLogSource.h"
@@ -68,129 +69,230 @@ const zvTransferModeEnum* findTransferMode(View text) {
     return nullptr;
 }
 
-std::unique_ptr<zvCfgAttribute> parseAttribute(const zvXMLElement& element) {
-    auto attribute = std::make_unique<zvCfgAttribute>();
-    attribute->setDataType(zvDataTypeString);
-    element.forEachAttribute([&](View name, View value) {
-        if (name == u"DataType") {
-            attribute->setDataType(zvDataTypeWords::typeOf(value));
-        } else if (!setField(*attribute, attributeFields, name, value) &&
-                   !attribute->addOptionalAttribute(toString(name), toString(value))) {
-            logger.error("Error occured while adding optional attribute : ", toString(name));
+// Reads the objects of a section. What is wrong is logged in the system's own words, and reported in plain
+// ones.
+class ObjectReader {
+public:
+    ObjectReader(const zvXMLParser& parser, zvCfgObjectXmlParser::InvalidRule invalidRule)
+        : m_findings(parser), m_invalidRule(invalidRule) {}
+
+    void read(const zvXMLElement& section) const {
+        bool any = false;
+        for (const zvXMLElement child : section.children()) {
+            any = true;
+            if (child.name() == u"Object") {
+                addObject(child);
+            } else if (child.name() == u"FileObject") {
+                addFile(child);
+            }
         }
-    });
-    return attribute;
-}
-
-void addAttribute(const zvXMLElement& element, zvCfgObject& object) {
-    zvCfgAttribute* const attribute = parseAttribute(element).release();
-    if (!object.addAttribute(attribute)) {
-        logger.error("Attribute ", attribute->localName(),
-                     " of Object with LocalCustType : ", object.getLocalCustomType(), " cannot be added");
-    }
-}
-
-void setMappingRule(const zvXMLElement& element, zvCfgObject& object) {
-    const zvString rule = element.text();
-    zvString trimmed = rule;
-    trimmed.trim();
-    if (!trimmed.empty()) {
-        object.setMappingRule(zvCndParsingUtils::createConditionStructure(rule));
-    }
-}
-
-void addFileExtension(const zvXMLElement& element, zvCfgFile& file) {
-    auto extension = std::make_unique<zvCfgFileExtension>();
-    const zvTransferModeEnum* mode = nullptr;
-    bool hasAttributes = false;
-    bool hasName = false;
-    element.forEachAttribute([&](View name, View value) {
-        hasAttributes = true;
-        if (name == u"Name") {
-            hasName = true;
-            extension->setName(toString(value));
-        } else if (name == u"Import") {
-            extension->setImportAllowed(value == u"True");
-        } else if (name == u"Export") {
-            extension->setExportAllowed(value == u"True");
-        } else if (name == u"TransferMode") {
-            mode = findTransferMode(value);
-        }
-    });
-    if (!hasAttributes) {
-        logger.error("Error occured while parsing attributes of \"", toString(element.name()));
-    }
-    if (mode == nullptr) {
-        logger.warn("Attribute \"TransferMode\" not provided with the Extn");
-    } else {
-        extension->setTransferMode(*mode);
-    }
-    if (!hasName) {
-        logger.error("FileExtn Name not found for FileObject with LocalCustType : ",
-                     file.getLocalCustomType());
-        return;
-    }
-    const zvString name = extension->getName();
-    if (!file.addFileExtension(extension.release())) {
-        logger.error("Error occured while adding file extension : ", name,
-                     " of FileObject with LocalCustType ", file.getLocalCustomType());
-    }
-}
-
-void parseFileExtensions(const zvXMLElement& element, zvCfgFile& file) {
-    logger.debug("Inside function zvCfgObjectXmlParser::parseFileExtensions");
-    bool any = false;
-    for (const zvXMLElement child : element.children(u"Extn")) {
-        any = true;
-        addFileExtension(child, file);
-    }
-    if (!any) {
-        logger.error("Error occured while parsing FileExtension of file Object with LocalCustType : ",
-                     file.getLocalCustomType());
-        logger.error("Error occured while parsing Allowed File Extensions");
-    }
-}
-
-// Reads what files have in common with other objects: the attributes first, then the rules, as the log tells.
-void parseObject(const zvXMLElement& element, zvCfgObject& object) {
-    element.forEachAttribute(
-        [&](View name, View value) { static_cast<void>(setField(object, objectFields, name, value)); });
-    std::vector<zvXMLElement> rules;
-    for (const zvXMLElement child : element.children()) {
-        if (child.name() == u"Attribute") {
-            addAttribute(child, object);
-        } else if (child.name() == u"MappingRule") {
-            rules.push_back(child);
+        if (!any) {
+            logger.error("Neither : Object nor FileObject found inside the ObjectConfig node!");
+            m_findings.error(zvFindingKind::emptySection, section, zvString(), zvString(),
+                             "ObjectConfig holds neither an Object nor a FileObject");
         }
     }
-    for (const zvXMLElement& rule : rules) {
-        setMappingRule(rule, object);
-    }
-}
 
-void addObject(const zvXMLElement& element) {
-    auto object = std::make_unique<zvCfgObject>();
-    parseObject(element, *object);
-    if (!zvCfgConfigManager::getCfgConfigManager()->addObject(object.release())) {
-        logger.error("Error occured while parsing Object in Config file");
+private:
+    void addObject(const zvXMLElement& element) const {
+        auto object = std::make_unique<zvCfgObject>();
+        if (readRuled(element, *object) &&
+            !zvCfgConfigManager::getCfgConfigManager()->addObject(object.release())) {
+            logger.error("Error occured while parsing Object in Config file");
+        }
     }
-}
 
-void addFile(const zvXMLElement& element) {
-    logger.debug("Inside function zvCfgObjectXmlParser::parseFileObject");
-    auto file = std::make_unique<zvCfgFile>();
-    parseObject(element, *file);
-    for (const zvXMLElement extensions : element.children(u"AllowedExtns")) {
-        parseFileExtensions(extensions, *file);
+    void addFile(const zvXMLElement& element) const {
+        logger.debug("Inside function zvCfgObjectXmlParser::parseFileObject");
+        auto file = std::make_unique<zvCfgFile>();
+        if (!readRuled(element, *file)) {
+            return;
+        }
+        for (const zvXMLElement extensions : element.children(u"AllowedExtns")) {
+            readExtensions(extensions, *file);
+        }
+        if (!zvCfgConfigManager::getCfgConfigManager()->addFile(file.release())) {
+            logger.error("Error occured while parsing FileObject in Config file");
+        }
     }
-    if (!zvCfgConfigManager::getCfgConfigManager()->addFile(file.release())) {
-        logger.error("Error occured while parsing FileObject in Config file");
+
+    // What files have in common with other objects. False for an object that is left out for its rule.
+    bool readRuled(const zvXMLElement& element, zvCfgObject& object) const {
+        try {
+            readObject(element, object);
+            return true;
+        } catch (const zvException&) {
+            if (m_invalidRule == zvCfgObjectXmlParser::InvalidRule::endsTheParse) {
+                throw;
+            }
+            return false;
+        }
     }
-}
+
+    // The attributes first, then the rules, as the log tells.
+    void readObject(const zvXMLElement& element, zvCfgObject& object) const {
+        element.forEachAttribute(
+            [&](View name, View value) { static_cast<void>(setField(object, objectFields, name, value)); });
+        object.setPosition(m_findings.positionOf(element));
+        std::vector<zvXMLElement> rules;
+        for (const zvXMLElement child : element.children()) {
+            if (child.name() == u"Attribute") {
+                addAttribute(child, object);
+            } else if (child.name() == u"MappingRule") {
+                rules.push_back(child);
+            }
+        }
+        for (const zvXMLElement& rule : rules) {
+            setMappingRule(rule, object);
+        }
+    }
+
+    void addAttribute(const zvXMLElement& element, zvCfgObject& object) const {
+        zvCfgAttribute* const attribute = parseAttribute(element).release();
+        attribute->setPosition(m_findings.positionOf(element));
+        const zvString taken = m_findings.areWanted() ? namesTaken(*attribute, object) : zvString();
+        const bool isAdded = object.addAttribute(attribute);
+        if (!isAdded) {
+            logger.error("Attribute ", attribute->localName(),
+                         " of Object with LocalCustType : ", object.getLocalCustomType(), " cannot be added");
+        }
+        if (!taken.empty()) {
+            m_findings.report(isAdded ? zvFinding::Severity::warning : zvFinding::Severity::error,
+                              zvFindingKind::duplicateName, element, object, attribute->anyName(),
+                              "an earlier attribute has the same ", taken);
+        } else if (!isAdded) {
+            m_findings.error(zvFindingKind::missingName, element, object, zvString(),
+                             "an attribute without LocalName, RemoteName and Key is never used");
+        }
+    }
+
+    // Which of the attribute's names another one of the object has.
+    static zvString namesTaken(const zvCfgAttribute& attribute, const zvCfgObject& object) {
+        std::vector<const char*> words;
+        if (object.getAttributeByLocalName(attribute.localName()) != nullptr) {
+            words.push_back("LocalName");
+        }
+        if (object.getAttributeByRemoteName(attribute.remoteName()) != nullptr) {
+            words.push_back("RemoteName");
+        }
+        if (object.getAttributeByKey(attribute.keyName()) != nullptr) {
+            words.push_back("Key");
+        }
+        return zvCfgFindings::listOf(words);
+    }
+
+    static std::unique_ptr<zvCfgAttribute> parseAttribute(const zvXMLElement& element) {
+        auto attribute = std::make_unique<zvCfgAttribute>();
+        attribute->setDataType(zvDataTypeString);
+        element.forEachAttribute([&](View name, View value) {
+            if (name == u"DataType") {
+                attribute->setDataType(zvDataTypeWords::typeOf(value));
+            } else if (!setField(*attribute, attributeFields, name, value) &&
+                       !attribute->addOptionalAttribute(toString(name), toString(value))) {
+                logger.error("Error occured while adding optional attribute : ", toString(name));
+            }
+        });
+        return attribute;
+    }
+
+    void setMappingRule(const zvXMLElement& element, zvCfgObject& object) const {
+        const zvString rule = element.text();
+        zvString trimmed = rule;
+        trimmed.trim();
+        if (trimmed.empty()) {
+            return;
+        }
+        try {
+            object.setMappingRule(zvCndParsingUtils::createConditionStructure(rule));
+        } catch (const zvException& exception) {
+            const zvResult result = exception.getResult();
+            const int character = zvString::convertUnicodeToInt(result.getAdditionalInformation());
+            m_findings.error(zvFindingKind::invalidRule, element, object, zvString(),
+                             "the mapping rule does not parse at its character ", character + 1, ": ",
+                             result.getMessage());
+            throw;
+        }
+    }
+
+    void readExtensions(const zvXMLElement& element, zvCfgFile& file) const {
+        logger.debug("Inside function zvCfgObjectXmlParser::parseFileExtensions");
+        bool any = false;
+        for (const zvXMLElement child : element.children(u"Extn")) {
+            any = true;
+            addExtension(child, file);
+        }
+        if (!any) {
+            logger.error("Error occured while parsing FileExtension of file Object with LocalCustType : ",
+                         file.getLocalCustomType());
+            logger.error("Error occured while parsing Allowed File Extensions");
+            m_findings.error(zvFindingKind::emptySection, element, file, zvString(),
+                             "AllowedExtns holds no Extn");
+        }
+    }
+
+    void addExtension(const zvXMLElement& element, zvCfgFile& file) const {
+        auto extension = std::make_unique<zvCfgFileExtension>();
+        extension->setPosition(m_findings.positionOf(element));
+        const bool hasName = readExtension(element, file, *extension);
+        const zvString name = extension->getName();
+        if (!hasName) {
+            logger.error("FileExtn Name not found for FileObject with LocalCustType : ",
+                         file.getLocalCustomType());
+            m_findings.error(zvFindingKind::missingName, element, file, zvString(),
+                             "an extension without a Name is left out");
+        } else if (!file.addFileExtension(extension.release())) {
+            logger.error("Error occured while adding file extension : ", name,
+                         " of FileObject with LocalCustType ", file.getLocalCustomType());
+            m_findings.error(name.empty() ? zvFindingKind::missingName : zvFindingKind::duplicateName,
+                             element, file, name,
+                             name.empty() ? "an extension with an empty Name is left out"
+                                          : "the extension is listed before: this one is left out");
+        }
+    }
+
+    // Whether the extension has a name.
+    bool readExtension(const zvXMLElement& element, const zvCfgFile& file,
+                       zvCfgFileExtension& extension) const {
+        const zvTransferModeEnum* mode = nullptr;
+        zvString modeText;
+        bool hasAttributes = false;
+        bool hasName = false;
+        element.forEachAttribute([&](View name, View value) {
+            hasAttributes = true;
+            if (name == u"Name") {
+                hasName = true;
+                extension.setName(toString(value));
+            } else if (name == u"Import") {
+                extension.setImportAllowed(value == u"True");
+            } else if (name == u"Export") {
+                extension.setExportAllowed(value == u"True");
+            } else if (name == u"TransferMode") {
+                mode = findTransferMode(value);
+                modeText = toString(value);
+            }
+        });
+        if (!hasAttributes) {
+            logger.error("Error occured while parsing attributes of \"", toString(element.name()));
+        }
+        if (mode == nullptr) {
+            logger.warn("Attribute \"TransferMode\" not provided with the Extn");
+            m_findings.warning(zvFindingKind::unknownTransferMode, element, file, extension.getName(),
+                               "TransferMode \"", modeText, "\" is neither ASCII nor BINARY: BINARY is used");
+        } else {
+            extension.setTransferMode(*mode);
+        }
+        return hasName;
+    }
+
+    zvCfgFindings m_findings;
+    zvCfgObjectXmlParser::InvalidRule m_invalidRule;
+};
 
 }  // namespace
 
-zvCfgObjectXmlParser::zvCfgObjectXmlParser() = default;
+zvCfgObjectXmlParser::zvCfgObjectXmlParser() : zvCfgObjectXmlParser(InvalidRule::endsTheParse) {}
+
+zvCfgObjectXmlParser::zvCfgObjectXmlParser(InvalidRule invalidRule) : m_invalidRule(invalidRule) {}
 
 zvCfgObjectXmlParser::zvCfgObjectXmlParser(const zvCfgObjectXmlParser& other) = default;
 
@@ -205,17 +307,6 @@ zvResult zvCfgObjectXmlParser::parseObjectConfig(zvXMLParser& parser) const {
         logger.error("Error occured while parsing : ObjectConfig node!");
         return {};
     }
-    bool any = false;
-    for (const zvXMLElement child : zvXMLElement(*section).children()) {
-        any = true;
-        if (child.name() == u"Object") {
-            addObject(child);
-        } else if (child.name() == u"FileObject") {
-            addFile(child);
-        }
-    }
-    if (!any) {
-        logger.error("Neither : Object nor FileObject found inside the ObjectConfig node!");
-    }
+    ObjectReader(parser, m_invalidRule).read(zvXMLElement(*section));
     return 0;
 }

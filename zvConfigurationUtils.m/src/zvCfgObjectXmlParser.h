@@ -8,17 +8,26 @@
 /// manager.
 class ZV_EXPORT zvCfgObjectXmlParser {
 public:
+    /// What happens when a mapping rule does not parse.
+    enum class InvalidRule { endsTheParse, leavesOutItsObject };
+
+    /// An invalid rule ends the parse.
     zvCfgObjectXmlParser();
+    explicit zvCfgObjectXmlParser(InvalidRule invalidRule);
     zvCfgObjectXmlParser(const zvCfgObjectXmlParser& other);
     virtual ~zvCfgObjectXmlParser();
 
     zvCfgObjectXmlParser& operator=(const zvCfgObjectXmlParser& other);
 
-    /// Reads the section that the cursor of `parser` stands on. What is wrong in it is logged and left out;
-    /// the result is a failure only without an element to read.
+    /// Reads the section that the cursor of `parser` stands on. What is wrong in it is logged, reported to
+    /// the parser's sink for findings, and left out; the result is a failure only without an element to read.
     ///
-    /// @throws zvException for a mapping rule that is none, with what came before it in the manager.
+    /// @throws zvException for a mapping rule that does not parse, if it ends the parse; what came before it
+    /// is in the manager.
     zvResult parseObjectConfig(zvXMLParser& parser) const;
+
+private:
+    InvalidRule m_invalidRule;
 };
 
 #endif

@@ -11,10 +11,10 @@
 #include "zvEvaluateCommand.h"
 #include "zvEventRoad.h"
 #include "zvException.h"
-#include "zvPlatform.h"
+#include "zvFailure.h"
+#include "zvProcess.h"
 #include "zvSecrets.h"
 #include "zvShowCommand.h"
-#include "zvStepFailure.h"
 
 namespace {
 
@@ -26,9 +26,9 @@ and there may be
   LocalType, RemoteType  the type of the event's object in the system that it comes from: it is mapped
   attr.NAME              an attribute of the object
   FromState, ToState     lifecycle states of the object: the way between them is shown
-  ConfigFile             the configuration, in the place of the gateway home's
+  ConfigFile             the configuration, instead of the gateway home's
   AttachmentsFile        an XML file that lists the files which the event carries
-  EventShadowDir         the directory, below RootShadowDir, of an earlier run of the event: it goes on there, and
+  EventShadowDir         the directory, below RootShadowDir, of an earlier run of the event: it resumes there, and
                          what arrived is not sent again
 All others travel with the event. A "\" before a "=" puts the "=" into the key. The values of LoginPassword and
 KPDMPasswd are never shown.
@@ -43,7 +43,7 @@ Files are sent by the Java client on CLASSPATH; when that is not set, by the one
 Exit codes
   0  the event went the whole road
   1  something unexpected
-  2  the command line: an unknown option, an argument is missing or of no use
+  2  the command line: an unknown option, a missing or an invalid argument
   3  the gateway home or a configuration file in it
   4  the event's shadow directory
   5  the event's attachments
@@ -61,9 +61,9 @@ int fail(zvExitCode code, const std::string& message) {
 zvExitCode takeEvent(zvEventRoad& road, std::vector<std::string> arguments) {
     for (const std::string& argument : arguments) {
         if (argument.rfind('-', 0) == 0) {
-            throw zvStepFailure{zvExitCode::usage, "options",
-                                zvConsole::printable(zvSecrets::maskedArgument(argument.c_str())),
-                                "there is no such option (see zvgateway --help)"};
+            throw zvProgramFailure{zvExitCode::usage, "options",
+                                   zvConsole::printable(zvSecrets::maskedArgument(argument.c_str())),
+                                   "there is no such option (see zvgateway --help)"};
         }
     }
     road.arguments = std::move(arguments);
@@ -85,15 +85,16 @@ int finish(zvExitCode code) {
 void goWithoutHome() {
     const zvString variable = zvCommonUtils::getGatewayHomeEnvVariable();
     if (zvCommonUtils::getEnvironmentalVariable(variable).empty()) {
-        zvPlatform::setEnvironment(zvCharString(variable).data(), "no-gateway-home");
+        zvProcess::setEnvironment(zvCharString(variable).data(), "no-gateway-home");
     }
 }
 
-constexpr char checkFooter[] = R"(Prints a line for each fault, and their number at the end.
+constexpr char checkFooter[] =
+    R"(Prints a line for each fault, as file:line:column: severity: text [kind], and their number at the end.
 Errors
-  what is left out when the file is read, and what ends the reading
+  what is left out when the file is read, a mapping rule that does not parse, and what ends the reading
   an object that nothing reaches: an earlier one of the same types has no mapping rule
-  an attribute whose data type is none of the five
+  an attribute with an unknown data type
 Warnings
   a name that is another attribute's already; an extension without a transfer mode
   an object that is not reached from its local, or its remote, type alone; an object without types
@@ -116,7 +117,7 @@ void declareShow(CLI::App& program, zvShowCommand& command) {
     show.add_option("file", command.file, "The configuration file")->required();
     show.add_option("--html", command.page, "Writes it as a page with a search field and pictures instead");
     show.footer(
-        "A configuration that is not read to its end: exit code 6. A page that cannot be written: 2.");
+        "Exit code 6 for a configuration that is not read to its end, 2 for a page that cannot be written.");
 }
 
 // Declares the program's options, and runs what the command line asks for.
@@ -136,12 +137,12 @@ int runProgram(int argc, char** argv) {
     eval.add_option("attributes", evaluation.attributes,
                     "name=value or name:Type=value, the type being Integer, Float, String, Date or Boolean");
     eval.add_flag("--explain", evaluation.explain, "Prints the outcome of every part");
-    eval.footer("Prints true or false. A condition or an attribute that is of no use: exit code 2.");
+    eval.footer("Prints true or false. Exit code 2 for an invalid condition or attribute.");
     zvCheckCommand checking;
     const CLI::App& check = declareCheck(program, checking);
     zvShowCommand showing;
     declareShow(program, showing);
-    program.allow_extras();  // behind the subcommands, which would inherit it
+    program.allow_extras();  // after the subcommands, which would inherit it
 
     try {
         program.parse(argc, argv);
@@ -160,10 +161,10 @@ int runProgram(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    zvPlatform::adoptUserLocale();
+    zvCommonUtils::adoptUserLocale();
     try {
         return runProgram(argc, argv);
-    } catch (const zvStepFailure& failure) {
+    } catch (const zvProgramFailure& failure) {
         return fail(failure.exitCode, failure.step + ": " + failure.subject + ": " + failure.reason);
     } catch (const zvException& exception) {
         return fail(zvExitCode::unexpected, zvConsole::printable(exception.getResult().getMessage()));

@@ -27,7 +27,7 @@ std::filesystem::path pathOf(const std::string& path);
 /// The path as narrow text; empty for a path that has none in this locale.
 std::string textOf(const std::filesystem::path& path);
 
-/// The system's number for the last refusal of createDirectory, createFile, closeHandle or claimFile.
+/// The system's number for the last refusal of createDirectory, createFile or closeHandle.
 unsigned long lastError();
 /// The system's text for such a number.
 std::string errorText(unsigned long error);
@@ -74,14 +74,6 @@ const char* decimalPoint();
 
 /// The number by which the system knows this process.
 unsigned long processId();
-/// The path of this process's program file; empty when the system does not tell it.
-std::string programPath();
-
-/// What became of an attempt to take a file.
-enum class Claim { taken, takenByAnother, refused };
-/// Takes a file, which is created if need be, for this process until it ends: an agreement among those who
-/// ask, which keeps nobody from reading or writing. lastError() has the reason for `refused`.
-Claim claimFile(const char* path);
 
 /// Puts the calling thread to sleep.
 void sleep(unsigned long milliseconds);

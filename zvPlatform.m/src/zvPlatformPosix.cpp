@@ -1,7 +1,6 @@
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <langinfo.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -192,25 +191,6 @@ void adoptUserLocale() {
 const char* decimalPoint() { return nl_langinfo(RADIXCHAR); }
 
 unsigned long processId() { return static_cast<unsigned long>(::getpid()); }
-
-std::string programPath() {
-    std::error_code error;
-    return std::filesystem::read_symlink("/proc/self/exe", error).string();
-}
-
-Claim claimFile(const char* path) {
-    // The descriptor stays open, and with it the claim.
-    const int descriptor = ::open(nativePath(path).c_str(), O_RDWR | O_CREAT | O_CLOEXEC, fileMode);
-    if (!succeeded(descriptor >= 0)) {
-        return Claim::refused;
-    }
-    if (::flock(descriptor, LOCK_EX | LOCK_NB) == 0) {
-        return Claim::taken;
-    }
-    const bool isAnothers = succeeded(false) || lastFailure == EWOULDBLOCK;
-    ::close(descriptor);
-    return isAnothers ? Claim::takenByAnother : Claim::refused;
-}
 
 void sleep(unsigned long milliseconds) {
     std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));

@@ -112,37 +112,6 @@ const char* decimalPoint() { return std::localeconv()->decimal_point; }
 
 unsigned long processId() { return ::GetCurrentProcessId(); }
 
-std::string programPath() {
-    std::string path(MAX_PATH, '\0');
-    for (;;) {
-        const DWORD length = ::GetModuleFileNameA(nullptr, path.data(), static_cast<DWORD>(path.size()));
-        if (length < path.size()) {
-            path.resize(length);
-            return path;
-        }
-        path.resize(2 * path.size());
-    }
-}
-
-Claim claimFile(const char* path) {
-    // The handle stays open, and with it the claim.
-    const HANDLE handle = ::CreateFileA(path, GENERIC_READ | GENERIC_WRITE,
-                                        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                        OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (!succeeded(handle != INVALID_HANDLE_VALUE)) {
-        return Claim::refused;
-    }
-    // A byte far behind the end, where the lock is in nobody's way.
-    OVERLAPPED place{};
-    place.OffsetHigh = MAXLONG;
-    if (::LockFileEx(handle, LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &place) != 0) {
-        return Claim::taken;
-    }
-    const bool isAnothers = succeeded(false) || lastFailure == ERROR_LOCK_VIOLATION;
-    ::CloseHandle(handle);
-    return isAnothers ? Claim::takenByAnother : Claim::refused;
-}
-
 void sleep(unsigned long milliseconds) { ::Sleep(milliseconds); }
 
 zvInt64 currentTime() { return ::_time64(nullptr); }

@@ -60,19 +60,4 @@ TEST(zvPlatform, OpensNoDirectoryForReading) {
     EXPECT_EQ(std::fclose(file.release()), 0);
 }
 
-TEST(zvPlatform, AFileIsClaimedOnce) {
-    const zvTemporaryFolder folder;
-    const std::string path = folder.file("claimed");
-    EXPECT_EQ(zvPlatform::claimFile(path.c_str()), zvPlatform::Claim::taken);
-    EXPECT_EQ(zvPlatform::claimFile(path.c_str()), zvPlatform::Claim::takenByAnother);
-    EXPECT_NE(zvPlatform::openForReading(path.c_str()), nullptr);
-    EXPECT_EQ(zvPlatform::claimFile(folder.file("no/claimed").c_str()), zvPlatform::Claim::refused);
-    EXPECT_EQ(zvPlatform::errorText(zvPlatform::lastError()),
-              onWindows ? "Path not found" : "No such file or directory");
-}
-
-TEST(zvPlatform, KnowsItsProgram) {
-    EXPECT_TRUE(std::filesystem::is_regular_file(zvPlatform::programPath()));
-}
-
 }  // namespace

@@ -35,9 +35,22 @@ struct Place {
     zvString line, column, nodeName, nodeValue;
 };
 
+zvFinding findingOf(const DOMError& error, const zvString& message) {
+    zvFinding finding;
+    const bool isFatal = error.getSeverity() == DOMError::DOM_SEVERITY_FATAL_ERROR;
+    finding.kind = isFatal ? zvFindingKind::notWellFormed : zvFindingKind::invalidMarkup;
+    finding.text = isFatal ? "the document is read up to here only: " + message : message;
+    if (const DOMLocator* const location = error.getLocation()) {
+        finding.position = {static_cast<int>(location->getLineNumber()),
+                            static_cast<int>(location->getColumnNumber())};
+    }
+    return finding;
+}
+
 }  // namespace
 
-zvDOMErrorHandler::zvDOMErrorHandler() : m_result(0), m_collected(0) {}
+zvDOMErrorHandler::zvDOMErrorHandler(zvFindingSink* findings)
+    : m_pFindings(findings), m_result(0), m_collected(0) {}
 zvDOMErrorHandler::~zvDOMErrorHandler() = default;
 
 bool zvDOMErrorHandler::handleError(const DOMError& error) {
@@ -58,6 +71,9 @@ bool zvDOMErrorHandler::handleError(const DOMError& error) {
         m_errors.addString(line);
         m_collected += line.size();
         goOn = m_collected < mostCollected;
+    }
+    if (m_pFindings != nullptr) {
+        m_pFindings->report(findingOf(error, message));
     }
     logger.info("End: zvDOMErrorHandler::handleError");
     return goOn;

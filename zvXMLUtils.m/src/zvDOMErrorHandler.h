@@ -4,6 +4,7 @@
 #include <xercesc/dom/DOMErrorHandler.hpp>
 
 #include "zvExport.h"
+#include "zvFinding.h"
 #include "zvResult.h"
 #include "zvStringList.h"
 
@@ -11,7 +12,8 @@
 /// fatal error stops the parse but is not collected: what was read before it is a document.
 class ZV_EXPORT zvDOMErrorHandler : public xercesc::DOMErrorHandler {
 public:
-    zvDOMErrorHandler();
+    /// Also reports what goes wrong to `findings`, which may be null and must outlive the handler.
+    explicit zvDOMErrorHandler(zvFindingSink* findings = nullptr);
     zvDOMErrorHandler(const zvDOMErrorHandler&) = delete;
     zvDOMErrorHandler& operator=(const zvDOMErrorHandler&) = delete;
     ~zvDOMErrorHandler() override;
@@ -25,6 +27,7 @@ public:
     zvResult takeResult();
 
 private:
+    zvFindingSink* m_pFindings;
     zvResult m_result;
     zvStringList m_errors;
     int m_collected;  // code units in m_errors

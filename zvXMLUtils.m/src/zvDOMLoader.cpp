@@ -17,6 +17,7 @@
 #include "zvXMLGuardedParser.h"
 #include "zvXMLLocation.h"
 #include "zvXMLMemory.h"
+#include "zvXMLPositions.h"
 #include "zvXMLText.h"
 
 namespace fs = std::filesystem;
@@ -25,6 +26,7 @@ using xercesc::DOMDocument;
 using xercesc::DOMException;
 using xercesc::DOMImplementation;
 using xercesc::DOMImplementationRegistry;
+using xercesc::DOMNode;
 using xercesc::InputSource;
 using xercesc::LocalFileInputSource;
 using xercesc::MemBufInputSource;
@@ -73,8 +75,11 @@ File fileAt(const char* location) {
 class zvDOMLoader::Tree {
 public:
     explicit Tree(DOMDocument* created) : m_pDocument(created) {}
-    Tree(const fs::path& folder, std::uintmax_t sourceBytes)
-        : m_pParser(std::make_unique<zvXMLGuardedParser>(m_memory, folder)), m_pDocument(nullptr) {
+    Tree(const fs::path& folder, std::uintmax_t sourceBytes, zvFindingSink* findings)
+        : m_pFindings(findings),
+          m_pPositions(findings == nullptr ? nullptr : std::make_unique<zvXMLPositions>()),
+          m_pParser(std::make_unique<zvXMLGuardedParser>(m_memory, folder, m_pPositions.get())),
+          m_pDocument(nullptr) {
         m_memory.allowFor(sourceBytes);
     }
     Tree(const Tree&) = delete;
@@ -87,7 +92,7 @@ public:
     }
 
     zvResult parse(InputSource& source) {
-        zvDOMErrorHandler handler;
+        zvDOMErrorHandler handler(m_pFindings);
         m_pParser->setParameter(XMLUni::fgDOMErrorHandler, &handler);
         m_pDocument = m_pParser->parseSource(source);
         m_pParser->setParameter(XMLUni::fgDOMErrorHandler, static_cast<const void*>(nullptr));
@@ -95,14 +100,19 @@ public:
         return handler.takeResult();
     }
     DOMDocument* document() const { return m_pDocument; }
+    zvTextPosition positionOf(const DOMNode* node) const {
+        return m_pPositions == nullptr ? zvTextPosition{} : m_pPositions->of(node);
+    }
 
 private:
+    zvFindingSink* m_pFindings = nullptr;
     zvXMLMemory m_memory;
+    std::unique_ptr<zvXMLPositions> m_pPositions;   // null when nobody wants findings
     std::unique_ptr<zvXMLGuardedParser> m_pParser;  // owns the document that it parsed
     DOMDocument* m_pDocument;
 };
 
-zvDOMLoader::zvDOMLoader() : m_result(0) {}
+zvDOMLoader::zvDOMLoader(zvFindingSink* findings) : m_pFindings(findings), m_result(0) {}
 zvDOMLoader::~zvDOMLoader() = default;
 
 bool zvDOMLoader::parse(const char* source, bool isFile) {
@@ -111,7 +121,7 @@ bool zvDOMLoader::parse(const char* source, bool isFile) {
             return parseFile(source);
         }
         const std::size_t length = std::strlen(source);
-        m_pTree = std::make_unique<Tree>(fs::path(), length);
+        m_pTree = std::make_unique<Tree>(fs::path(), length, m_pFindings);
         MemBufInputSource input(reinterpret_cast<const XMLByte*>(source), length, textSystemId);
         return parseSource(input);
     });
@@ -122,7 +132,7 @@ bool zvDOMLoader::parseText(const zvString& text) {
     return guarded([&] {
         const int start = text[0] == byteOrderMark ? 1 : 0;
         const std::size_t bytes = static_cast<std::size_t>(text.size() - start) * sizeof(wchar16);
-        m_pTree = std::make_unique<Tree>(fs::path(), bytes);
+        m_pTree = std::make_unique<Tree>(fs::path(), bytes, m_pFindings);
         MemBufInputSource input(reinterpret_cast<const XMLByte*>(text.data() + start), bytes, textSystemId);
         input.setEncoding(XMLUni::fgXMLChEncodingString);
         return parseSource(input);
@@ -135,7 +145,7 @@ bool zvDOMLoader::parseFile(const char* location) {
     if (path.empty()) {
         logger.raise("XML document refused: \"", location, "\" is not a name in this locale");
     }
-    m_pTree = std::make_unique<Tree>(file.folder, file.size);
+    m_pTree = std::make_unique<Tree>(file.folder, file.size, m_pFindings);
     LocalFileInputSource input(zvXMLChars(path).get());
     return parseSource(input);
 }
@@ -154,20 +164,34 @@ bool zvDOMLoader::guarded(Parse parse) {
         if (parse()) {
             return true;
         }
-    } catch (const zvException&) {
-        // Refused, and logged where it was refused.
+    } catch (const zvException& exception) {
+        report(exception.getResult().getMessage());  // logged where it was refused
     } catch (const XMLException& exception) {
         logger.error("Error during parsing: '", "Exception message is:  ", toString(exception.getMessage()));
+        report(toString(exception.getMessage()));
     } catch (const DOMException& exception) {
         logger.error("DOM Error during parsing: '", "Message is: ", toString(exception.getMessage()));
+        report(toString(exception.getMessage()));
     } catch (const OutOfMemoryException&) {
-        logger.error("Unexpected exception during parsing: '",
-                     "no memory left, or more of it taken than a document of its size may take");
+        constexpr const char* reason =
+            "no memory left, or more of it taken than a document of its size may take";
+        logger.error("Unexpected exception during parsing: '", reason);
+        report(reason);
     } catch (...) {
         logger.error("Unexpected exception during parsing: '");
+        report("unexpected exception");
     }
     m_pTree.reset();
     return false;
+}
+
+void zvDOMLoader::report(const zvString& text) const {
+    if (m_pFindings != nullptr) {
+        zvFinding finding;
+        finding.kind = zvFindingKind::notLoaded;
+        finding.text = text;
+        m_pFindings->report(finding);
+    }
 }
 
 bool zvDOMLoader::createDocument(const zvString& rootName, const zvString& namespaceURI) {
@@ -189,6 +213,10 @@ bool zvDOMLoader::createDocument(const zvString& rootName, const zvString& names
 }
 
 DOMDocument* zvDOMLoader::getDocument() const { return m_pTree == nullptr ? nullptr : m_pTree->document(); }
+
+zvTextPosition zvDOMLoader::getPosition(const DOMNode* node) const {
+    return m_pTree == nullptr ? zvTextPosition{} : m_pTree->positionOf(node);
+}
 
 void zvDOMLoader::releaseDocument() { m_pTree.reset(); }
 

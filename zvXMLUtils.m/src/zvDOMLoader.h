@@ -5,11 +5,13 @@
 #include <xercesc/util/XercesDefs.hpp>
 
 #include "zvCoreObject.h"
+#include "zvFinding.h"
 #include "zvResult.h"
 #include "zvString.h"
 
 XERCES_CPP_NAMESPACE_BEGIN
 class DOMDocument;
+class DOMNode;
 class InputSource;
 XERCES_CPP_NAMESPACE_END
 
@@ -18,7 +20,9 @@ XERCES_CPP_NAMESPACE_END
 /// It needs the XML platform initialised for as long as it has a document.
 class ZV_EXPORT zvDOMLoader : public zvCoreObject {
 public:
-    zvDOMLoader();
+    /// Also reports why a document does not come out whole to `findings`, which may be null and must outlive
+    /// the loader. Positions are kept for a loader with findings only.
+    explicit zvDOMLoader(zvFindingSink* findings = nullptr);
     zvDOMLoader(const zvDOMLoader&) = delete;
     zvDOMLoader& operator=(const zvDOMLoader&) = delete;
     ~zvDOMLoader() override;
@@ -34,6 +38,9 @@ public:
     /// Null without a document.
     xercesc::DOMDocument* getDocument() const;
     void releaseDocument();
+    /// Where an element begins in the source; unknown for every other node.
+    zvTextPosition getPosition(const xercesc::DOMNode* node) const;
+    zvFindingSink* getFindingSink() const { return m_pFindings; }
     /// Code -1 and "XML PARSING ERROR" when the last parse found warnings or errors, code 0 otherwise.
     zvResult getResult() const;
 
@@ -44,7 +51,9 @@ private:
     bool guarded(Parse parse);
     bool parseFile(const char* location);
     bool parseSource(xercesc::InputSource& source);
+    void report(const zvString& text) const;
 
+    zvFindingSink* m_pFindings;
     zvResult m_result;
     std::unique_ptr<Tree> m_pTree;
 };

@@ -19,6 +19,7 @@ public:
     /// The element must live longer.
     explicit zvXMLElement(const xercesc::DOMElement& element) : m_pElement(&element) {}
 
+    const xercesc::DOMElement* node() const { return m_pElement; }
     View name() const { return m_pElement->getNodeName(); }
 
     /// The children that are elements, for a range-based loop: all of them, or those of that name.

@@ -7,6 +7,7 @@
 #include <system_error>
 #include <utility>
 #include <vector>
+#include <xercesc/dom/DOMElement.hpp>
 #include <xercesc/framework/LocalFileInputSource.hpp>
 #include <xercesc/framework/Wrapper4InputSource.hpp>
 #include <xercesc/framework/XMLErrorCodes.hpp>
@@ -24,12 +25,14 @@
 #include "zvPlatform.h"
 #include "zvXMLLocation.h"
 #include "zvXMLMemory.h"
+#include "zvXMLPositions.h"
 #include "zvXMLText.h"
 
 namespace fs = std::filesystem;
 
 using xercesc::ContentSpecNode;
 using xercesc::DOMDocument;
+using xercesc::DOMElement;
 using xercesc::DTDAttDef;
 using xercesc::DTDElementDecl;
 using xercesc::DTDEntityDecl;
@@ -91,10 +94,11 @@ ContentModel measured(const ContentSpecNode& model) {
 
 }  // namespace
 
-zvXMLGuardedParser::zvXMLGuardedParser(zvXMLMemory& memory, fs::path folder)
+zvXMLGuardedParser::zvXMLGuardedParser(zvXMLMemory& memory, fs::path folder, zvXMLPositions* positions)
     : DOMLSParserImpl(nullptr, &memory, nullptr),
       m_memory(memory),
       m_folder(std::move(folder)),
+      m_pPositions(positions),
       m_bytesReadAgain(0),
       m_entities(0),
       m_longestEntity(0),
@@ -188,7 +192,52 @@ void zvXMLGuardedParser::startElement(const XMLElementDecl& declaration, const u
         logger.raise("XML document refused: too many attributes for element '",
                      zvXMLText::toString(declaration.getFullName()), "'");
     }
+    if (isRoot) {
+        endPiece();  // nothing tells of the white space before it
+    }
     DOMLSParserImpl::startElement(declaration, uriId, prefix, attributes, attributeCount, isEmpty, isRoot);
+    endPiece();
+}
+
+void zvXMLGuardedParser::endElement(const XMLElementDecl& declaration, const unsigned int uriId,
+                                    const bool isRoot, const XMLCh* const prefix) {
+    DOMLSParserImpl::endElement(declaration, uriId, isRoot, prefix);
+    endPiece();
+}
+
+void zvXMLGuardedParser::docCharacters(const XMLCh* const text, const XMLSize_t length, const bool isCData) {
+    DOMLSParserImpl::docCharacters(text, length, isCData);
+    endPiece();
+}
+
+void zvXMLGuardedParser::ignorableWhitespace(const XMLCh* const text, const XMLSize_t length,
+                                             const bool isCData) {
+    DOMLSParserImpl::ignorableWhitespace(text, length, isCData);
+    endPiece();
+}
+
+void zvXMLGuardedParser::docComment(const XMLCh* const text) {
+    DOMLSParserImpl::docComment(text);
+    endPiece();
+}
+
+void zvXMLGuardedParser::docPI(const XMLCh* const target, const XMLCh* const data) {
+    DOMLSParserImpl::docPI(target, data);
+    endPiece();
+}
+
+DOMElement* zvXMLGuardedParser::createElement(const XMLCh* name) {
+    DOMElement* const element = DOMLSParserImpl::createElement(name);
+    if (m_pPositions != nullptr) {
+        m_pPositions->beginElement(element);
+    }
+    return element;
+}
+
+void zvXMLGuardedParser::endPiece() {
+    if (m_pPositions != nullptr) {
+        m_pPositions->endPiece(*getScanner()->getLocator());
+    }
 }
 
 void zvXMLGuardedParser::elementDecl(const DTDElementDecl& declaration, const bool isIgnored) {

@@ -4,11 +4,14 @@
 #include <xercesc/dom/DOM.hpp>
 #include <xercesc/framework/MemBufFormatTarget.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
+#include <xercesc/util/XMLChar.hpp>
 #include <xercesc/util/XMLException.hpp>
 
 #include "zvDOMLoader.h"
 #include "zvDirFileUtils.h"
+#include "zvException.h"
 #include "zvLogSource.h"
+#include "zvSurrogate.h"
 #include "zvTextCodec.h"
 #include "zvXERCESDOMNODEList.h"
 #include "zvXMLElement.h"
@@ -23,6 +26,7 @@ using xercesc::DOMException;
 using xercesc::DOMNamedNodeMap;
 using xercesc::DOMNode;
 using xercesc::MemBufFormatTarget;
+using xercesc::XMLChar1_0;
 using xercesc::XMLException;
 using xercesc::XMLPlatformUtils;
 using zvXMLText::toString;
@@ -58,7 +62,11 @@ DOMElement* nextNamed(DOMNode* node, const DOMElement* top, const zvXMLChars& na
 
 }  // namespace
 
-zvXMLParser::zvXMLParser() : m_pCurrentNode(nullptr), m_pRootNode(nullptr) { init(); }
+zvXMLParser::zvXMLParser() : zvXMLParser(static_cast<zvFindingSink*>(nullptr)) {}
+
+zvXMLParser::zvXMLParser(zvFindingSink* findings) : m_pCurrentNode(nullptr), m_pRootNode(nullptr) {
+    init(findings);
+}
 
 zvXMLParser::zvXMLParser(const zvString& source, bool isFile) : zvXMLParser() {
     static_cast<void>(loadXMLFromString(source, isFile));
@@ -72,8 +80,8 @@ zvXMLParser::~zvXMLParser() {
     }
 }
 
-void zvXMLParser::init() {
-    m_pLoader = std::make_unique<zvDOMLoader>();
+void zvXMLParser::init(zvFindingSink* findings) {
+    m_pLoader = std::make_unique<zvDOMLoader>(findings);
     try {
         const std::lock_guard<std::mutex> guard(platformCount);
         XMLPlatformUtils::Initialize();
@@ -131,6 +139,14 @@ DOMElement* zvXMLParser::getRootElement() const {
 DOMNode* zvXMLParser::getRootNode() const { return m_pRootNode; }
 
 DOMNode* zvXMLParser::getCurrentNode() const { return m_pCurrentNode; }
+
+zvTextPosition zvXMLParser::getPosition(const DOMNode* node) const {
+    return m_pLoader == nullptr ? zvTextPosition{} : m_pLoader->getPosition(node);
+}
+
+zvFindingSink* zvXMLParser::getFindingSink() const {
+    return m_pLoader == nullptr ? nullptr : m_pLoader->getFindingSink();
+}
 
 bool zvXMLParser::changeCurrentNode(DOMNode* node) {
     if (node == nullptr) {
@@ -361,31 +377,60 @@ zvString zvXMLParser::getStringFromXMLCh(const XMLCh* text) { return toString(te
 
 zvString zvXMLParser::getStringFromXMLCh(const unsigned short* text) { return {text}; }
 
+bool zvXMLParser::isXMLText(const zvString& text) {
+    for (int i = 0; i < text.size(); ++i) {
+        const wchar16 unit = text[i];
+        // The terminator stands after the last unit.
+        if (zvSurrogate::isHigh(unit) && zvSurrogate::isLow(text[i + 1])) {
+            ++i;
+        } else if (zvSurrogate::isAny(unit) || !XMLChar1_0::isXMLChar(unit)) {
+            return false;
+        }
+    }
+    return true;
+}
+
 bool zvXMLParser::writeTreeToFile(const zvString& path, const zvString& encoding) {
     const zvString folder = path.empty() ? zvString() : zvDirFileUtils::extractDirName(path);
-    if (!folder.empty() && !zvDirFileUtils::isAccessible(folder, 0)) {
-        logger.error("The data cannot be written to the given location \"", folder, "\"");
-        return false;
-    }
-    return writeTree(orDefault(encoding), [&](const MemBufFormatTarget& bytes) {
-        return path.empty() ? zvXMLWriter::toStandardOutput(bytes) : zvXMLWriter::toFile(bytes, path);
+    return writeTree([&](DOMDocument& document) {
+        if (!folder.empty() && !zvDirFileUtils::isAccessible(folder, 0)) {
+            logger.raise("The data cannot be written to the given location \"", folder, "\"");
+        }
+        MemBufFormatTarget bytes(initialCapacity);
+        zvXMLWriter::write(document, bytes, orDefault(encoding));
+        if (path.empty()) {
+            zvXMLWriter::toStandardOutput(bytes);
+        } else {
+            zvXMLWriter::toFile(bytes, path);
+        }
     });
 }
 
 bool zvXMLParser::writeTreeToString(zvString& out, const zvString& encoding) {
     out.clear();
-    const zvString name = orDefault(encoding);
-    return writeTree(name,
-                     [&](const MemBufFormatTarget& bytes) { return zvXMLWriter::toText(bytes, name, out); });
+    return writeTree([&](DOMDocument& document) {
+        MemBufFormatTarget bytes(initialCapacity);
+        zvXMLWriter::write(document, bytes, orDefault(encoding));
+        out = zvXMLWriter::toText(bytes, orDefault(encoding));
+    });
 }
 
-template <typename Put>
-bool zvXMLParser::writeTree(const zvString& encoding, Put put) {
-    DOMDocument* const document = m_pLoader == nullptr ? nullptr : m_pLoader->getDocument();
-    if (document == nullptr) {
-        logger.error("The document cannot be written: there is none");
-        return false;
+template <typename Write>
+bool zvXMLParser::writeTree(Write write) {
+    try {
+        DOMDocument* const document = m_pLoader == nullptr ? nullptr : m_pLoader->getDocument();
+        if (document == nullptr) {
+            logger.raise("The document cannot be written: there is none");
+        }
+        write(*document);
+        return true;
+    } catch (const zvException& exception) {  // logged where it was raised
+        if (zvFindingSink* const findings = getFindingSink()) {
+            zvFinding finding;
+            finding.kind = zvFindingKind::notWritten;
+            finding.text = exception.getResult().getMessage();
+            findings->report(finding);
+        }
     }
-    MemBufFormatTarget bytes(initialCapacity);
-    return zvXMLWriter::write(*document, bytes, encoding) && put(bytes);
+    return false;
 }

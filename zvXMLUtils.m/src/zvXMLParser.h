@@ -6,6 +6,7 @@
 #include <xercesc/util/XercesDefs.hpp>
 
 #include "zvCoreObject.h"
+#include "zvFinding.h"
 #include "zvString.h"
 #include "zvStringList.h"
 
@@ -34,6 +35,9 @@ class zvXERCESDOMNODEList;
 class ZV_EXPORT zvXMLParser : public zvCoreObject {
 public:
     zvXMLParser();
+    /// Also reports what is wrong with the documents that it loads, and why one cannot be written, to
+    /// `findings`, which may be null and must outlive the parser.
+    explicit zvXMLParser(zvFindingSink* findings);
     /// Loads as loadXMLFromString does; getRootElement() tells whether that succeeded.
     zvXMLParser(const zvString& source, bool isFile);
     zvXMLParser(const zvXMLParser&) = delete;
@@ -62,6 +66,11 @@ public:
     xercesc::DOMNode* getCurrentNode() const;
     /// Moves the cursor to any node of the document; false for null.
     bool changeCurrentNode(xercesc::DOMNode* node);
+
+    /// Where an element begins in the source. Unknown for every other node, and without a sink for findings.
+    zvTextPosition getPosition(const xercesc::DOMNode* node) const;
+    /// What the parser was made with; null without one.
+    zvFindingSink* getFindingSink() const;
 
     /// Each moves the cursor and gives the name of the node that it then stands on. Where there is none, the
     /// answer is false, the cursor stays and the name is empty.
@@ -122,6 +131,9 @@ public:
     static zvString getStringFromXMLCh(const XMLCh* text);
     static zvString getStringFromXMLCh(std::nullptr_t) { return {}; }
 
+    /// Whether an XML document can hold the text: no control characters, no half of a surrogate pair.
+    static bool isXMLText(const zvString& text);
+
     /// Writes the document with its declaration and single line feeds in `encoding`, UTF-8 for an empty one:
     /// to a file, the folder of which has to be there, or to standard output for an empty path. @return
     /// false, with an error in the log, when there is no document or not all of it could be written; an
@@ -132,15 +144,15 @@ public:
     bool writeTreeToString(zvString& out, const zvString& encoding);
 
 private:
-    void init();
+    void init(zvFindingSink* findings);
     template <typename Make>
     bool replaceDocument(Make make);
     bool validateDOMDocument();
     bool changeCurrentNode(xercesc::DOMNode* node, zvString& tag);
     template <typename Change>
     bool changeCurrentElement(Change change);
-    template <typename Put>
-    bool writeTree(const zvString& encoding, Put put);
+    template <typename Write>
+    bool writeTree(Write write);
 
     std::unique_ptr<zvDOMLoader> m_pLoader;  // null without an XML platform
     xercesc::DOMNode* m_pCurrentNode;

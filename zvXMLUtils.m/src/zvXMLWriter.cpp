@@ -47,12 +47,19 @@ bool isTooDeep(DOMNode& top) {
     return depth > deepestLevel;
 }
 
+// Keeps the first reason, since what follows is a consequence of it.
 class Complaints : public DOMErrorHandler {
 public:
     bool handleError(const DOMError& error) override {
-        logger.error("The document cannot be written: ", toString(error.getMessage()));
+        if (m_strReason.empty()) {
+            m_strReason = toString(error.getMessage());
+        }
         return error.getSeverity() == DOMError::DOM_SEVERITY_WARNING;
     }
+    const zvString& reason() const { return m_strReason; }
+
+private:
+    zvString m_strReason;
 };
 
 struct Release {
@@ -62,7 +69,7 @@ struct Release {
     }
 };
 
-bool serialise(DOMDocument& document, XMLFormatTarget& target, const XMLCh* encoding) {
+void serialise(DOMDocument& document, XMLFormatTarget& target, const XMLCh* encoding) {
     DOMImplementationLS* const implementation = DOMImplementationRegistry::getDOMImplementation(u"LS");
     const std::unique_ptr<DOMLSSerializer, Release> serializer(implementation->createLSSerializer());
     const std::unique_ptr<DOMLSOutput, Release> output(implementation->createLSOutput());
@@ -71,59 +78,58 @@ bool serialise(DOMDocument& document, XMLFormatTarget& target, const XMLCh* enco
     serializer->getDomConfig()->setParameter(XMLUni::fgDOMErrorHandler, &complaints);
     output->setByteStream(&target);
     output->setEncoding(encoding);
-    return serializer->write(&document, output.get());
+    if (!serializer->write(&document, output.get())) {
+        logger.raise("The document cannot be written: ", complaints.reason());
+    }
 }
 
-bool refuse(const char* target) {
+[[noreturn]] void refuse(const char* target) {
     const zvString reason(std::generic_category().message(errno).c_str());
-    logger.error("The data cannot be written to ", target, ": ", reason);
-    return false;
+    logger.raise("The data cannot be written to ", target, ": ", reason);
 }
 
-bool put(const MemBufFormatTarget& bytes, std::FILE* file, const char* target) {
+void put(const MemBufFormatTarget& bytes, std::FILE* file, const char* target) {
     const std::size_t length = bytes.getLen();
-    return (std::fwrite(bytes.getRawBuffer(), 1, length, file) == length && std::fflush(file) == 0) ||
-           refuse(target);
+    if (std::fwrite(bytes.getRawBuffer(), 1, length, file) != length || std::fflush(file) != 0) {
+        refuse(target);
+    }
 }
 
 }  // namespace
 
-bool zvXMLWriter::write(DOMDocument& document, XMLFormatTarget& target, const zvString& encoding) {
+void zvXMLWriter::write(DOMDocument& document, XMLFormatTarget& target, const zvString& encoding) {
     if (isTooDeep(document)) {
-        logger.error("The document cannot be written: its elements are nested in more than ", deepestLevel,
+        logger.raise("The document cannot be written: its elements are nested in more than ", deepestLevel,
                      " levels");
-        return false;
     }
     try {
-        return serialise(document, target, zvXMLChars(encoding).get());
+        serialise(document, target, zvXMLChars(encoding).get());
     } catch (const XMLException& exception) {
-        logger.error("The document cannot be written: ", toString(exception.getMessage()));
+        logger.raise("The document cannot be written: ", toString(exception.getMessage()));
     } catch (const DOMException& exception) {
-        logger.error("The document cannot be written: ", toString(exception.getMessage()));
+        logger.raise("The document cannot be written: ", toString(exception.getMessage()));
     }
-    return false;
 }
 
-bool zvXMLWriter::toFile(const MemBufFormatTarget& bytes, const zvString& path) {
+void zvXMLWriter::toFile(const MemBufFormatTarget& bytes, const zvString& path) {
     const std::string name = zvPlatform::nativePath(zvCharString(path).data());
     zvPlatform::File file(std::fopen(name.c_str(), "wb"));
     if (file == nullptr) {
-        return refuse(name.c_str());
+        refuse(name.c_str());
     }
-    return put(bytes, file.get(), name.c_str()) && (std::fclose(file.release()) == 0 || refuse(name.c_str()));
+    put(bytes, file.get(), name.c_str());
+    if (std::fclose(file.release()) != 0) {
+        refuse(name.c_str());
+    }
 }
 
-bool zvXMLWriter::toStandardOutput(const MemBufFormatTarget& bytes) {
-    return put(bytes, stdout, "standard output");
-}
+void zvXMLWriter::toStandardOutput(const MemBufFormatTarget& bytes) { put(bytes, stdout, "standard output"); }
 
-bool zvXMLWriter::toText(const MemBufFormatTarget& bytes, const zvString& encoding, zvString& text) {
+zvString zvXMLWriter::toText(const MemBufFormatTarget& bytes, const zvString& encoding) {
     try {
         const TranscodeFromStr decoded(bytes.getRawBuffer(), bytes.getLen(), zvCharString(encoding).data());
-        text = toString(decoded.str());
-        return !text.empty();
+        return toString(decoded.str());
     } catch (const XMLException& exception) {
-        logger.error("The document cannot be written: ", toString(exception.getMessage()));
+        logger.raise("The document cannot be written: ", toString(exception.getMessage()));
     }
-    return false;
 }

@@ -8,7 +8,7 @@
 /// The way from every layer to the logger, which itself stands on this layer: implemented beside the logger.
 namespace zvLogSink {
 
-/// Whether somebody reads what is logged: a logger, created on first use, that can write, or a listener.
+/// Whether somebody reads what is logged: a logger, created on first use, that can write.
 bool isReady();
 void write(zvLogLevel level, const zvString& message, const char* file, int line);
 

@@ -3,32 +3,22 @@
 
 #include "zvString.h"
 
-/// The one list of argument keys whose values no log, console or error text may show.
+/// Masks the values of arguments that are secrets, such as "LoginPassword", before they are shown: in a log,
+/// on a console, in an error text.
 namespace zvSecrets {
 
-constexpr const char* keys[] = {"LoginPassword", "KPDMPasswd"};
+/// What stands in the place of a secret.
 constexpr char mask[] = "********";
 
-/// The first of the keys that `text` holds anywhere; null when it holds none.
-inline const char* keyIn(const zvString& text) {
-    for (const char* const key : keys) {
-        if (text.find(key) != -1) {
-            return key;
-        }
-    }
-    return nullptr;
-}
+/// The first secret key that `text` mentions anywhere; null when it mentions none. Static storage.
+ZV_EXPORT const char* keyIn(const zvString& text);
 
-/// A whole argument as it may be shown: one that mentions a key becomes that key and the mask.
-inline zvString maskedArgument(const zvString& argument) {
-    const char* const key = keyIn(argument);
-    return key == nullptr ? argument : zvString(key) + "=" + mask;
-}
+/// A whole `key=value` argument as it may be shown: one that mentions a secret key becomes that key, "=" and
+/// the mask.
+ZV_EXPORT zvString maskedArgument(const zvString& argument);
 
 /// The value of the argument `key` as it may be shown.
-inline zvString maskedValue(const zvString& key, const zvString& value) {
-    return keyIn(key) == nullptr && keyIn(value) == nullptr ? value : zvString(mask);
-}
+ZV_EXPORT zvString maskedValue(const zvString& key, const zvString& value);
 
 }  // namespace zvSecrets
 

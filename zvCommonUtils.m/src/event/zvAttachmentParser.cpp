@@ -13,25 +13,12 @@ constexpr zvLogSource logger("zvCommonUtils.m/src/zvAttachmentParser");
 constexpr const char* rootName = "AttachmentList";
 constexpr const char* attachmentName = "Attachment";
 
-void readFileTransferMode(bool hasText, const zvString& text, zvAttachment& attachment) {
-    if (hasText) {
-        attachment.setFileTransferMode(text);
-    } else {
-        logger.warn("FileTransferMode not specified for attachment, setting default to BINARY");
-    }
-}
-
-void readToBeDeleted(bool hasText, const zvString& text, zvAttachment& attachment) {
-    if (hasText) {
-        attachment.setToBeDeleted(!text.equalsIgnoreCase("FALSE"));
-    } else {
-        logger.warn("ToBeDeleted not specified for attachment, setting default to TRUE");
-    }
-}
+constexpr char skipped[] = "an attachment without a FilePath is left out";
 
 }  // namespace
 
 zvAttachmentParser::zvAttachmentParser() = default;
+zvAttachmentParser::zvAttachmentParser(zvFindingSink* findings) : zvXMLParser(findings) {}
 zvAttachmentParser::~zvAttachmentParser() = default;
 
 zvResult zvAttachmentParser::parse(zvAttachmentList* list, const zvString& input, bool isFile) {
@@ -46,6 +33,8 @@ zvResult zvAttachmentParser::parse(zvAttachmentList* list, const zvString& input
     logger.debug("File path ", input);
     zvString tag;
     if (!getRoot(tag) || tag != rootName) {
+        report(zvFinding::Severity::error, zvFindingKind::wrongRoot, zvString(),
+               "the root element is not \"AttachmentList\"");
         logger.raise("Root Node [", rootName, "] could note be found in attachments file [", input, "]");
     }
     if (getFirstChild(tag)) {
@@ -70,6 +59,7 @@ int zvAttachmentParser::parseAttachment(zvAttachmentList* list) {
     }
     if (!getFirstChild(tag)) {
         logger.debug("Attachment element does not have any child elements. Skipping this element.");
+        report(zvFinding::Severity::warning, zvFindingKind::missingPath, zvString(), skipped);
         return 0;
     }
     auto attachment = std::make_unique<zvAttachment>();
@@ -77,6 +67,7 @@ int zvAttachmentParser::parseAttachment(zvAttachmentList* list) {
     getParent(tag);
     if (attachment->getFilePath().empty()) {
         logger.warn("FilePath not specified for attachment, skipping it");
+        report(zvFinding::Severity::warning, zvFindingKind::missingPath, zvString(), skipped);
         return 0;
     }
     logger.debug("Parsed attachment ", attachment->toString(), "]");
@@ -108,5 +99,35 @@ void zvAttachmentParser::parseMembers(zvString& tag, zvAttachment& attachment) {
     }
     if (!hasToBeDeleted && !attachment.getFilePath().empty()) {
         readToBeDeleted(false, zvString(), attachment);
+    }
+}
+
+void zvAttachmentParser::readFileTransferMode(bool hasText, const zvString& text,
+                                              zvAttachment& attachment) const {
+    if (hasText) {
+        attachment.setFileTransferMode(text);
+        return;
+    }
+    logger.warn("FileTransferMode not specified for attachment, setting default to BINARY");
+    report(zvFinding::Severity::warning, zvFindingKind::defaultUsed, attachment.getFilePath(),
+           "FileTransferMode is missing: BINARY is used");
+}
+
+void zvAttachmentParser::readToBeDeleted(bool hasText, const zvString& text, zvAttachment& attachment) const {
+    if (hasText) {
+        attachment.setToBeDeleted(!text.equalsIgnoreCase("FALSE"));
+        return;
+    }
+    logger.warn("ToBeDeleted not specified for attachment, setting default to TRUE");
+    report(zvFinding::Severity::warning, zvFindingKind::defaultUsed, attachment.getFilePath(),
+           "ToBeDeleted is missing: the file will be deleted");
+}
+
+// Of the element that the cursor stands on.
+void zvAttachmentParser::report(zvFinding::Severity severity, std::string_view kind, const zvString& path,
+                                const char* text) const {
+    if (zvFindingSink* const findings = getFindingSink()) {
+        const zvString part = path.empty() ? zvString() : "attachment \"" + path + "\"";
+        findings->report({severity, kind, part, zvString(), getPosition(getCurrentNode()), text});
     }
 }

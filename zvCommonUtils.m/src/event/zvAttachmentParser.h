@@ -22,6 +22,9 @@ class zvAttachmentList;
 class ZV_EXPORT zvAttachmentParser : public zvXMLParser {
 public:
     zvAttachmentParser();
+    /// Also reports what is wrong, each fault with its place, to `findings`, which may be null and must
+    /// outlive the parser.
+    explicit zvAttachmentParser(zvFindingSink* findings);
     ~zvAttachmentParser() override;
 
     /// Appends what `input` (a file's path, or the document itself) lists to `list`.
@@ -33,6 +36,10 @@ public:
 private:
     int parseAttachment(zvAttachmentList* list);
     void parseMembers(zvString& tag, zvAttachment& attachment);
+    void readFileTransferMode(bool hasText, const zvString& text, zvAttachment& attachment) const;
+    void readToBeDeleted(bool hasText, const zvString& text, zvAttachment& attachment) const;
+    void report(zvFinding::Severity severity, std::string_view kind, const zvString& path,
+                const char* text) const;
 };
 
 #endif

@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "zvCharString.h"
 #include "zvGatewayHome.h"
 #include "zvLogSource.h"
 #include "zvPlatform.h"
@@ -25,6 +26,11 @@ bool zvCommonUtils::setGatewayHomeEnvVariable(const zvString& name) {
 zvString zvCommonUtils::getGatewayHomeEnvVariable() { return zvGatewayHome::getEnvVariable(); }
 
 zvString zvCommonUtils::getGatewayHomePath() { return zvGatewayHome::getPath(); }
+
+zvString zvCommonUtils::getConfigurationFile(const zvString& name) {
+    const zvString home = getGatewayHomePath();
+    return home.empty() ? zvString() : zvGatewayHome::configFile(home, zvCharString(name).data());
+}
 
 zvString zvCommonUtils::getEnvironmentalVariable(const zvString& name) {
     return zvGatewayHome::readEnvironment(name);
@@ -60,6 +66,8 @@ void* zvCommonUtils::getFunctionPtr(const char* library, const char* function) {
 zvString zvCommonUtils::getCurrentTime() { return zvPlatform::timeText(zvPlatform::currentTime()).c_str(); }
 
 void zvCommonUtils::sleep(unsigned long milliseconds) { zvPlatform::sleep(milliseconds); }
+
+void zvCommonUtils::adoptUserLocale() { zvPlatform::adoptUserLocale(); }
 
 bool zvCommonUtils::validBooleanValue(const zvString& text) {
     return text.equalsIgnoreCase("true") || text.equalsIgnoreCase("false");

@@ -18,6 +18,8 @@ public:
     static zvString getGatewayHomeEnvVariable();
     /// The variable's value, read afresh; without one a line on standard output says so.
     static zvString getGatewayHomePath();
+    /// The path of the file `name` in the gateway home's folder "config"; empty without a gateway home.
+    static zvString getConfigurationFile(const zvString& name);
     static zvString getEnvironmentalVariable(const zvString& name);
     /// The value of "local-server-url" in the file "client-config.ini" of the gateway home's folder "config".
     /// What is missing is logged.
@@ -27,6 +29,9 @@ public:
     /// Local time as in "Sat May 21 11:12:22 2011", with a line feed behind it.
     static zvString getCurrentTime();
     static void sleep(unsigned long milliseconds);
+    /// For the start of a program's main(): sets the locale to the user's, or to C.UTF-8 where the user's is
+    /// not UTF-8 and the system has a choice. Nothing else in the library changes the locale.
+    static void adoptUserLocale();
     /// Whether the text is "true" or "false", ignoring case.
     static bool validBooleanValue(const zvString& text);
 };

@@ -115,6 +115,15 @@ bool zvDirFileUtils::isAccessible(const zvString& path, int mode) {
     return zvPlatform::isAccessible(zvCharString(path).data(), mode);
 }
 
+zvString zvDirFileUtils::getAccessError(const zvString& path, int mode) {
+    const unsigned long error = zvPlatform::accessError(zvCharString(path).data(), mode);
+    return error == 0 ? zvString() : zvString(zvPlatform::errorText(error).c_str());
+}
+
+zvString zvDirFileUtils::nativePath(const zvString& path) {
+    return zvPlatform::nativePath(zvCharString(path).data()).c_str();
+}
+
 zvResult zvDirFileUtils::readFile(const zvString& path, zvStringList& lines) {
     zvResult result;
     if (path.empty()) {

@@ -29,8 +29,14 @@ public:
     /// Removes directory trees through the command "rmdir /s/q", which `path` follows at once: it begins with
     /// a blank, and a path with blanks stands in double quotes.
     static bool deleteDir(const zvString& path);
-    /// `mode` is 0 for existence, 2 for write, 4 for read, 6 for both.
+    /// What an access test asks for.
+    enum AccessMode : int { existence = 0, writable = 2, readable = 4, readAndWrite = 6 };
+    /// False for a `mode` that is none of AccessMode's.
     static bool isAccessible(const zvString& path, int mode);
+    /// The system's reason why the path is not accessible in that mode; empty when it is.
+    static zvString getAccessError(const zvString& path, int mode);
+    /// The path with this system's delimiters, for other libraries.
+    static zvString nativePath(const zvString& path);
     /// Appends the file's lines, without their line feeds and without the empty ones, to `lines`, which a
     /// failure empties.
     static zvResult readFile(const zvString& path, zvStringList& lines);

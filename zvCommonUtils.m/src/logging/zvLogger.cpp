@@ -2,7 +2,6 @@
 
 #include "zvCharString.h"
 #include "zvLogChannel.h"
-#include "zvLogListener.h"
 
 namespace {
 
@@ -18,7 +17,6 @@ constexpr ChannelOperation operations[] = {&zvLogChannel::logDebug, &zvLogChanne
 
 zvLogger* zvLogger::m_pzvLogger = nullptr;
 bool zvLogger::m_bInitializing = false;
-zvLogListener* zvLogger::m_pListener = nullptr;
 
 zvLogger::zvLogger() : m_pChannel(std::make_shared<zvLogChannel>(loggerName)) {}
 
@@ -39,18 +37,11 @@ void zvLogger::destroyInstance() {
     m_pzvLogger = nullptr;
 }
 
-bool zvLogger::isReady() const {
-    return m_pListener != nullptr || (m_pChannel != nullptr && m_pChannel->isReady());
-}
-
-void zvLogger::setListener(zvLogListener* listener) { m_pListener = listener; }
+bool zvLogger::isReady() const { return m_pChannel != nullptr && m_pChannel->isReady(); }
 
 void zvLogger::log(zvLogLevel level, const zvString& message, const char* file, int line) {
-    if (m_pListener != nullptr) {
-        m_pListener->hear(level, message, file, line);
-    }
     // Nothing is converted for a channel that would drop it.
-    if (m_pChannel != nullptr && m_pChannel->isReady()) {
+    if (isReady()) {
         const ChannelOperation operation = operations[static_cast<int>(level)];
         (m_pChannel.get()->*operation)(zvCharString(message).data(), file, line);
     }

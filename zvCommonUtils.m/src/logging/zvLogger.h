@@ -8,7 +8,6 @@
 #include "zvString.h"
 
 class zvLogChannel;
-class zvLogListener;
 
 /// The process's log: a singleton that hands messages to the logging library, under one fixed logger name.
 ///
@@ -35,12 +34,8 @@ public:
     /// One of the above.
     void log(zvLogLevel level, const zvString& message, const char* file, int line);
 
-    /// Whether anybody reads the messages, the logging library or a listener: callers need not compose them
-    /// otherwise.
+    /// Whether the logging library takes messages: callers need not compose them otherwise.
     bool isReady() const;
-
-    /// From now on `listener`, which stays the caller's, hears every message too; null ends that.
-    static void setListener(zvLogListener* listener);
 
 protected:
     zvLogger();
@@ -49,7 +44,6 @@ protected:
 private:
     static zvLogger* m_pzvLogger;
     static bool m_bInitializing;
-    static zvLogListener* m_pListener;
 
     std::shared_ptr<zvLogChannel> m_pChannel;
 };

@@ -11,7 +11,6 @@
 #include "zvCommonUtils.h"
 #include "zvEventArguments.h"
 #include "zvException.h"
-#include "zvLogListener.h"
 #include "zvLogger.h"
 #include "zvRecordingLogger.h"
 #include "zvValue.h"

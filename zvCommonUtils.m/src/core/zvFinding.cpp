@@ -1,0 +1,3 @@
+#include "zvFinding.h"
+
+zvFindingSink::~zvFindingSink() = default;

@@ -1,0 +1,25 @@
+#include "zvSecrets.h"
+
+namespace {
+
+constexpr const char* keys[] = {"LoginPassword", "KPDMPasswd"};
+
+}  // namespace
+
+const char* zvSecrets::keyIn(const zvString& text) {
+    for (const char* const key : keys) {
+        if (text.find(key) != -1) {
+            return key;
+        }
+    }
+    return nullptr;
+}
+
+zvString zvSecrets::maskedArgument(const zvString& argument) {
+    const char* const key = keyIn(argument);
+    return key == nullptr ? argument : zvString(key) + "=" + mask;
+}
+
+zvString zvSecrets::maskedValue(const zvString& key, const zvString& value) {
+    return keyIn(key) == nullptr && keyIn(value) == nullptr ? value : zvString(mask);
+}

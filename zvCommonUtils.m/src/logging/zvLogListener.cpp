@@ -1,3 +1,0 @@
-#include "zvLogListener.h"
-
-zvLogListener::~zvLogListener() = default;

@@ -1,0 +1,64 @@
+#include "zvConsole.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <iterator>
+
+#include "zvCharString.h"
+#include "zvDirFileUtils.h"
+
+namespace {
+
+std::FILE* out = stdout;
+const char* heading = nullptr;  // still to be printed
+
+}  // namespace
+
+namespace zvConsole {
+
+void leaveStandardOutput() { out = stderr; }
+
+std::string printable(const zvString& text) {
+    std::string narrow = zvCharString(text).data();
+    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7f'; };
+    std::replace_if(narrow.begin(), narrow.end(), isControl, '?');
+    return narrow;
+}
+
+std::string printablePath(const zvString& path) { return printable(zvDirFileUtils::nativePath(path)); }
+
+void step(const char* name) { heading = name; }
+
+void fact(const std::string& name, const std::string& value) {
+    if (heading != nullptr) {
+        std::fprintf(out, "%s\n", heading);
+        heading = nullptr;
+    }
+    std::fprintf(out, "  %-22s %s\n", name.c_str(), value.c_str());
+    std::fflush(out);
+}
+
+std::string size(double bytes) {
+    constexpr const char* units[] = {"bytes", "kB", "MB", "GB", "TB"};
+    constexpr double thousand = 1000;
+    std::size_t unit = 0;
+    while (bytes >= thousand && unit + 1 < std::size(units)) {
+        bytes /= thousand;
+        ++unit;
+    }
+    constexpr std::size_t width = 40;
+    char text[width];
+    std::snprintf(text, width, unit == 0 ? "%.0f %s" : "%.1f %s", bytes, units[unit]);
+    return text;
+}
+
+std::string rate(double bytes, double milliseconds) {
+    constexpr double perSecond = 1000;
+    return size(bytes * perSecond / std::max(milliseconds, 1.0)) + "/s";
+}
+
+std::string counted(std::ptrdiff_t count, const char* noun) {
+    return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
+}
+
+}  // namespace zvConsole

@@ -1,0 +1,33 @@
+#ifndef ZV_CONSOLE_H
+#define ZV_CONSOLE_H
+
+#include <cstddef>
+#include <string>
+
+#include "zvString.h"
+
+/// What the program tells a person as it happens: on standard output, unless that is for another program.
+namespace zvConsole {
+
+/// From now on a person is told on standard error.
+void leaveStandardOutput();
+
+/// The text in the process's locale, its control characters, which a terminal would obey, replaced by "?".
+std::string printable(const zvString& text);
+/// The same for a path, with this system's delimiters.
+std::string printablePath(const zvString& path);
+
+/// Begins a step of the road; its heading is printed with the first fact.
+void step(const char* name);
+/// One thing that the present step has to tell.
+void fact(const std::string& name, const std::string& value);
+
+/// A size as in "4.2 MB", and what moved per second as in "12.5 MB/s".
+std::string size(double bytes);
+std::string rate(double bytes, double milliseconds);
+/// A number of things, as in "1 file" and "2 files".
+std::string counted(std::ptrdiff_t count, const char* noun);
+
+}  // namespace zvConsole
+
+#endif

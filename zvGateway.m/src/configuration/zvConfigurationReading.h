@@ -1,0 +1,29 @@
+#ifndef ZV_CONFIGURATION_READING_H
+#define ZV_CONFIGURATION_READING_H
+
+#include <string>
+
+#include "zvCfgMgrXmlParser.h"
+#include "zvFindingList.h"
+
+/// Reads a configuration file into the configuration manager, and keeps what is wrong with it.
+class zvConfigurationReading {
+public:
+    using InvalidRule = zvCfgMgrXmlParser::InvalidRule;
+
+    /// Reads the file. Throws the zvProgramFailure of one that cannot be opened.
+    zvConfigurationReading(const std::string& file, InvalidRule invalidRule);
+
+    /// Whether the file was read to its end.
+    bool isComplete() const { return m_bComplete; }
+    /// The remote system's name; empty when the file has none.
+    const zvString& pdmSystemName() const { return m_strPdmSystemName; }
+    const zvFindingList& findings() const { return m_findings; }
+
+private:
+    zvFindingList m_findings;
+    bool m_bComplete = false;
+    zvString m_strPdmSystemName;
+};
+
+#endif

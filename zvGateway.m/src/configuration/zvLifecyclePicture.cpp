@@ -1,0 +1,14 @@
+#include "zvLifecyclePicture.h"
+
+#include "zvCommonUtils.h"
+#include "zvDeliveredFile.h"
+
+std::unique_ptr<zvLifecyclePicture> zvLifecyclePicture::load() {
+    const std::string path =
+        findDeliveredFile("../" ZV_MODULE_FOLDER "/zvGraphvizPicture.so", "zvGraphvizPicture.so");
+    using Create = zvLifecyclePicture* (*)();
+    const auto create = path.empty() ? nullptr
+                                     : reinterpret_cast<Create>(zvCommonUtils::getFunctionPtr(
+                                           path.c_str(), "zvCreateLifecyclePicture"));
+    return std::unique_ptr<zvLifecyclePicture>(create == nullptr ? nullptr : create());
+}

@@ -1,0 +1,52 @@
+#include "zvReplacedFile.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+#include <system_error>
+
+#include "zvConsole.h"
+#include "zvFailure.h"
+#include "zvProcess.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+zvProgramFailure failure(const std::string& file, const std::string& reason) {
+    return {zvExitCode::usage, "output", zvConsole::printable(file.c_str()), reason};
+}
+
+// 0, or the runtime's number for what went wrong.
+int writeNew(const std::string& file, const std::string& content) {
+    std::FILE* const stream = std::fopen(file.c_str(), "wbx");
+    if (stream == nullptr) {
+        return errno;
+    }
+    const bool isWritten = std::fwrite(content.data(), 1, content.size(), stream) == content.size();
+    const int writeError = errno;
+    const bool isClosed = std::fclose(stream) == 0;
+    return !isWritten ? writeError : !isClosed ? errno : 0;
+}
+
+}  // namespace
+
+void zvReplacedFile::write(const std::string& file, const std::string& content) {
+    std::error_code error;
+    if (fs::exists(file, error) && !fs::is_regular_file(file, error)) {
+        throw failure(file, "it exists and is not a regular file");
+    }
+    const std::string temporary = file + "." + std::to_string(zvProcess::id()) + ".part";
+    const int writeError = writeNew(temporary, content);
+    if (writeError == 0) {
+        fs::rename(temporary, file, error);
+    } else {
+        error = {writeError, std::generic_category()};
+    }
+    if (error) {
+        if (writeError != EEXIST) {
+            std::remove(temporary.c_str());
+        }
+        throw failure(file, error.message());
+    }
+}

@@ -1,0 +1,50 @@
+#include "zvShowCommand.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <system_error>
+
+#include "zvConfigurationListing.h"
+#include "zvConfigurationPage.h"
+#include "zvConfigurationReading.h"
+#include "zvConsole.h"
+#include "zvReplacedFile.h"
+
+namespace {
+
+zvProgramFailure incomplete(const zvConfigurationReading& reading, const std::string& file) {
+    const std::string broken = reading.findings().brokenDocument();
+    const std::string error = broken.empty() ? reading.findings().lastError() : broken;
+    return {zvExitCode::configuration, "configuration", zvConsole::printable(file.c_str()),
+            error.empty() ? "it is not read to its end" : error};
+}
+
+}  // namespace
+
+zvExitCode zvShowCommand::run() const {
+    const zvConfigurationReading reading(file, zvConfigurationReading::InvalidRule::endsTheParse);
+    if (!reading.isComplete()) {
+        throw incomplete(reading, file);
+    }
+    const zvCfgConfigManager& configuration = *zvCfgConfigManager::getCfgConfigManager();
+    const std::string system = zvConsole::printable(reading.pdmSystemName());
+    if (page.empty()) {
+        std::printf("%s%s%s\n", zvConsole::printable(file.c_str()).c_str(), system.empty() ? "" : "  to  ",
+                    system.c_str());
+        zvConfigurationListing(configuration).print();
+        return zvExitCode::success;
+    }
+    std::error_code error;
+    if (std::filesystem::equivalent(file, page, error)) {
+        throw zvProgramFailure{zvExitCode::usage, "output", zvConsole::printable(page.c_str()),
+                               "it is the configuration itself"};
+    }
+    const std::string title = "Mapping configuration" + (system.empty() ? "" : " for " + system);
+    const std::unique_ptr<zvLifecyclePicture> picture = zvLifecyclePicture::load();
+    if (picture == nullptr) {
+        std::fprintf(stderr,
+                     "zvgateway: lifecycles have no pictures: zvGraphvizPicture.so cannot be loaded\n");
+    }
+    zvReplacedFile::write(page, zvConfigurationPage(configuration, title, picture.get()).html());
+    return zvExitCode::success;
+}

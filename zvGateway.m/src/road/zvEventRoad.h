@@ -1,0 +1,30 @@
+#ifndef ZV_EVENT_ROAD_H
+#define ZV_EVENT_ROAD_H
+
+#include <string>
+#include <vector>
+
+#include "zvGatewayEvent.h"
+
+/// The road of one event through the gateway, step by step. Each step prints what it does; the first one that
+/// cannot do its job ends the road.
+class zvEventRoad {
+public:
+    /// The event's arguments, `key=value` each.
+    std::vector<std::string> arguments;
+    /// Does everything but what leaves this host.
+    bool isDryRun = false;
+    /// The summary goes to standard output as JSON, and everything else to standard error.
+    bool asJson = false;
+
+    /// Throws, after the summary, the zvProgramFailure of a step that failed.
+    void run();
+
+private:
+    void walk();
+    void summarize(zvExitCode exitCode);
+
+    zvGatewayEvent m_event;
+};
+
+#endif

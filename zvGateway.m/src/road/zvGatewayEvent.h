@@ -1,0 +1,39 @@
+#ifndef ZV_GATEWAY_EVENT_H
+#define ZV_GATEWAY_EVENT_H
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "zvAttachmentList.h"
+#include "zvEventArguments.h"
+#include "zvEventProgress.h"
+#include "zvRoadReport.h"
+
+/// An event on its road: what its steps share.
+struct zvGatewayEvent {
+    struct Destroy {
+        void operator()(zvEventArguments* arguments) const { arguments->destroy(); }
+    };
+
+    /// As given, `key=value` each.
+    std::vector<std::string> commandLine;
+    /// There from the first step on.
+    std::unique_ptr<zvEventArguments, Destroy> arguments;
+    /// There once the event has a directory.
+    std::unique_ptr<zvEventProgress> progress;
+    zvAttachmentList attachments;
+    zvRoadReport report;
+    /// Nothing leaves this host.
+    bool isDryRun = false;
+
+    zvString argument(const char* key) const { return arguments->getEventArgumentValue(key); }
+    /// The path of the event's directory.
+    zvString directory() const { return argument("RootShadowDir") + "\\" + argument("EventShadowDir"); }
+    /// The path of the file in the event's directory whose name is the argument `key`.
+    zvString file(const char* key) const { return directory() + "\\" + argument(key); }
+    zvString dataFile() const { return file("DataFileName"); }
+    zvString attachmentsFile() const { return file("AttachmentsFileName"); }
+};
+
+#endif

@@ -1,0 +1,18 @@
+#ifndef ZV_GATEWAY_HOME_STEP_H
+#define ZV_GATEWAY_HOME_STEP_H
+
+#include "zvGatewayEvent.h"
+
+/// The step that looks at the gateway home: its log configuration and its client configuration.
+class zvGatewayHomeStep {
+public:
+    explicit zvGatewayHomeStep(const zvGatewayEvent&) {}
+
+    /// Whether the environment names a home.
+    static bool isHomeNamed();
+
+    /// Throws the zvStepFailure of a home, or of a file in it, that cannot be used.
+    zvStepOutcome run() const;
+};
+
+#endif

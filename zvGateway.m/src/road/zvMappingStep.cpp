@@ -1,0 +1,127 @@
+#include "zvMappingStep.h"
+
+#include "zvCfgLcmState.h"
+#include "zvCfgTransition.h"
+#include "zvCfgTransitionPath.h"
+#include "zvCfgTransitionPathList.h"
+#include "zvConsole.h"
+#include "zvException.h"
+#include "zvMappedObjectFile.h"
+#include "zvSecrets.h"
+
+namespace {
+
+constexpr char attributePrefix[] = "attr.";
+
+std::string typesOf(const zvCfgObject& object) {
+    return zvConsole::printable(object.getLocalCustomType()) + " -> " +
+           zvConsole::printable(object.getRemoteCustomType());
+}
+
+std::string namesOf(const zvCfgLcmState& state) {
+    return zvConsole::printable(state.localName()) + " (" + zvConsole::printable(state.remoteName()) + ")";
+}
+
+void show(const zvObjectMapping& mapping) {
+    zvConsole::fact("object", typesOf(mapping.object()));
+    for (const zvObjectMapping::Attribute& attribute : mapping.attributes()) {
+        zvConsole::fact(zvConsole::printable(attribute.to),
+                        zvConsole::printable(zvSecrets::maskedValue(attribute.to, attribute.value)) +
+                            (attribute.isDefault ? "  (default)" : ""));
+    }
+    for (const zvString& name : mapping.unmapped()) {
+        zvConsole::fact("without a mapping", zvConsole::printable(name));
+    }
+}
+
+}  // namespace
+
+zvMappingStep::zvMappingStep(const zvGatewayEvent& event)
+    : m_event(event),
+      m_strLocalType(event.argument("LocalType")),
+      m_strRemoteType(event.argument("RemoteType")) {}
+
+std::string zvMappingStep::reasonToLeaveOut() const {
+    return m_strLocalType.empty() && m_strRemoteType.empty()  ? "the event has no object"
+           : m_event.progress->hasArrived(m_event.dataFile()) ? "the data file arrived before"
+                                                              : "";
+}
+
+zvStepOutcome zvMappingStep::run() const {
+    const std::string reason = reasonToLeaveOut();
+    if (!reason.empty()) {
+        return zvStepOutcome::leftOut(reason);
+    }
+    const zvObjectMapping mapping = mapObject();
+    show(mapping);
+    const zvString file = m_event.dataFile();
+    zvMappedObjectFile::write(file, mapping);
+    zvConsole::fact("data file", zvConsole::printablePath(file));
+    showTransition(mapping.object());
+    return zvStepOutcome::done(typesOf(mapping.object()));
+}
+
+zvObjectMapping zvMappingStep::mapObject() const {
+    zvObjectMapping mapping(
+        isLocal() ? zvObjectMapping::Direction::localToRemote : zvObjectMapping::Direction::remoteToLocal,
+        attributeValues());
+    const std::string type = zvConsole::printable(isLocal() ? m_strLocalType : m_strRemoteType);
+    try {
+        if (!mapping.map(&candidates())) {
+            throw zvStepFailure{type, "no mapping rule of this type holds for the attributes"};
+        }
+    } catch (const zvException& exception) {
+        throw zvStepFailure{type, zvConsole::printable(exception.getResult().getMessage())};
+    }
+    return mapping;
+}
+
+const zvCfgObjectList& zvMappingStep::candidates() const {
+    const zvCfgConfigManager& configuration = *zvCfgConfigManager::getCfgConfigManager();
+    const zvCfgObjectList* const found = isLocal() && !m_strRemoteType.empty()
+                                             ? configuration.getObjects(m_strLocalType, m_strRemoteType)
+                                         : isLocal() ? configuration.getObjectsByLocalType(m_strLocalType)
+                                                     : configuration.getObjectsByRemoteType(m_strRemoteType);
+    if (found == nullptr) {
+        throw zvStepFailure{zvConsole::printable(isLocal() ? m_strLocalType : m_strRemoteType),
+                            "the configuration has no object of this type"};
+    }
+    return *found;
+}
+
+zvObjectMapping::Values zvMappingStep::attributeValues() const {
+    const zvString prefix(attributePrefix);
+    zvObjectMapping::Values values;
+    m_event.arguments->forEach([&](const zvString& key, const zvString& value) {
+        if (key.find(prefix, 0, prefix.size() - 1) == 0) {
+            values.emplace(key.substr(prefix.size(), key.size() - prefix.size()), value);
+        }
+    });
+    return values;
+}
+
+void zvMappingStep::showTransition(const zvCfgObject& object) const {
+    const zvString from = m_event.argument("FromState");
+    const zvString to = m_event.argument("ToState");
+    if (from.empty() && to.empty()) {
+        return;
+    }
+    const zvCfgConfigManager& configuration = *zvCfgConfigManager::getCfgConfigManager();
+    zvCfgTransitionPathList paths;
+    for (const zvString& type : {object.getLocalCustomType(), object.getOotbTypeStr()}) {
+        if (configuration.getTransitionPaths(from, to, type, "", paths)) {
+            break;
+        }
+    }
+    if (paths.size() == 0) {
+        throw zvStepFailure{zvConsole::printable(from) + " -> " + zvConsole::printable(to),
+                            "the object's lifecycle has no such way"};
+    }
+    const zvCfgTransitionPath& path = *paths.get(0);
+    zvConsole::fact("from state", namesOf(*path.getStateAt(0)));
+    for (int i = 0; i < path.size(); ++i) {
+        zvConsole::fact(
+            zvConsole::printable(zvCfgTransition::typeName(path.getTransitionAt(i)->getType())) + " to",
+            namesOf(*path.getStateAt(i + 1)));
+    }
+}

@@ -1,0 +1,118 @@
+#include "zvRoadReport.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <nlohmann/json.hpp>
+
+#include "zvConsole.h"
+#include "zvException.h"
+
+namespace {
+
+double now() {
+    using milliseconds = std::chrono::duration<double, std::milli>;
+    return std::chrono::duration_cast<milliseconds>(std::chrono::steady_clock::now().time_since_epoch())
+        .count();
+}
+
+double toMicroseconds(double milliseconds) {
+    constexpr double thousand = 1000;
+    return std::round(milliseconds * thousand) / thousand;
+}
+
+std::string column(const std::string& text, int width) {
+    std::string result = text;
+    result.resize(std::max(result.size(), static_cast<std::size_t>(width)), ' ');
+    return result;
+}
+
+std::string duration(double milliseconds) {
+    constexpr std::size_t width = 40;
+    char text[width];
+    std::snprintf(text, width, "%9.1f ms", milliseconds);
+    return text;
+}
+
+const char* textOf(zvStepOutcome::Kind kind) {
+    return kind == zvStepOutcome::Kind::done ? "done" : "left out";
+}
+
+}  // namespace
+
+zvRoadReport::zvRoadReport() : m_start(now()) {}
+
+void zvRoadReport::take(const char* name, zvExitCode exitCode, const std::function<zvStepOutcome()>& step) {
+    const double start = now();
+    try {
+        const zvStepOutcome outcome = step();
+        m_steps.push_back({name, textOf(outcome.kind), outcome.detail, now() - start});
+    } catch (const zvStepFailure& failure) {
+        fail({exitCode, name, failure.subject, failure.reason}, start);
+    } catch (const zvException& exception) {
+        fail({zvExitCode::unexpected, name, "unexpected",
+              zvConsole::printable(exception.getResult().getMessage())},
+             start);
+    } catch (const std::exception& exception) {
+        fail({zvExitCode::unexpected, name, "unexpected", exception.what()}, start);
+    }
+}
+
+void zvRoadReport::fail(zvProgramFailure failure, double start) {
+    m_steps.push_back({failure.step, "failed", failure.subject + ": " + failure.reason, now() - start});
+    m_failure = std::move(failure);
+    throw *m_failure;
+}
+
+void zvRoadReport::setFact(const char* key, const char* label, std::string value) {
+    m_facts.push_back({key, label, std::move(value)});
+}
+
+void zvRoadReport::print() const {
+    constexpr int outcomeWidth = 9;
+    zvConsole::step("summary");
+    for (const Step& step : m_steps) {
+        zvConsole::fact(
+            step.name, column(step.outcome, outcomeWidth) + duration(step.milliseconds) + "  " + step.detail);
+    }
+    zvConsole::fact("total", column("", outcomeWidth) + duration(now() - m_start));
+    for (const Fact& fact : m_facts) {
+        if (!fact.label.empty()) {
+            zvConsole::fact(fact.label, fact.value);
+        }
+    }
+}
+
+void zvRoadReport::printJson(zvExitCode exitCode) const {
+    nlohmann::ordered_json json;
+    for (const Fact& fact : m_facts) {
+        if (!fact.key.empty()) {
+            json[fact.key] = fact.value;
+        }
+    }
+    json["steps"] = nlohmann::ordered_json::array();
+    for (const Step& step : m_steps) {
+        json["steps"].push_back({{"name", step.name},
+                                 {"outcome", step.outcome},
+                                 {"milliseconds", toMicroseconds(step.milliseconds)},
+                                 {"detail", step.detail}});
+    }
+    json["files"] = nlohmann::ordered_json::array();
+    for (const File& file : m_files) {
+        json["files"].push_back({{"path", file.path},
+                                 {"outcome", file.outcome},
+                                 {"bytes", file.bytes},
+                                 {"milliseconds", file.milliseconds}});
+    }
+    json["milliseconds"] = toMicroseconds(now() - m_start);
+    json["exitCode"] = static_cast<int>(exitCode);
+    if (m_failure) {
+        json["failure"] = {
+            {"step", m_failure->step}, {"subject", m_failure->subject}, {"reason", m_failure->reason}};
+    }
+    // Texts from outside are UTF-8 as a rule; one that is not must not cost the whole answer.
+    const std::string text =
+        json.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
+    std::fputs(text.c_str(), stdout);
+}

@@ -1,0 +1,73 @@
+#ifndef ZV_ROAD_REPORT_H
+#define ZV_ROAD_REPORT_H
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "zvFailure.h"
+#include "zvTypes.h"
+
+/// What became of a step that did not fail.
+struct zvStepOutcome {
+    enum class Kind { done, leftOut };
+
+    Kind kind;
+    /// What was done, or why it was not, in a few printable words.
+    std::string detail;
+
+    static zvStepOutcome done(std::string detail) { return {Kind::done, std::move(detail)}; }
+    static zvStepOutcome leftOut(std::string detail) { return {Kind::leftOut, std::move(detail)}; }
+};
+
+/// What was done on an event's road, how long it took and where things are; for people and for programs.
+/// Texts are printable; times are in milliseconds.
+class zvRoadReport {
+public:
+    struct File {
+        std::string path;
+        std::string outcome;
+        zvInt64 bytes = 0;
+        double milliseconds = 0;
+    };
+
+    zvRoadReport();
+
+    /// Runs the step and keeps what became of it. Throws the zvProgramFailure of a step that threw: with
+    /// `exitCode` for a zvStepFailure, and as unexpected for every other exception.
+    void take(const char* name, zvExitCode exitCode, const std::function<zvStepOutcome()>& step);
+
+    /// One thing that a program finds by its key, and a person by its label at the end; either may be empty.
+    void setFact(const char* key, const char* label, std::string value);
+    void addFile(File file) { m_files.push_back(std::move(file)); }
+    const std::vector<File>& files() const { return m_files; }
+
+    /// To the console; nothing when not even a first step was taken.
+    void print() const;
+    /// To standard output, as one JSON object and a line feed.
+    void printJson(zvExitCode exitCode) const;
+
+private:
+    [[noreturn]] void fail(zvProgramFailure failure, double start);
+
+    struct Step {
+        std::string name;
+        std::string outcome;
+        std::string detail;
+        double milliseconds;
+    };
+    struct Fact {
+        std::string key;
+        std::string label;
+        std::string value;
+    };
+
+    double m_start;
+    std::vector<Step> m_steps;
+    std::vector<Fact> m_facts;
+    std::vector<File> m_files;
+    std::optional<zvProgramFailure> m_failure;
+};
+
+#endif

@@ -1,0 +1,31 @@
+#ifndef ZV_TRANSFER_STEP_H
+#define ZV_TRANSFER_STEP_H
+
+#include "zvGatewayEvent.h"
+#include "zvResult.h"
+#include "zvTransferObserver.h"
+
+/// The step that sends the event's files to the file server, if the gateway home's folder "config" has a file
+/// "fileserver.properties". What arrived in an earlier run is not sent again.
+class zvTransferStep : private zvTransferObserver {
+public:
+    explicit zvTransferStep(zvGatewayEvent& event) : m_event(event) {}
+
+    /// Adds the files to the report. Throws a zvStepFailure.
+    zvStepOutcome run();
+
+private:
+    zvStepOutcome showFiles();
+    zvStepOutcome send(const zvString& configuration);
+    static void require(const zvResult& result);
+
+    bool hasArrived(const zvString& local) override;
+    void fileBegins(const zvString& local) override;
+    void fileTransferred(const zvString& local, zvInt64 bytes, zvInt64 milliseconds) override;
+
+    zvGatewayEvent& m_event;
+    zvInt64 m_sentBytes = 0;
+    int m_sentFiles = 0;
+};
+
+#endif
