@@ -1,131 +1,19 @@
-#include <curl/curl.h>
 #include <gtest/gtest.h>
-#include <httplib.h>
 
-#include <chrono>
 #include <clocale>
-#include <cstdlib>
-#include <cstring>
 #include <functional>
 #include <memory>
-#include <stdexcept>
 #include <string>
-#include <thread>
+#include <utility>
 #include <vector>
 
-#include "zvCommunicationFactory.h"
-#include "zvHttpUtils.h"
-#include "zvPlatform.h"
-#include "zvRecordingLogger.h"
-#include "zvTestSupport.h"
+#include "zvCommunicationTestSupport.h"
+#include "zvFormBody.h"
+#include "zvLoopbackServer.h"
 
 namespace {
 
 using zvRecordingLogger::lines;
-
-// What this program's own curl_global_init, and the allocator that it gives libcurl, do.
-bool refusesInitialization = false;
-bool refusesMemory = false;
-int allocations = 0;
-
-void* allocateCleared(std::size_t count, std::size_t bytes) {
-    ++allocations;
-    return refusesMemory ? nullptr : std::calloc(count, bytes);
-}
-
-char* duplicate(const char* text) {
-    const std::size_t bytes = std::strlen(text) + 1;
-    void* const copy = std::malloc(bytes);
-    return copy == nullptr ? nullptr : static_cast<char*>(std::memcpy(copy, text, bytes));
-}
-
-CURLcode initializeLibcurl(curl_calloc_callback allocator) {
-    return curl_global_init_mem(CURL_GLOBAL_ALL, &std::malloc, &std::free, &std::realloc, &duplicate,
-                                allocator);
-}
-
-// Holds every connection, without a word, until the server is stopped.
-class HoldingQueue : public httplib::TaskQueue {
-public:
-    void enqueue(std::function<void()> connection) override { m_held.push_back(std::move(connection)); }
-    void shutdown() override {
-        for (const std::function<void()>& connection : m_held) {
-            connection();
-        }
-    }
-
-private:
-    std::vector<std::function<void()>> m_held;
-};
-
-// A server on a loopback port, in a thread of its own. POST to "/<status>" is answered with that status.
-class LoopbackServer {
-public:
-    explicit LoopbackServer(std::unique_ptr<httplib::Server> server = std::make_unique<httplib::Server>())
-        : m_pServer(std::move(server)), m_port(m_pServer->bind_to_any_port("127.0.0.1")) {
-        if (m_port < 0) {
-            throw std::runtime_error("no port on the loopback interface");
-        }
-        // A busy machine is no reason to give a test's client up.
-        m_pServer->set_read_timeout(std::chrono::minutes(1));
-        m_pServer->set_write_timeout(std::chrono::minutes(1));
-        m_pServer->Post(R"(/(\d+))", [this](const httplib::Request& request, httplib::Response& response,
-                                            const httplib::ContentReader& read) {
-            ++m_requests;
-            m_strBody.clear();
-            read([this](const char* data, std::size_t size) {
-                m_strBody.append(data, size);
-                return true;
-            });
-            m_strContentType = request.get_header_value("Content-Type");
-            response.status = std::stoi(request.matches[1]);
-            response.set_header("Location", "/200");
-            m_answer(response);
-        });
-        m_thread = std::thread([this] { m_pServer->listen_after_bind(); });
-    }
-    LoopbackServer(const LoopbackServer&) = delete;
-    LoopbackServer& operator=(const LoopbackServer&) = delete;
-    ~LoopbackServer() {
-        while (!m_pServer->is_running()) {
-            std::this_thread::yield();
-        }
-        m_pServer->stop();
-        m_thread.join();
-    }
-
-    zvString url(const std::string& path = "/200", const std::string& scheme = "http") const {
-        return (scheme + "://127.0.0.1:" + std::to_string(m_port) + path).c_str();
-    }
-
-    std::function<void(httplib::Response&)> m_answer = [](httplib::Response&) {};
-    int m_requests = 0;
-    std::string m_strBody;
-    std::string m_strContentType;
-
-private:
-    std::unique_ptr<httplib::Server> m_pServer;
-    int m_port;
-    std::thread m_thread;
-};
-
-// Null where the server is built without TLS.
-std::unique_ptr<httplib::Server> selfSignedServer() {
-#ifdef CPPHTTPLIB_OPENSSL_SUPPORT
-    const std::unique_ptr<EVP_PKEY, decltype(&EVP_PKEY_free)> key(EVP_EC_gen("P-256"), &EVP_PKEY_free);
-    const std::unique_ptr<X509, decltype(&X509_free)> certificate(X509_new(), &X509_free);
-    X509_gmtime_adj(X509_getm_notBefore(certificate.get()), -3600);
-    X509_gmtime_adj(X509_getm_notAfter(certificate.get()), 3600);
-    X509_NAME_add_entry_by_txt(X509_get_subject_name(certificate.get()), "CN", MBSTRING_ASC,
-                               reinterpret_cast<const unsigned char*>("127.0.0.1"), -1, -1, 0);
-    X509_set_issuer_name(certificate.get(), X509_get_subject_name(certificate.get()));
-    X509_set_pubkey(certificate.get(), key.get());
-    X509_sign(certificate.get(), key.get(), EVP_sha256());
-    return std::make_unique<httplib::SSLServer>(certificate.get(), key.get());
-#else
-    return nullptr;
-#endif
-}
 
 // A sink that keeps what it gets, and takes no piece behind `limit` bytes.
 struct Collector : WriteMemoryCallbackWrapper {
@@ -147,35 +35,6 @@ struct Collector : WriteMemoryCallbackWrapper {
     std::string text;
     int pieces = 0;
 };
-
-class zvCommunicationUtilsTest : public zvLoggedTest {
-protected:
-    zvCommunicationUtilsTest() : m_args(zvEventMirror, "anna") {
-        zvPlatform::setEnvironment("no_proxy", "*");
-    }
-
-    static std::unique_ptr<zvCommunicationUtils> create() {
-        return std::unique_ptr<zvCommunicationUtils>(
-            zvCommunicationFactory::createCommunicationUtils(zvCommProtocoalHTTP));
-    }
-
-    // Result code, message and additional information of a request by a utility of its own.
-    std::string request(const zvString& url, WriteMemoryCallbackWrapper* sink = nullptr) const {
-        const zvResult result = create()->request(url, m_args, sink);
-        return std::to_string(result.getResult()) + "|" + narrow(result.getMessage()) + "|" +
-               narrow(result.getAdditionalInformation());
-    }
-
-    zvEventArguments m_args;
-};
-
-}  // namespace
-
-extern "C" CURLcode curl_global_init(long) {
-    return refusesInitialization ? CURLE_FAILED_INIT : initializeLibcurl(&allocateCleared);
-}
-
-namespace {
 
 TEST_F(zvCommunicationUtilsTest, AnswersAreReportedByTheirStatus) {
     LoopbackServer server;
@@ -425,46 +284,6 @@ TEST_F(zvCommunicationUtilsTest, NonsenseTimeoutsAreWarnedOfOncePerUtility) {
             std::string::npos)
             << lines("warn").front();
     }
-}
-
-TEST_F(zvCommunicationUtilsTest, LibcurlLivesAsLongAsTheLastUtilityOrCopy) {
-    // An allocator is adopted by a libcurl that is not in use only.
-    const auto isInUse = [] {
-        EXPECT_EQ(initializeLibcurl(&std::calloc), CURLE_OK);
-        allocations = 0;
-        curl_easy_cleanup(curl_easy_init());
-        curl_global_cleanup();
-        return allocations > 0;
-    };
-    ASSERT_FALSE(isInUse());
-    auto first = create();
-    {
-        zvHttpUtils copy(dynamic_cast<const zvHttpUtils&>(*first));
-        const auto second = create();
-        copy = dynamic_cast<const zvHttpUtils&>(*second);
-        first.reset();
-        EXPECT_TRUE(isInUse());
-    }
-    EXPECT_FALSE(isInUse());
-}
-
-TEST_F(zvCommunicationUtilsTest, ALibcurlThatCannotStartIsLogged) {
-    refusesInitialization = true;
-    auto utils = create();
-    refusesInitialization = false;
-    EXPECT_EQ(lines("error"),
-              (std::vector<std::string>{"Following error occurred while initializing the LIBCURL library : "
-                                        "\"2\" -Failed initialization"}));
-    utils = create();
-    zvRecordingLogger::reset();
-    refusesMemory = true;
-    const zvResult result = utils->request("http://127.0.0.1/", m_args, nullptr);
-    refusesMemory = false;
-    const std::string noHandle = "Error in getting an handle to curl-easy interface.";
-    EXPECT_EQ(result.getResult(), -1);
-    EXPECT_EQ(narrow(result.getMessage()), noHandle);
-    ASSERT_EQ(lines().size(), 3u);
-    EXPECT_EQ(lines()[1], "error: " + noHandle);
 }
 
 }  // namespace

@@ -75,9 +75,6 @@ protected:
 
     /// The operand as it is written in a condition text; empty for an unknown value type.
     static zvString convertOperandToStringFormat(const zvCndOperand& operand);
-
-private:
-    class Reader;
 };
 
 #endif

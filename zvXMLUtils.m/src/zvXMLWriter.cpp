@@ -12,6 +12,7 @@
 
 #include "zvCharString.h"
 #include "zvLogSource.h"
+#include "zvPath.h"
 #include "zvPlatform.h"
 #include "zvXMLText.h"
 #include "zvXMLWalk.h"
@@ -112,7 +113,7 @@ void zvXMLWriter::write(DOMDocument& document, XMLFormatTarget& target, const zv
 }
 
 void zvXMLWriter::toFile(const MemBufFormatTarget& bytes, const zvString& path) {
-    const std::string name = zvPlatform::nativePath(zvCharString(path).data());
+    const std::string name = zvPath::native(path);
     zvPlatform::File file(std::fopen(name.c_str(), "wb"));
     if (file == nullptr) {
         refuse(name.c_str());

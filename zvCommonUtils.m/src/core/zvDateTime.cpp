@@ -1,5 +1,6 @@
 #include "zvDateTime.h"
 
+#include "zvDatePattern.h"
 #include "zvLogSource.h"
 #include "zvPlatform.h"
 
@@ -7,7 +8,6 @@ namespace {
 
 constexpr zvLogSource logger("zvCommonUtils.m/src/zvDateTime");
 
-constexpr char defaultFormat[] = "DD/MM/YYYY::hh-mm-ss";
 constexpr int fieldCount = 6;
 constexpr int longestFieldText = 5;
 
@@ -92,14 +92,14 @@ void zvDateTime::copy(const zvDateTime& other) {
 
 // An empty pattern of the value's own has a buffer.
 void zvDateTime::setFormat(const zvString& format) {
-    m_strFormat = format.empty() ? zvString(defaultFormat) : format;
+    m_strFormat = format.empty() ? zvString(zvDefaultDatePattern) : format;
     if (format.empty()) {
         m_strFormat.reset();
     }
 }
 
 zvString zvDateTime::getDateFormat() const {
-    return m_strFormat.data() == nullptr ? zvString(defaultFormat) : m_strFormat;
+    return m_strFormat.data() == nullptr ? zvString(zvDefaultDatePattern) : m_strFormat;
 }
 
 bool zvDateTime::isInitialized() const {

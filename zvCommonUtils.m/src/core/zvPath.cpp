@@ -1,20 +1,32 @@
 #include "zvPath.h"
 
-#include <algorithm>
-
+#include "zvCharString.h"
+#include "zvPlatform.h"
+#include "zvStringView.h"
 #include "zvTextBuilder.h"
 
 namespace zvPath {
 
-zvString fileName(const zvString& path) {
-    const int delimiter = std::max(path.reverseFind("\\"), path.reverseFind("/"));
-    return delimiter == -1 ? zvString() : path.substr(delimiter + 1, path.size() - delimiter - 1);
+namespace {
+
+template <typename Unit>
+std::basic_string_view<Unit> fileNameIn(std::basic_string_view<Unit> path) {
+    using View = std::basic_string_view<Unit>;
+    constexpr Unit delimiters[] = {'\\', '/', 0};
+    const std::size_t delimiter = path.find_last_of(delimiters);
+    return delimiter == View::npos ? View() : path.substr(delimiter + 1);
 }
 
-std::string_view fileName(std::string_view path) {
-    const std::size_t delimiter = path.find_last_of("/\\");
-    return delimiter == std::string_view::npos ? std::string_view() : path.substr(delimiter + 1);
+}  // namespace
+
+zvString fileName(const zvString& path) {
+    const zvStringView name = fileNameIn(viewOf(path));
+    return {name.data(), static_cast<int>(name.size())};
 }
+
+std::string_view fileName(std::string_view path) { return fileNameIn(path); }
+
+std::string native(const zvString& path) { return zvPlatform::nativePath(zvCharString(path).data()); }
 
 zvString join(const zvString& folder, const zvString& name) {
     return zvTextBuilder::concat(folder, "\\", name);

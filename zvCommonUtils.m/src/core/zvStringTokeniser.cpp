@@ -1,15 +1,14 @@
 #include "zvStringTokeniser.h"
 
 #include <algorithm>
-#include <string_view>
+
+#include "zvStringView.h"
 
 namespace {
 
-using View = std::basic_string_view<wchar16>;
+using View = zvStringView;
 
 constexpr std::size_t npos = View::npos;
-
-View viewOf(const zvString& text) { return {text.data(), static_cast<std::size_t>(text.size())}; }
 
 void addToken(zvStringList& tokens, const zvString& source, std::size_t begin, std::size_t end) {
     const std::size_t last = std::min(end, static_cast<std::size_t>(source.size()));

@@ -6,9 +6,10 @@
 #include <limits>
 #include <utility>
 
+#include "zvDatePattern.h"
+
 namespace {
 
-constexpr char dateFormat[] = "DD/MM/YYYY::hh-mm-ss";
 constexpr char noOrderOfBooleans[] = "On boolean datatype only equal to and not equal to action happens";
 
 // What is too large for a float is infinite; a plain conversion of it would be undefined.
@@ -26,7 +27,7 @@ int toInt(float value) {
 
 zvDateTime toDate(const zvString& text) {
     zvDateTime date;
-    date.setDate(text, dateFormat);
+    date.setDate(text, zvDefaultDatePattern);
     return date;
 }
 
@@ -203,7 +204,7 @@ zvString zvValue::getValue() const {
         case zvDataTypeFloat:
             return zvString(static_cast<double>(m_float));
         case zvDataTypeDate:
-            return m_dateValue.getDateTime(dateFormat, "/", "-");
+            return m_dateValue.getDateTime(zvDefaultDatePattern, "/", "-");
         case zvDataTypeBoolean:
             return zvString(m_bValue);
         case zvDataTypeNone:

@@ -1,6 +1,5 @@
 package com.vantorel.ep.products.fsclient;
 
-import java.io.FilterInputStream;
 import java.io.IOException;
 import java.nio.file.Files;
 import java.nio.file.Path;
@@ -9,7 +8,7 @@ import java.nio.file.Path;
  * A local file being read. It counts, and its failures are {@link FileServerException}s, which tells them from those of
  * the network.
  */
-final class LocalSource extends FilterInputStream {
+final class LocalSource extends BulkInput {
     private long count;
 
     /**
@@ -36,15 +35,9 @@ final class LocalSource extends FilterInputStream {
     }
 
     @Override
-    public int read() throws IOException {
-        byte[] one = new byte[1];
-        return read(one, 0, 1) < 0 ? -1 : one[0] & 0xff;
-    }
-
-    @Override
     public int read(byte[] bytes, int offset, int length) throws IOException {
         try {
-            int read = super.read(bytes, offset, length);
+            int read = in.read(bytes, offset, length);
             count += Math.max(read, 0);
             return read;
         } catch (IOException e) {

@@ -1,6 +1,5 @@
 package com.vantorel.ep.products.fsclient;
 
-import java.io.FilterInputStream;
 import java.io.IOException;
 import java.io.InputStream;
 import java.net.InetAddress;
@@ -103,20 +102,14 @@ final class SessionSockets extends DefaultSocketFactory {
         }
     }
 
-    private final class LimitedInput extends FilterInputStream {
+    private final class LimitedInput extends BulkInput {
         LimitedInput(InputStream in) {
             super(in);
         }
 
         @Override
-        public int read() throws IOException {
-            byte[] one = new byte[1];
-            return read(one, 0, 1) < 0 ? -1 : one[0] & 0xff;
-        }
-
-        @Override
         public int read(byte[] bytes, int offset, int length) throws IOException {
-            int count = super.read(bytes, offset, length);
+            int count = in.read(bytes, offset, length);
             allowance -= count;
             if (allowance < 0) {
                 throw new IOException("the server's answer does not end");
