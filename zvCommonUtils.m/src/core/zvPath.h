@@ -7,11 +7,11 @@
 
 namespace zvPath {
 
-/// The part behind the last backslash or slash; empty for a bare name.
+/// The part after the last backslash or slash; empty for a path without either.
 zvString fileName(const zvString& path);
 std::string_view fileName(std::string_view path);
 
-/// `folder`, a backslash and `name`.
+/// `folder` and `name`, joined by a backslash.
 zvString join(const zvString& folder, const zvString& name);
 
 }  // namespace zvPath
