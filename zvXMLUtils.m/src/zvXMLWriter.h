@@ -9,12 +9,12 @@ XERCES_CPP_NAMESPACE_BEGIN
 class DOMDocument;
 XERCES_CPP_NAMESPACE_END
 
-/// Writing a document: first into bytes, which are then put where they belong, so that a document that cannot
-/// be written does not cost a file its content. Each operation logs why it answers false.
+/// Serialises documents: first into memory, so that a failure does not truncate an existing file. Each
+/// operation logs the reason when it returns false.
 namespace zvXMLWriter {
 
-/// The document with its declaration, lines ended by a single line feed, in `encoding`. False for an encoding
-/// that is unknown or lacks a character of a name, and for a document that is too deep to be written.
+/// Serialises the document in `encoding`, with an XML declaration and line feeds as line ends. False for an
+/// unknown encoding, for a name that it cannot encode and for a document that is nested too deeply.
 bool write(xercesc::DOMDocument& document, xercesc::XMLFormatTarget& target, const zvString& encoding);
 
 bool toFile(const xercesc::MemBufFormatTarget& bytes, const zvString& path);
