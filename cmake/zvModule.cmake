@@ -1,10 +1,10 @@
-# Helpers with which a module's CMakeLists.txt describes itself.
+# Functions for the modules' CMakeLists.txt.
 
 # zv_add_layer(NAME SOURCES ... PUBLIC_HEADERS ... DIRECTORIES ... DEPENDS ... LIBRARIES ...)
 #
-# Adds the object library NAME, a part of zvCommonUtilsExport. It sees only the headers in its own
-# DIRECTORIES and in those of the layers under DEPENDS, so that an include that points upward does not compile.
-# PUBLIC_HEADERS are installed; LIBRARIES are what it calls outside the project.
+# Adds the object library NAME, a layer of zvCommonUtilsExport. Its include path consists of its own
+# DIRECTORIES and those of the layers in DEPENDS, so that an include of a higher layer does not compile.
+# PUBLIC_HEADERS are installed; LIBRARIES are its third-party dependencies.
 function(zv_add_layer NAME)
     cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC_HEADERS;DIRECTORIES;DEPENDS;LIBRARIES" ${ARGN})
     add_library(${NAME} OBJECT ${ARG_SOURCES})
@@ -17,7 +17,7 @@ function(zv_add_layer NAME)
     endforeach()
     target_link_libraries(${NAME} PUBLIC ${ARG_LIBRARIES})
     if(ZV_LINK_TIME_OPTIMISATION)
-        # Machine code stands beside, for the test programs, which are linked without.
+        # Fat objects also contain machine code, for the test programs, which are linked without LTO.
         target_compile_options(${NAME} PRIVATE -flto=auto -ffat-lto-objects)
     endif()
     list(TRANSFORM ARG_PUBLIC_HEADERS PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
@@ -27,9 +27,9 @@ endfunction()
 
 # zv_add_tests(NAME SOURCES ... LIBRARIES ... DEFINITIONS ... [ENVIRONMENT variable=value] [NOT_ON_WINDOWS reason])
 #
-# Registers a GoogleTest program over the library's own objects and the recording logger; every test in it is
-# a CTest test of its own, which runs with ENVIRONMENT. A cross-build lists the programs in the file
-# "test-programs" for the scripts that run them, and those that it leaves out with the reason.
+# Registers a GoogleTest program that is linked with the library's objects and the recording logger; each of
+# its tests is a CTest test, run with ENVIRONMENT. A cross-build lists the programs in the file
+# "test-programs" for the scripts that run them, and the skipped ones with the reason.
 function(zv_add_tests NAME)
     cmake_parse_arguments(ARG "" "ENVIRONMENT;NOT_ON_WINDOWS" "SOURCES;LIBRARIES;DEFINITIONS" ${ARGN})
     list(TRANSFORM ARG_SOURCES PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
@@ -44,18 +44,18 @@ function(zv_add_tests NAME)
     set_property(GLOBAL PROPERTY ZV_TEST_ENVIRONMENT_${NAME} ${ARG_ENVIRONMENT})
 endfunction()
 
-# Notes in "test-programs" that the program is to be run.
+# Lists the program in "test-programs" as one to run.
 function(zv_list_test_program NAME)
     set_property(GLOBAL APPEND_STRING PROPERTY ZV_TEST_LIST "run\t$<TARGET_FILE:${NAME}>\n")
 endfunction()
 
-# Notes in "test-programs" that the tests in SOURCES are left out, or, without sources, the test NAME.
+# Lists the tests in SOURCES or, without sources, the test NAME in "test-programs" as skipped.
 function(zv_skip_tests NAME REASON)
     list(JOIN ARGN " " sources)
     set_property(GLOBAL APPEND_STRING PROPERTY ZV_TEST_LIST "skip\t${NAME}\t${REASON}\t${sources}\n")
 endfunction()
 
-# Adds the registered test programs. Called once, after every module, since each program links all of them.
+# Adds the registered test programs. Called once, after all modules, since each program links all of them.
 function(zv_add_module_tests)
     find_package(GTest REQUIRED)
     include(GoogleTest)

@@ -1,5 +1,5 @@
-# The shared library out of the layers' objects, and the same objects as a static library for the tests, which
-# reach what is hidden and bring a logging library of their own.
+# Links the layers' objects into the shared library, and into a static library for the tests, which need
+# hidden symbols and bring their own logging library.
 get_property(layers GLOBAL PROPERTY ZV_LAYERS)
 
 add_library(zvCommonUtilsExport SHARED)
@@ -24,7 +24,7 @@ endif()
 target_link_libraries(zvCommonUtilsExport PRIVATE zvLogger)
 target_link_options(zvCommonUtilsExport PRIVATE ${ZV_NO_UNDEFINED})
 if(WIN32)
-    # The name that programs have asked for ever since.
+    # Existing programs import the DLL by this name.
     set_target_properties(zvCommonUtilsExport PROPERTIES PREFIX "")
     if(CMAKE_SIZEOF_VOID_P EQUAL 4)
         target_sources(zvCommonUtilsExport PRIVATE
