@@ -1,4 +1,5 @@
-// What the collections and the values make of a failed allocation: they throw it on and are as they were.
+// The strong exception guarantee of collections and values: std::bad_alloc propagates and leaves them
+// unchanged.
 #include <string>
 #include <vector>
 
@@ -13,7 +14,7 @@ namespace {
 
 using Contents = std::vector<std::string>;
 
-// Made before any fault, so that only the operation under test meets one.
+// Constructed in advance, so that only allocations of the operation under test fail.
 const zvString first("the first text");
 const zvString second("a second text");
 const zvString third("yet another text");
@@ -75,7 +76,7 @@ zvStringToAttrMap attributesOfOne() {
 
 zvAttribute number() { return {first, zvValue(12)}; }
 
-// Unchanged by a failure, and changed otherwise: there is nothing between.
+// Checks the strong exception guarantee: a failed operation leaves the object unchanged.
 template <typename Object>
 void wholeOrNotAtAll(Object (*make)(), void (*operation)(Object&)) {
     const Contents before = contents(make());

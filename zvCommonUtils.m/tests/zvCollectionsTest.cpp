@@ -79,7 +79,7 @@ TEST(zvStringToAttrMap, HoldsAttributesByName) {
     EXPECT_FALSE(map.getAttrName(1, name) || map.getAttrName(-1, name));
 }
 
-// Enough of them for some to share a slot of the look-up, in the map and in its copy.
+// Enough entries for hash collisions, in the map and in its copy.
 TEST(zvStringToAttrMap, FindsEachOfManyAndNoOther) {
     constexpr int count = 1000;
     const auto key = [](int i) { return zvString(("attribute " + std::to_string(i)).c_str()); };

@@ -89,7 +89,7 @@ TEST_F(zvCommonUtilsTest, KnowsBooleanTexts) {
     EXPECT_FALSE(zvCommonUtils::validBooleanValue("1") || zvCommonUtils::validBooleanValue(""));
 }
 
-// In a process of its own, started afresh: the name is fixed for the life of one.
+// In a process of its own, since the name can be set only once per process.
 TEST(zvGatewayHomeVariable, CanHaveAnotherName) {
     testing::GTEST_FLAG(death_test_style) = "threadsafe";
     EXPECT_EXIT(

@@ -122,7 +122,7 @@ TEST_F(zvEventArgumentsTest, SplitsOneString) {
 
 TEST_F(zvEventArgumentsTest, ACopyHasArgumentsOfItsOwn) {
     zvEventArguments event(zvEventMirror, "me");
-    // Its setters are const, but they change it.
+    // The setters are const, but modify the object.
     zvEventArguments copy(event);  // NOLINT(performance-unnecessary-copy-initialization)
     copy.setEventArgument("EventName", "changed");
     EXPECT_TRUE(copy.addEventArgument("New", "1"));

@@ -11,7 +11,7 @@
 
 namespace {
 
-// The buffer's address tells whether an operation kept it or took a new one.
+// A string with spare capacity.
 zvString withRoom(const char* text, int room) {
     zvString wide(std::string(static_cast<std::size_t>(room), 'x').c_str());
     wide = zvString(text);
@@ -121,7 +121,7 @@ TEST(zvString, Searches) {
     EXPECT_EQ(zvString("aXaxA").countNoCase("AX"), 2);
 }
 
-// Long texts are searched in blocks, whose edges no match may fall into.
+// Long strings are searched in blocks: matches across block boundaries must be found.
 TEST(zvString, FindsTheFirstMatchAtEveryPosition) {
     for (const std::string pattern : {"n", "ne", "needle"}) {
         for (std::size_t before = 1; before < 140; ++before) {
@@ -268,7 +268,7 @@ TEST(zvString, KeepsTextBeyondAsciiBothWays) {
         GTEST_SKIP() << "a UTF-8 locale";
     }
     const char* const mixed =
-        "\xC3\xA4 \xE2\x82\xAC \xF0\x9F\x98\x80!";  // one, two and three units' characters
+        "\xC3\xA4 \xE2\x82\xAC \xF0\x9F\x98\x80!";  // characters of two, three and four bytes
     const zvString text(mixed);
     EXPECT_EQ(text, u"\u00E4 \u20AC \U0001F600!");
     EXPECT_EQ(text.size(), 7);

@@ -9,7 +9,7 @@
 
 namespace {
 
-// Which of == != < <= > >= hold, each as 1 or 0; "!" for one that throws.
+// The results of == != < <= > >= as 1 or 0; "!" for one that throws.
 std::string comparisons(const zvValue& left, const zvValue& right) {
     using Operator = bool (zvValue::*)(const zvValue&) const;
     const Operator operators[] = {&zvValue::operator==, &zvValue::operator!=, &zvValue::operator<,

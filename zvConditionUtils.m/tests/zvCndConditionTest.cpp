@@ -171,7 +171,7 @@ TEST(zvCndContext, RefusesEmptyAndTakenNames) {
     EXPECT_EQ(1, attribute.getValue().getIntValue());
 }
 
-// Which of = != < <= > >= hold, each as 1 or 0; "!" for one that throws.
+// The results of = != < <= > >= as 1 or 0; "!" for one that throws.
 std::string outcomes(const zvCndOperand& lhs, const zvCndOperand& rhs) {
     zvCndContext context;
     add(context, "five", zvValue(5));
@@ -210,7 +210,7 @@ TEST(zvICndComparisonCondition, ComparesWhatItsOperandsStandFor) {
         {operand(zvValue(5)), operand(zvValue(2.5F)), "010011"},
         {operand(zvValue(false)), text("0"), "10!!!!"},
         {operand(zvValue(5), zvOperandVariable), text("named by a number"), "101010"},
-        // One side is missing.
+        // One operand is missing.
         {variable("absent"), text("1"), "000000"},
         {text("1"), variable("absent"), "000000"},
         {variable("absent"), variable("absent"), "000000"},

@@ -17,7 +17,7 @@ const std::string operatorNotFound = "Valid condition operator not found";
 const std::string badUsage = "Invalid condition string, check the usage of operators";
 const std::string badSyntax = "Invalid condition string, check the syntax of condition string";
 
-// "message @ position" of the failure.
+// The failure as "message @ position".
 std::string failure(const zvString& text) {
     try {
         Utils::createConditionStructure(text);
@@ -48,7 +48,7 @@ TEST(zvCndParsingUtils, KeepsChildrenFromRightToLeftAndFlattensRuns) {
         {"{a} = '1' AND {b} = '2' OR {c} = '3'", " ( {c} = '3' ) OR (  ( {b} = '2' ) AND ( {a} = '1' )  ) "},
         {"({a} = '1' OR {b} = '2') AND {c} = '3'",
          " ( {c} = '3' ) AND (  ( {b} = '2' ) OR ( {a} = '1' )  ) "},
-        // A nested run is taken in only when it is the rightmost operand.
+        // A nested chain is flattened only as the rightmost operand.
         {"{a} = '1' OR ({b} = '2' OR {c} = '3')", " ( {c} = '3' ) OR ( {b} = '2' ) OR ( {a} = '1' ) "},
         {"({a} = '1' OR {b} = '2') OR {c} = '3'", " ( {c} = '3' ) OR (  ( {b} = '2' ) OR ( {a} = '1' )  ) "},
         {"NOT {a} = '1' AND NOT ({b} = '2')", " ( NOT ( {b} = '2' )  ) AND ( NOT ( {a} = '1' )  ) "},
@@ -196,7 +196,7 @@ TEST(zvCndParsingUtils, MakesComparisonsOutOfTexts) {
     EXPECT_EQ(invalid, refusal(15, "a", "1"));
 }
 
-// The steps, as a class derived from the parser reaches them.
+// The protected operations, as used by a derived class.
 struct Steps : zvCndParsingUtils {
     static void test() {
         int position = 4;

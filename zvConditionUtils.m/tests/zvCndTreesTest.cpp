@@ -1,4 +1,4 @@
-// Whole trees: random ones against an evaluator of the test's own, and ones that are deep or wide on purpose.
+// Property tests: random trees compared with a reference evaluator, and very deep and very wide trees.
 
 #include <algorithm>
 #include <array>
@@ -12,9 +12,9 @@ namespace {
 
 using Attributes = std::map<std::string, std::string>;
 
-// An expression that writes itself as a condition text and evaluates itself on plain strings.
+// The reference model: writes itself as a condition string and evaluates itself on plain strings.
 struct Expression {
-    std::string token;  // of a comparison when there are no children
+    std::string token;  // of a comparison if there are no children
     std::string name, constant;
     std::vector<Expression> children;
 
@@ -48,7 +48,7 @@ struct Expression {
         return found != attributes.end() && compare(found->second);
     }
 
-    // Of texts, <= and >= are strict, and < and > are their opposites.
+    // On strings, <= and >= are strict, and < and > are their negations.
     bool compare(const std::string& value) const {
         if (token == "=" || token == "!=") {
             return (value == constant) == (token == "=");
@@ -93,7 +93,7 @@ TEST(zvCndTrees, RandomTreesEvaluateAsTheirTextsSayAndSurviveRewriting) {
         }
         std::string text = expression.text(random);
         SCOPED_TRACE(text);
-        // Reading turns the children round each time, and takes in the nested runs that come last.
+        // Each round trip reverses the children and flattens nested chains at the end.
         std::array<std::string, 10> texts;
         for (std::string& written : texts) {
             const zvCndCondition condition = parse(text);

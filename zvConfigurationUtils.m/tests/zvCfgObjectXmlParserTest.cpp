@@ -10,7 +10,7 @@ namespace {
 
 using zvCfgObjectXmlParserTest = zvConfigurationTest;
 
-// What was logged about the configuration alone, debug texts and the conditions' own texts aside.
+// The messages about the configuration, without debug messages and those of conditions.
 Lines complaints() {
     Lines all;
     for (const std::string& line : zvRecordingLogger::lines()) {

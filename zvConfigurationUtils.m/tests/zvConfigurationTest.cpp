@@ -184,7 +184,7 @@ TEST_F(zvConfigurationTest, LifecyclesHaveWays) {
     EXPECT_FALSE(manager().addLcmStateByRemoteName("T", "A", ""));
 }
 
-// A graph in which every state leads to every other has more ways than anybody could list.
+// A complete graph has too many paths to enumerate.
 TEST_F(zvConfigurationTest, TheWaysOfADenseLifecycleAreCutOff) {
     constexpr int states = 40;
     std::string graph;

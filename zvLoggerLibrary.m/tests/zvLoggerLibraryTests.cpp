@@ -39,8 +39,8 @@ protected:
         return (m_folder / name).string();
     }
 
-    /// A configuration whose root logger has `level` and writes to "logs/out.log", a folder yet to be made;
-    /// `parameters` are the appender's.
+    /// Writes a configuration whose root logger has `level` and an appender with `parameters` to
+    /// "logs/out.log", in a missing folder.
     std::string configuration(const std::string& level, const std::string& parameters,
                               const std::string& type = "FileAppender") const {
         return documentStart + (R"(<appender name="file" class="org.apache.log4j.)" + type + "\">") +
@@ -51,7 +51,7 @@ protected:
                R"("/><appender-ref ref="file"/></root></log4j:configuration>)";
     }
 
-    /// The lines of all log files.
+    /// The lines of all log files, backups included.
     Lines lines() const {
         Lines found;
         for (const auto& entry : fs::directory_iterator(m_folder / "logs")) {
@@ -63,7 +63,7 @@ protected:
         return found;
     }
 
-    /// Runs the test program; true when it exits with 0.
+    /// Runs the test program; true if its exit code is 0.
     static bool run(const std::string& path, const std::string& name, int count) {
         const std::string command = std::string("\"") + ZV_LOGGER_TEST_PROGRAM + "\" \"" + path + "\" " +
                                     name + " " + std::to_string(count);
@@ -182,7 +182,7 @@ TEST_F(zvLoggerLibraryTest, aLoggerWithoutAppendersIsSilent) {
 }
 
 TEST_F(zvLoggerLibraryTest, logsUntilTheProcessHasEnded) {
-    // So small a file is rolled over at every line, for which log4cxx needs most of what it has.
+    // A file this small is rolled over at every line, which exercises most of log4cxx.
     const std::string parameters = parameter("MaxFileSize", "10") + parameter("MaxBackupIndex", "9");
     ASSERT_TRUE(
         run(write("log4cxx.xml", configuration("info", parameters, "RollingFileAppender")), "program", 1));

@@ -38,7 +38,7 @@ TEST(zvPlatform, TheReasonOfARefusalOutlivesWhatFollows) {
     EXPECT_EQ(zvPlatform::accessError(folder.path().string().c_str(), 6), 0UL);
 }
 
-// A program that was started without a standard input gets descriptor 0 for its first file.
+// A program that is started with standard input closed gets descriptor 0 for its first file.
 TEST(zvPlatform, NoOpenedFileHasTheHandle0) {
     EXPECT_EXIT(
         {

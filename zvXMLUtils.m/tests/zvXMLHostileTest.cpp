@@ -15,8 +15,7 @@ using Lines = std::vector<std::string>;
 using List = std::unique_ptr<zvXERCESDOMNODEList>;
 
 constexpr int many = 100'000;
-constexpr std::chrono::seconds bearable(
-    20);  // far more than is needed, also under a sanitizer on a busy machine
+constexpr std::chrono::seconds bearable(20);  // generous, for sanitizers on a busy machine
 
 std::string repeated(const std::string& text, int times) {
     std::string all;
@@ -34,7 +33,7 @@ std::string numbered(const std::string& before, const std::string& after, int ti
     return all;
 }
 
-// Entities of which each holds the one before it so many times over.
+// Nested entities, each of which contains the one before it `fold` times.
 std::string nested(const std::string& head, const std::string& innermost, const std::string& reference,
                    int levels, int fold) {
     std::string all = "<!ENTITY " + head + "e0 '" + innermost + "'>";
@@ -45,7 +44,7 @@ std::string nested(const std::string& head, const std::string& innermost, const 
     return all;
 }
 
-// Elements w0, w1 and so on, each of which consists of a thousand others: a million transitions.
+// Declares elements w0, w1 and so on, each with a thousand child elements: a million transitions.
 std::string largeModels(int count) {
     const std::string model = numbered("n", ",", 999) + "n";
     return numbered("<!ELEMENT w", " (" + model + ")>", count);
@@ -57,7 +56,7 @@ std::string document(const std::string& declarations, const std::string& content
 
 class zvXMLHostileTest : public zvLoggedTest {
 protected:
-    // Loads and tells how the one error in the log begins or, for a document that loads, its text.
+    // Loads the document; returns the start of the only error in the log or, on success, its text.
     static std::string outcome(const std::string& source, bool isFile = false) {
         zvRecordingLogger::reset();
         zvXMLParser parser;
@@ -148,7 +147,7 @@ TEST_F(zvXMLHostileTest, readsEntitiesFromItsFolderOnly) {
     const std::string root = onWindows ? "/" + m_folder.path().generic_string() : folder;
     const struct {
         std::string systemId;
-        const char* refusal;  // null: it is read
+        const char* refusal;  // null: it is loaded
         bool isOfPosix = false;
     } cases[] = {
         {"part.txt", nullptr},
@@ -185,7 +184,7 @@ TEST_F(zvXMLHostileTest, readsEntitiesFromItsFolderOnly) {
         EXPECT_EQ("XML document refused: it is not in a file and yet has the external entity \"" +
                       c.systemId + "\"",
                   outcome(document(entity, "<r>&e;</r>")));
-        // An entity that nobody refers to is not read.
+        // An entity without a reference is not loaded.
         EXPECT_EQ("loaded ", outcome(document(entity, "<r/>")));
     }
 }

@@ -1,4 +1,4 @@
-// What crosses the border of the DLL: texts, objects, exceptions, virtual calls and the calls of the logging
+// Whatever crosses the DLL's boundary: strings, objects, exceptions, virtual calls and calls of the logging
 // library.
 #include <gtest/gtest.h>
 
