@@ -73,7 +73,7 @@ TEST_F(zvC2JBridgeTest, LogsTheVersionAsJavaPrintsIt) {
     });
 }
 
-TEST_F(zvC2JBridgeTest, FindsJavaOnEveryWay) {
+TEST_F(zvC2JBridgeTest, FindsJavaInEveryPlace) {
     const zvTemporaryFolder links;
     fs::create_symlink(javaHome / "bin" / "java", links.path() / "java");
     struct Case {
@@ -95,7 +95,7 @@ TEST_F(zvC2JBridgeTest, FindsJavaOnEveryWay) {
     }
 }
 
-TEST_F(zvC2JBridgeTest, TellsWhereItFoundNoJava) {
+TEST_F(zvC2JBridgeTest, LogsWhereItLookedForJava) {
     const zvScopedVariable libraryPath("LD_LIBRARY_PATH", "");
     const zvScopedVariable path("PATH", "/nowhere");
     inProcessOfItsOwn([this] {
@@ -126,7 +126,7 @@ TEST_F(zvC2JBridgeTest, TellsWhereItFoundNoJava) {
     });
 }
 
-TEST_F(zvC2JBridgeTest, TellsThatJavaRefusesToStart) {
+TEST_F(zvC2JBridgeTest, LogsThatJavaRefusesToStart) {
     const zvScopedVariable options("JAVA_TOOL_OPTIONS", "-XX:NoSuchOption=1");
     inProcessOfItsOwn([] {
         EXPECT_EQ(zvC2JBridge::getInstance(), nullptr);

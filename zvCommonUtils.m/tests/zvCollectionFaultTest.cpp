@@ -89,7 +89,7 @@ void wholeOrNotAtAll(Object (*make)(), void (*operation)(Object&)) {
     });
 }
 
-TEST(zvCollectionFault, AListKeepsWhatItHas) {
+TEST(zvCollectionFaultTest, AListIsUnchanged) {
     wholeOrNotAtAll<zvStringList>(listOfOne, [](zvStringList& list) { list.addString(second); });
     wholeOrNotAtAll<zvStringList>(listOfOne, [](zvStringList& list) { list = zvStringList(list); });
     wholeOrNotAtAll<zvStringList>(listOfOne, [](zvStringList& list) {
@@ -100,7 +100,7 @@ TEST(zvCollectionFault, AListKeepsWhatItHas) {
     });
 }
 
-TEST(zvCollectionFault, AMapKeepsWhatItHas) {
+TEST(zvCollectionFaultTest, AMapIsUnchanged) {
     wholeOrNotAtAll<zvStringToStringMap>(mapOfOne, [](zvStringToStringMap& map) { map.add(third, second); });
     wholeOrNotAtAll<zvStringToStringMap>(mapOfOne, [](zvStringToStringMap& map) { map.add(first, third); });
     wholeOrNotAtAll<zvStringToStringMap>(mapOfOne,
@@ -120,7 +120,7 @@ TEST(zvCollectionFault, AMapKeepsWhatItHas) {
     });
 }
 
-TEST(zvCollectionFault, AValueIsAsItWasOrEmpty) {
+TEST(zvCollectionFaultTest, AValueIsUnchangedOrEmpty) {
     wholeOrNotAtAll<zvAttribute>(
         number, [](zvAttribute& attribute) { attribute = zvAttribute(second, zvValue(third)); });
     wholeOrNotAtAll<zvAttribute>(number, [](zvAttribute& attribute) { attribute.setValue(zvValue(third)); });
@@ -133,7 +133,7 @@ TEST(zvCollectionFault, AValueIsAsItWasOrEmpty) {
                                   });
 }
 
-TEST(zvCollectionFault, ATokeniserHasWholeTokens) {
+TEST(zvCollectionFaultTest, ATokeniserHasOnlyCompleteTokens) {
     zvFaultyMemory::forEveryFault(
         [] { return zvStringList(); },
         [](zvStringList& tokens) {

@@ -75,7 +75,7 @@ TEST_F(zvCommonUtilsTest, FindsFunctionsOfLibraries) {
     EXPECT_EQ(zvRecordingLogger::lines(), expected);
 }
 
-TEST_F(zvCommonUtilsTest, TellsTheTimeAndWaits) {
+TEST_F(zvCommonUtilsTest, ReturnsTheTimeAndSleeps) {
     const zvString now = zvCommonUtils::getCurrentTime();
     EXPECT_EQ(now.size(), 25);
     EXPECT_EQ(now[24], u'\n');
@@ -90,7 +90,7 @@ TEST_F(zvCommonUtilsTest, KnowsBooleanTexts) {
 }
 
 // In a process of its own, since the name can be set only once per process.
-TEST(zvGatewayHomeVariable, CanHaveAnotherName) {
+TEST(zvGatewayHomeTest, CanHaveAnotherName) {
     testing::GTEST_FLAG(death_test_style) = "threadsafe";
     EXPECT_EXIT(
         {

@@ -53,7 +53,7 @@ TEST_F(zvDateTimeTest, ReadsByAPattern) {
     EXPECT_TRUE(zvRecordingLogger::lines().empty());
 }
 
-TEST_F(zvDateTimeTest, NothingToReadIsLogged) {
+TEST_F(zvDateTimeTest, EmptyInputIsLogged) {
     zvDateTime date(2011, 5, 21, 0, 0, 0);
     date.setDate("", "DD");
     date.setDate("1", "");
@@ -67,7 +67,7 @@ TEST_F(zvDateTimeTest, NothingToReadIsLogged) {
     EXPECT_EQ(date.getDay(), 21);
 }
 
-TEST_F(zvDateTimeTest, ThePatternTravelsWithTheValue) {
+TEST_F(zvDateTimeTest, ThePatternIsCopiedWithTheValue) {
     for (const char* const format : {"", "DD", pattern}) {
         const zvDateTime date{zvString(format)};
         zvDateTime assigned(2011, 5, 21, 0, 0, 0);
@@ -108,7 +108,7 @@ TEST_F(zvDateTimeTest, ComparesInstants) {
     EXPECT_TRUE(early <= early && early >= early && !(early < early) && !(early > early));
 }
 
-TEST_F(zvDateTimeTest, TellsSecondsFrom1970To3000) {
+TEST_F(zvDateTimeTest, ConvertsSecondsFrom1970To3000) {
     EXPECT_EQ(zvDateTime(1970, 1, 1, 0, 0, 0).getDateTimeInSeconds(), 0);
     EXPECT_EQ(zvDateTime(1969, 12, 31, 23, 59, 59).getDateTimeInSeconds(), -1);
     EXPECT_EQ(zvDateTime(3000, 12, 31, 23, 59, 59).getDateTimeInSeconds(), 32535215999);

@@ -149,7 +149,7 @@ TEST_F(zvDirFileUtilsTest, ReadingAppendsOrEmptiesTheList) {
     EXPECT_EQ(zvRecordingLogger::lines("error"), errors);
 }
 
-TEST_F(zvDirFileUtilsTest, TakesPathsApart) {
+TEST_F(zvDirFileUtilsTest, SplitsPaths) {
     struct Case {
         const char *path, *directory, *file, *warning;
     };

@@ -168,7 +168,7 @@ TEST_F(zvEventArgumentsTest, ARootThatCannotHoldDirectoriesIsRefused) {
     EXPECT_EQ(event.numEventArguments(), 2);
 }
 
-TEST_F(zvEventArgumentsTest, CutsTheRootOffTheDirectory) {
+TEST_F(zvEventArgumentsTest, StripsTheRootFromTheDirectory) {
     struct Case {
         const char *root, *event, *expected, *error;
     };

@@ -201,7 +201,7 @@ TEST_F(zvFSClientTest, AMissingJavaClientIsAnException) {
     });
 }
 
-TEST_F(zvFSClientTest, AnyTextGoesBothWays) {
+TEST_F(zvFSClientTest, AnyTextRoundTrips) {
     const std::pair<const char16_t*, std::string> cases[] = {
         {u" a  b ", " a  b "},
         {u"\u00E4\u0416\u4E2D\uFFFD", "\\u00E4\\u0416\\u4E2D\\uFFFD"},
@@ -247,7 +247,7 @@ long residentPages() {
     return resident;
 }
 
-TEST_F(zvFSClientTest, ManyCallsLeaveNothingBehind) {
+TEST_F(zvFSClientTest, ManyCallsDoNotLeak) {
     inProcessOfItsOwn([this] {
         // A heap that does not grow, and a compiler that is done after the first calls.
         const zvScopedVariable options("JAVA_TOOL_OPTIONS",

@@ -105,7 +105,7 @@ TEST_F(zvFSClientUtilTest, SendsNothingAgainThatHasArrived) {
     EXPECT_FALSE(isThere("b/left"));
 }
 
-TEST_F(zvFSClientUtilTest, NamesWhatItCannotRemove) {
+TEST_F(zvFSClientUtilTest, ReportsFilesThatCannotBeRemoved) {
     m_folder.write("full/of/files", "");  // not empty, and so not removable
     attach(path("full/of"));
     connect();

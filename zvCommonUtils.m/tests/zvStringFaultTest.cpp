@@ -23,7 +23,7 @@ void withEveryFault(void (*operation)(zvString&)) {
         });
 }
 
-TEST(zvStringFault, AFailedAllocationLeavesTheStringEmptyOrUnchanged) {
+TEST(zvStringFaultTest, AFailedAllocationLeavesTheStringEmptyOrUnchanged) {
     withEveryFault([](zvString& s) { s += longer; });
     withEveryFault([](zvString& s) { s += s; });
     withEveryFault([](zvString& s) { s = longer; });

@@ -9,6 +9,8 @@
 
 namespace {
 
+using zvCndConditionFactoryTest = zvLoggedTest;
+
 using Factory = zvCndConditionFactory;
 
 zvCndOperand operand(const zvValue& value, int valueType = zvOperandConstant) {
@@ -44,7 +46,7 @@ zvCndCondition notOf(const zvCndCondition& child) {
     return Factory::getCondition(made);
 }
 
-TEST(zvCndHandle, CountsItsOwners) {
+TEST(zvCndHandleTest, CountsItsOwners) {
     {
         zvCndCondition first = fixed(true);
         EXPECT_EQ(1, owners(first));
@@ -67,7 +69,7 @@ TEST(zvCndHandle, CountsItsOwners) {
     EXPECT_EQ(0, FixedCondition::living);
 }
 
-TEST(zvCndConditionList, RefusesNullHandlesAndBadIndices) {
+TEST(zvCndConditionListTest, RefusesNullHandlesAndBadIndices) {
     zvCndConditionList list;
     EXPECT_FALSE(list.addCondition(zvCndCondition()));
     EXPECT_FALSE(list.addCondition(zvCndNotCondition()));
@@ -89,7 +91,7 @@ TEST(zvCndConditionList, RefusesNullHandlesAndBadIndices) {
     EXPECT_EQ(1, owners(typed));
 }
 
-TEST(zvCndConditionResultMap, KeepsTheFirstResultOfAnIdentity) {
+TEST(zvCndConditionResultMapTest, KeepsTheFirstResultOfAnIdentity) {
     zvCndConditionResultMap results;
     const zvCndCondition key = fixed(true);
     const zvCndOrCondition result = Factory::createOrCondition();
@@ -102,7 +104,7 @@ TEST(zvCndConditionResultMap, KeepsTheFirstResultOfAnIdentity) {
     EXPECT_TRUE(results.getConditionResult(zvCndCondition()).IsNull());
 }
 
-TEST(zvCndConditionFactory, WidensAndNarrowsOnTheSameCondition) {
+TEST_F(zvCndConditionFactoryTest, WidensAndNarrowsOnTheSameCondition) {
     const zvCndAndCondition made = Factory::createAndCondition();
     EXPECT_EQ(1, owners(made));
     const zvCndCondition general = Factory::getCondition(Factory::getLogicalCondition(made));
@@ -136,7 +138,7 @@ std::string refusals(Narrow narrowed) {
     return accepted + ": " + message;
 }
 
-TEST_F(zvLoggedTest, NarrowingChecksTheType) {
+TEST_F(zvCndConditionFactoryTest, NarrowingChecksTheType) {
 #define NARROWED(Type) refusals([](const zvCndCondition& general) { Factory::get##Type(general); })
     EXPECT_EQ("123456: Received condition is not ComparisonCondition", NARROWED(ComparisonCondition));
     EXPECT_EQ("789: Received condition is not LogicalCondition", NARROWED(LogicalCondition));
@@ -157,7 +159,7 @@ TEST_F(zvLoggedTest, NarrowingChecksTheType) {
     EXPECT_EQ("zvConditionUtils.m/src/zvCndConditionFactory", zvRecordingLogger::events()[0].file);
 }
 
-TEST(zvCndContext, RefusesEmptyAndTakenNames) {
+TEST(zvCndContextTest, RefusesEmptyAndTakenNames) {
     zvCndContext context;
     zvAttribute attribute("", zvValue(1));
     EXPECT_FALSE(context.addAttribute(attribute));
@@ -191,7 +193,7 @@ std::string outcomes(const zvCndOperand& lhs, const zvCndOperand& rhs) {
     return outcome;
 }
 
-TEST(zvICndComparisonCondition, ComparesWhatItsOperandsStandFor) {
+TEST(zvICndComparisonConditionTest, ComparesTheValuesOfItsOperands) {
     struct Case {
         zvCndOperand lhs, rhs;
         const char* expected;
@@ -226,7 +228,7 @@ TEST(zvICndComparisonCondition, ComparesWhatItsOperandsStandFor) {
     }
 }
 
-TEST(zvICndComparisonCondition, AssignsTheValueOfAMissingOperandToo) {
+TEST(zvICndComparisonConditionTest, AssignsTheValueOfAMissingOperandToo) {
     struct Probe : zvICndEqualsCondition {
         using zvICndEqualsCondition::getOperandValue;
     };
@@ -244,7 +246,7 @@ TEST(zvICndComparisonCondition, AssignsTheValueOfAMissingOperandToo) {
     EXPECT_EQ(zvDataTypeString, value.getDataType());
 }
 
-TEST(zvICndLogicalCondition, StopsAtTheChildThatDecides) {
+TEST(zvICndLogicalConditionTest, ShortCircuits) {
     const zvCndContext context;
     const zvCndCondition throwing = Factory::getCondition(
         Factory::createLessThanCondition(operand(zvValue(true)), operand(zvValue(true))));
@@ -267,7 +269,7 @@ TEST(zvICndLogicalCondition, StopsAtTheChildThatDecides) {
     EXPECT_EQ(3, FixedCondition::evaluations);
 }
 
-TEST(zvICndLogicalCondition, RefusesNullChildren) {
+TEST(zvICndLogicalConditionTest, RefusesNullChildren) {
     EXPECT_FALSE(andOf({})->addCondition(zvCndCondition()));
     EXPECT_TRUE(andOf({fixed(true)})->getCondition(-1).IsNull());
     EXPECT_TRUE(andOf({fixed(true)})->getCondition(1).IsNull());

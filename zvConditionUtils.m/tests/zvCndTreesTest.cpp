@@ -79,7 +79,7 @@ Expression randomExpression(std::mt19937& random, int depth) {
     return made;
 }
 
-TEST(zvCndTrees, RandomTreesEvaluateAsTheirTextsSayAndSurviveRewriting) {
+TEST(zvCndTreesTest, RandomTreesEvaluateCorrectlyAndRoundTrip) {
     std::mt19937 random(20110521);
     const std::array<const char*, 4> values = {"1", "2", "10", "a b"};
     for (int round = 0; round < 3000; ++round) {
@@ -122,9 +122,9 @@ struct HugeText {
 
 void PrintTo(const HugeText& huge, std::ostream* out) { *out << huge.name; }
 
-class zvCndHugeTexts : public testing::TestWithParam<HugeText> {};
+class zvCndHugeTextsTest : public testing::TestWithParam<HugeText> {};
 
-TEST_P(zvCndHugeTexts, AreReadEvaluatedWrittenAndFreed) {
+TEST_P(zvCndHugeTextsTest, AreParsedEvaluatedWrittenAndFreed) {
     zvCndContext context;
     add(context, "a", zvValue(1));
     const zvCndCondition condition = parse(GetParam().text());
@@ -150,10 +150,10 @@ const HugeText hugeTexts[] = {
     {"Escapes", [] { return "{a} != '" + repeated(million, "\\'") + "'"; }, true},
 };
 
-INSTANTIATE_TEST_SUITE_P(All, zvCndHugeTexts, testing::ValuesIn(hugeTexts),
+INSTANTIATE_TEST_SUITE_P(All, zvCndHugeTextsTest, testing::ValuesIn(hugeTexts),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST(zvCndTrees, AnyDepthIsRefusedToo) {
+TEST(zvCndTreesTest, AnyDepthCanBeRefused) {
     const char* const unclosed = "Error in matching parenthesis, closing parenthesis missing";
     EXPECT_EQ(unclosed, messageThrownBy([] { parse(repeated(million, "(")); }));
     EXPECT_EQ(unclosed, messageThrownBy([] { parse("(" + repeated(million, "NOT ") + "{a} = '1'"); }));
@@ -164,7 +164,7 @@ TEST(zvCndTrees, AnyDepthIsRefusedToo) {
         }));
 }
 
-TEST(zvCndTrees, WhatIsStillOwnedOutlivesTheRestOfTheTree) {
+TEST(zvCndTreesTest, ASharedSubtreeOutlivesTheTree) {
     constexpr int depth = 200000;
     std::vector<zvCndCondition> kept;
     zvCndCondition tree = fixed(true);

@@ -21,7 +21,7 @@ Lines complaints() {
     return all;
 }
 
-TEST_F(zvCfgObjectXmlParserTest, WhatIsWrongIsLoggedAndLeftOut) {
+TEST_F(zvCfgObjectXmlParserTest, ErrorsAreLoggedAndSkipped) {
     struct Case {
         std::string content;
         Lines complaints;
@@ -128,7 +128,7 @@ TEST_F(zvCfgObjectXmlParserTest, ValuesAreTakenAsTheyAre) {
     EXPECT_EQ(extension.getTransferMode(), zvTransferModeAscii);
 }
 
-TEST_F(zvCfgObjectXmlParserTest, ARuleThatIsNoneLeavesEverythingBeforeIt) {
+TEST_F(zvCfgObjectXmlParserTest, AnInvalidRuleKeepsEverythingBeforeIt) {
     const std::string sections =
         "<ObjectConfig><FileObject LocalCustType='kept'><AllowedExtns><Extn Name='e' "
         "Export='True'/></AllowedExtns>"

@@ -71,7 +71,7 @@ private:
     int m_edges = 0;
 };
 
-TEST(zvCfgPathSearch, FindsEveryWayInOrder) {
+TEST(zvCfgPathSearchTest, FindsEveryPathInOrder) {
     std::mt19937 random(1);
     std::size_t found = 0;
     for (int round = 0; round < 400; ++round) {
@@ -96,7 +96,7 @@ TEST(zvCfgPathSearch, FindsEveryWayInOrder) {
     EXPECT_GT(found, 1000U);
 }
 
-TEST(zvCfgPathSearch, ReachesANodeFromItselfByTheEmptyWayAlone) {
+TEST(zvCfgPathSearchTest, FindsOnlyTheEmptyPathFromANodeToItself) {
     Graph graph(2);
     graph.addAmongAll(0, 1);
     const zvCfgPathSearch::Result result = graph.find(0, 0);
@@ -105,7 +105,7 @@ TEST(zvCfgPathSearch, ReachesANodeFromItselfByTheEmptyWayAlone) {
 }
 
 // A brute-force search would not terminate in any of these cases; the number of steps is limited here.
-TEST(zvCfgPathSearch, IsNotKeptBusyByHostileGraphs) {
+TEST(zvCfgPathSearchTest, TerminatesOnHostileGraphs) {
     constexpr int clique = 60;
     constexpr int last = 20000;
     const auto dense = [](Graph& graph) { graph.addAmongAll(0, clique - 1); };
@@ -165,7 +165,7 @@ TEST(zvCfgPathSearch, IsNotKeptBusyByHostileGraphs) {
     EXPECT_EQ(result.paths[0].size(), static_cast<std::size_t>(last - 1));
 }
 
-TEST(zvCfgPathSearch, FollowsAVeryLongChain) {
+TEST(zvCfgPathSearchTest, FollowsAVeryLongChain) {
     constexpr int nodes = 100000;
     Graph chain(nodes);
     for (int node = 0; node + 1 < nodes; ++node) {

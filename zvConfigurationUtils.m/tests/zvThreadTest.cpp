@@ -88,7 +88,9 @@ bool lookupsHold(const zvCfgConfigManager& manager) {
            manager.getDefaultViewInCollection("Engineering")->getLocalName() == "Design";
 }
 
-TEST_F(zvConfigurationTest, ThreadsWithObjectsOfTheirOwnDoNotMeet) {
+using zvThreadTest = zvConfigurationTest;
+
+TEST_F(zvThreadTest, ThreadsWithTheirOwnObjectsDoNotRace) {
     ASSERT_TRUE(zvCfgMgrXmlParser().parse(ZV_SAMPLE_CONFIGURATION, true).isOk());
     const zvCfgConfigManager& shared = manager();
     std::array<int, threads> good{};

@@ -74,7 +74,7 @@ protected:
     }
 };
 
-TEST_F(zvXMLHostileTest, refusesWhatExplodes) {
+TEST_F(zvXMLHostileTest, RefusesWhatExplodes) {
     constexpr const char* tooMuch =
         "Unexpected exception during parsing: 'no memory left, or more of it taken than a document of its "
         "size may "
@@ -123,14 +123,14 @@ TEST_F(zvXMLHostileTest, refusesWhatExplodes) {
     }
 }
 
-TEST_F(zvXMLHostileTest, errorsWithoutEndAreCutOff) {
+TEST_F(zvXMLHostileTest, EndlessErrorsAreCutOff) {
     const std::string huge(200'000, 't');
     EXPECT_NE("loaded ",
               outcome(document("", "<r>" + huge + "<x" + numbered(" a", "=''", 5'000) + "/></r>")));
     EXPECT_LT(zvRecordingLogger::lines("error").size(), 20U);
 }
 
-TEST_F(zvXMLHostileTest, readsEntitiesFromItsFolderOnly) {
+TEST_F(zvXMLHostileTest, ReadsEntitiesFromItsFolderOnly) {
     m_folder.write("outside.txt", "secret");
     m_folder.write("docs/part.txt", "part");
     m_folder.write("docs/sub/more parts.ent", "<?xml encoding='ISO-8859-1'?>\xE4&up;");
@@ -189,7 +189,7 @@ TEST_F(zvXMLHostileTest, readsEntitiesFromItsFolderOnly) {
     }
 }
 
-TEST_F(zvXMLHostileTest, readsTypeDefinitionsFromItsFolderOnly) {
+TEST_F(zvXMLHostileTest, ReadsTypeDefinitionsFromItsFolderOnly) {
     m_folder.write("outside.dtd", "<!ELEMENT r ANY>");
     m_folder.write("docs/part.txt", "part");
     m_folder.write("docs/sub/latin 1.ent", "<?xml encoding='ISO-8859-1'?>\xE4 &up;");
@@ -208,7 +208,7 @@ TEST_F(zvXMLHostileTest, readsTypeDefinitionsFromItsFolderOnly) {
               outcome("<!DOCTYPE r SYSTEM 'sub/rules.dtd'><r/>"));
 }
 
-TEST_F(zvXMLHostileTest, readsAnEntityAgainOnlySoOften) {
+TEST_F(zvXMLHostileTest, LimitsRepeatedReadsOfAnEntity) {
     m_folder.write("big.txt", std::string(1'000'000, ' '));
     m_folder.write("doc.dtd", "<!ELEMENT r ANY><!ENTITY % p SYSTEM 'big.txt'>" + repeated("%p;", 1'000));
     const std::string path = m_folder.write("doc.xml", "<!DOCTYPE r SYSTEM 'doc.dtd'><r/>");
@@ -216,7 +216,7 @@ TEST_F(zvXMLHostileTest, readsAnEntityAgainOnlySoOften) {
               outcome(path, true));
 }
 
-TEST_F(zvXMLHostileTest, hundredThousandSiblingsTakeLinearTime) {
+TEST_F(zvXMLHostileTest, HundredThousandSiblingsTakeLinearTime) {
     zvXMLParser parser(("<r>" + repeated("<a x='1'>t</a>", many) + "<z/></r>").c_str(), false);
     const auto start = std::chrono::steady_clock::now();
     zvString tag;
@@ -235,7 +235,7 @@ TEST_F(zvXMLHostileTest, hundredThousandSiblingsTakeLinearTime) {
     EXPECT_LT(std::chrono::steady_clock::now() - start, bearable);
 }
 
-TEST_F(zvXMLHostileTest, hundredThousandLevelsNeedNoStack) {
+TEST_F(zvXMLHostileTest, HundredThousandLevelsNeedNoStack) {
     zvXMLParser parser((repeated("<a>", many) + "<z/>" + repeated("</a>", many)).c_str(), false);
     const auto start = std::chrono::steady_clock::now();
     ASSERT_NE(nullptr, parser.getRootElement());
@@ -255,7 +255,7 @@ TEST_F(zvXMLHostileTest, hundredThousandLevelsNeedNoStack) {
     EXPECT_LT(std::chrono::steady_clock::now() - start, bearable);
 }
 
-TEST_F(zvXMLHostileTest, buildsAndWritesDeepDocuments) {
+TEST_F(zvXMLHostileTest, BuildsAndWritesDeepDocuments) {
     for (const int levels : {1'999, 2'000, many}) {
         zvXMLParser parser;
         ASSERT_TRUE(parser.createXMLTree("a"));

@@ -40,14 +40,14 @@ TEST_F(zvWindowsFilesTest, PathsHaveDrivesAndEitherSeparator) {
 }
 
 // Names are passed to the system as wide strings: the locale need not be able to encode them.
-TEST_F(zvWindowsFilesTest, NamesMayHaveCharactersThatTheLocaleHasNot) {
+TEST_F(zvWindowsFilesTest, NamesMayHaveCharactersThatTheLocaleCannotEncode) {
     const zvString name = zvString(inFolder("").c_str()) + u"\u4E2D \u20AC";
     ASSERT_EQ(zvString(u"\u4E2D").getChars(), nullptr);
     EXPECT_TRUE(zvDirFileUtils::createDirectory(name).isOk());
     EXPECT_TRUE(isThere(u"\u4E2D \u20AC"));
 }
 
-TEST_F(zvWindowsFilesTest, RefusalsAreToldByTheSystemsNumbers) {
+TEST_F(zvWindowsFilesTest, FailuresHaveTheSystemsErrorNumbers) {
     m_folder.write("file", "");
     const struct {
         std::string path;
