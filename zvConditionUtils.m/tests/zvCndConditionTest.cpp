@@ -139,21 +139,21 @@ std::string refusals(Narrow narrowed) {
 }
 
 TEST_F(zvCndConditionFactoryTest, NarrowingChecksTheType) {
-#define NARROWED(Type) refusals([](const zvCndCondition& general) { Factory::get##Type(general); })
-    EXPECT_EQ("123456: Received condition is not ComparisonCondition", NARROWED(ComparisonCondition));
-    EXPECT_EQ("789: Received condition is not LogicalCondition", NARROWED(LogicalCondition));
-    EXPECT_EQ("1: Received condition is not EqualsCondition", NARROWED(EqualsCondition));
-    EXPECT_EQ("2: Received condition is not NotEqualsCondition", NARROWED(NotEqualsCondition));
-    EXPECT_EQ("3: Received condition is not LessThanCondition", NARROWED(LessThanCondition));
-    EXPECT_EQ("4: Received condition is not LessThanEqualsCondition", NARROWED(LessThanEqualsCondition));
-    EXPECT_EQ("5: Received condition is not GreaterThanCondition", NARROWED(GreaterThanCondition));
+#define ZV_NARROWED(Type) refusals([](const zvCndCondition& general) { Factory::get##Type(general); })
+    EXPECT_EQ("123456: Received condition is not ComparisonCondition", ZV_NARROWED(ComparisonCondition));
+    EXPECT_EQ("789: Received condition is not LogicalCondition", ZV_NARROWED(LogicalCondition));
+    EXPECT_EQ("1: Received condition is not EqualsCondition", ZV_NARROWED(EqualsCondition));
+    EXPECT_EQ("2: Received condition is not NotEqualsCondition", ZV_NARROWED(NotEqualsCondition));
+    EXPECT_EQ("3: Received condition is not LessThanCondition", ZV_NARROWED(LessThanCondition));
+    EXPECT_EQ("4: Received condition is not LessThanEqualsCondition", ZV_NARROWED(LessThanEqualsCondition));
+    EXPECT_EQ("5: Received condition is not GreaterThanCondition", ZV_NARROWED(GreaterThanCondition));
     EXPECT_EQ("6: Received condition is not GreaterThanEqualsCondition",
-              NARROWED(GreaterThanEqualsCondition));
-    EXPECT_EQ("7: Received condition is not AndCondition", NARROWED(AndCondition));
-    EXPECT_EQ("8: Received condition is not OrCondition", NARROWED(OrCondition));
+              ZV_NARROWED(GreaterThanEqualsCondition));
+    EXPECT_EQ("7: Received condition is not AndCondition", ZV_NARROWED(AndCondition));
+    EXPECT_EQ("8: Received condition is not OrCondition", ZV_NARROWED(OrCondition));
     zvRecordingLogger::reset();
-    EXPECT_EQ("9: Received condition is not NotCondition", NARROWED(NotCondition));
-#undef NARROWED
+    EXPECT_EQ("9: Received condition is not NotCondition", ZV_NARROWED(NotCondition));
+#undef ZV_NARROWED
     ASSERT_EQ(10u, zvRecordingLogger::events().size());
     EXPECT_EQ("error", zvRecordingLogger::events()[0].level);
     EXPECT_EQ("zvConditionUtils.m/src/zvCndConditionFactory", zvRecordingLogger::events()[0].file);
