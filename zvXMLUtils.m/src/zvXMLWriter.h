@@ -17,8 +17,11 @@ namespace zvXMLWriter {
 /// unknown encoding, for a name that it cannot encode and for a document that is nested too deeply.
 bool write(xercesc::DOMDocument& document, xercesc::XMLFormatTarget& target, const zvString& encoding);
 
+/// Writes the bytes to the file `path`, which is overwritten; false on an I/O error.
 bool toFile(const xercesc::MemBufFormatTarget& bytes, const zvString& path);
+/// Writes the bytes to standard output; false on an I/O error.
 bool toStandardOutput(const xercesc::MemBufFormatTarget& bytes);
+/// Decodes the bytes from `encoding` into `text`; false if that fails or gives an empty string.
 bool toText(const xercesc::MemBufFormatTarget& bytes, const zvString& encoding, zvString& text);
 
 }  // namespace zvXMLWriter

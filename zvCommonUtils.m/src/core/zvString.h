@@ -75,17 +75,21 @@ public:
     /// The first match of `s` within the range `start` .. `end`, both inclusive; `end` -1 is the last
     /// position.
     int find(const zvString& s, int start = 0, int end = -1) const;
+    /// The same, case-insensitively.
     int findNoCase(const zvString& s, int start = 0, int end = -1) const;
     /// The last match of `s` within the range `lowest` .. `from`, both inclusive; `from` -1 is the last
     /// position.
     int reverseFind(const zvString& s, int from = -1, int lowest = 0) const;
+    /// The same, case-insensitively.
     int reverseFindNoCase(const zvString& s, int from = -1, int lowest = 0) const;
     /// The number of non-overlapping matches of `s`; the range is that of find().
     int count(const zvString& s, int start = 0, int end = -1) const;
+    /// The same, case-insensitively.
     int countNoCase(const zvString& s, int start = 0, int end = -1) const;
     /// Replaces the matches that count() finds; an empty `to` deletes them.
     /// @return the number of replacements; 0 also if `from` equals `to` or one of them is this string itself.
     int replace(const zvString& from, const zvString& to, int start = 0, int end = -1);
+    /// The same, case-insensitively.
     int replaceNoCase(const zvString& from, const zvString& to, int start = 0, int end = -1);
 
     /// Inserts `s` at `pos`; size() appends.

@@ -18,6 +18,7 @@ public:
     static zvString getGatewayHomeEnvVariable();
     /// The variable's current value; if it is unset, a line on standard output says so.
     static zvString getGatewayHomePath();
+    /// The value of the environment variable `name`; empty if it is unset.
     static zvString getEnvironmentalVariable(const zvString& name);
     /// The value of "local-server-url" in "config/client-config.ini" under the gateway home. A missing home,
     /// file or key is logged.
@@ -27,6 +28,7 @@ public:
     static void* getFunctionPtr(const char* library, const char* function);
     /// The local time, for example "Sat May 21 11:12:22 2011", followed by a line feed.
     static zvString getCurrentTime();
+    /// Blocks the calling thread.
     static void sleep(unsigned long milliseconds);
     /// Whether `text` is "true" or "false", case-insensitively.
     static bool validBooleanValue(const zvString& text);

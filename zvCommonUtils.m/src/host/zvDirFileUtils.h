@@ -24,12 +24,12 @@ public:
     /// Creates a new, empty file; fails if it exists. If the system refuses, that is logged, but the code is
     /// 0: check with isAccessible() whether the file exists.
     static zvResult createFile(const zvString& path);
-    /// Removes one file.
+    /// Deletes one file; false if that fails.
     static bool deleteFile(const zvString& path);
     /// Removes directory trees with the command "rmdir /s/q", to which `path` is appended as it is: it has to
     /// begin with a blank, and a path with blanks has to be quoted.
     static bool deleteDir(const zvString& path);
-    /// `mode` is 0 for existence, 2 for write, 4 for read, 6 for both.
+    /// Whether the file or directory exists (`mode` 0) and is writable (2), readable (4) or both (6).
     static bool isAccessible(const zvString& path, int mode);
     /// Appends the file's lines to `lines`, without line feeds and without empty lines; on failure `lines` is
     /// cleared.

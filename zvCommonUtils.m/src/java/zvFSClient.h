@@ -41,7 +41,9 @@ public:
     void put(const zvString& localDir, const zvString& remoteDir, const zvStringList* files);
     /// Uploads the files of a local directory that match the glob pattern `filter`.
     void put(const zvString& localDir, const zvString& remoteDir, const zvString& filter);
+    /// Creates a remote directory and its missing parents.
     void mkDir(const zvString& dir);
+    /// Whether a file or directory exists on the server.
     bool exists(const zvString& path);
     /// Appends the names of the entries of a remote directory to `out`, which is unchanged on failure.
     void list(const zvString& dir, zvStringList& out);
