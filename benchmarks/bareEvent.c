@@ -1,4 +1,4 @@
-/* The system calls of one event and nothing else: the floor under any program that takes one. */
+/* Only the system calls of one event: the lower bound for any program that handles one. */
 #include <fcntl.h>
 #include <stdio.h>
 #include <stdlib.h>

@@ -8,15 +8,13 @@
 #include <string>
 #include <utility>
 
-/// What a row's ratio is taken of: the processor's time, or the time that passes where others do part of the
+/// The clock for a row's ratio: CPU time, or wall-clock time if another process or thread does part of the
 /// work.
 enum class zvBenchmarkClock { cpu, wall };
 
-/// A row of the table of results: one piece of work, done by the library and by what a user would take
-/// instead.
+/// A row of the result table: one workload, run by the library and by its peers.
 ///
-/// The work is anything that can be called again and again; what it returns is kept from being optimised
-/// away.
+/// A workload is any repeatable callable; its return value is protected from being optimised away.
 class zvBenchmarkRow {
 public:
     explicit zvBenchmarkRow(std::string work, zvBenchmarkClock clock = zvBenchmarkClock::cpu)
@@ -26,12 +24,12 @@ public:
     const zvBenchmarkRow& ours(Work work) const {
         return add("ours", work);
     }
-    /// `wanted` is the highest ratio, our time through the peer's, that is good enough.
+    /// `wanted` is the highest acceptable ratio of our time to the peer's.
     template <class Work>
     const zvBenchmarkRow& peer(const std::string& name, const std::string& wanted, Work work) const {
         return add(name + '|' + wanted, work);
     }
-    /// What tells how near the library is to what can be had: no ratio is wanted.
+    /// A lower bound for comparison only, without a wanted ratio.
     template <class Work>
     const zvBenchmarkRow& alongside(const std::string& name, Work work) const {
         return peer(name, "", work);
@@ -56,7 +54,7 @@ private:
     zvBenchmarkClock m_clock;
 };
 
-/// Ends the program when the library and a peer have not done the same work.
+/// Aborts the program if the results of the library and a peer differ.
 inline void zvBenchmarkRequire(bool fact, const char* otherwise) {
     if (!fact) {
         std::fprintf(stderr, "%s\n", otherwise);

@@ -3,7 +3,7 @@
 
 #include <string>
 
-/// The files that a benchmark works on, in a new folder that the end of the program removes.
+/// The benchmarks' files, in a temporary folder that is removed at exit.
 namespace zvBenchmarkFiles {
 
 std::string path(const std::string& name);

@@ -67,7 +67,7 @@ int main(int argc, char** argv) {
         return EXIT_FAILURE;
     }
     adoptUserLocale();
-    unsetenv("GATEWAY_HOME");  // no log but where a subject asks for one
+    unsetenv("GATEWAY_HOME");  // no log, except where a subject sets one up
     int count = argc - 1;
     argv[1] = argv[0];
     benchmark::Initialize(&count, argv + 1);

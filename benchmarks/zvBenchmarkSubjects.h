@@ -1,7 +1,7 @@
 #ifndef ZV_BENCHMARK_SUBJECTS_H
 #define ZV_BENCHMARK_SUBJECTS_H
 
-/// The subjects, one for each file: each makes its inputs and registers its rows.
+/// The subjects, one per source file: each creates its inputs and registers its rows.
 void zvTextBenchmark();
 void zvCollectionsBenchmark();
 void zvConditionBenchmark();

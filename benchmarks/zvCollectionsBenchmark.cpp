@@ -39,7 +39,7 @@ struct Entry {
     Text value;
 };
 
-// The same entries in the same order, which is none.
+// The same entries for all peers, in the same shuffled order.
 template <class Text, class Make>
 std::vector<Entry<Text>> entries(Make make) {
     std::vector<Entry<Text>> all;

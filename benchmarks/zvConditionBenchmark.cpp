@@ -19,7 +19,7 @@ namespace {
 
 constexpr int attributeCount = 20;
 
-// All eight comparisons have to be made before the answer, true, is known.
+// True, but no short circuit: all eight comparisons have to be evaluated.
 constexpr char textRule[] =
     "{a1} = 'value 1' AND {a3} = 'value 3' AND ({a5} = 'value 5') AND {a7} != 'value 8' AND "
     "NOT {a9} = 'no' AND {a11} = 'value 11' AND ({a13} = 'none' OR {a15} = 'value 15')";
@@ -30,7 +30,7 @@ constexpr char textECMAScript[] =
     "a1 == 'value 1' && a3 == 'value 3' && (a5 == 'value 5') && a7 != 'value 8' && "
     "!(a9 == 'no') && a11 == 'value 11' && (a13 == 'none' || a15 == 'value 15')";
 
-// Attribute i is an integer, a float, a truth or a text.
+// Attribute i is an integer, a float, a boolean or a string.
 constexpr char typedRule[] =
     "{a0} <= '10' AND {a4} >= '4' AND ({a8} < '100') AND {a1} > '0.5' AND "
     "NOT {a5} > '7.25' AND {a2} = '1' AND ({a3} = 'none' OR {a7} = 'value 7')";
@@ -45,7 +45,7 @@ using HashedAttributes = std::unordered_map<std::u16string_view, Value>;
 struct Context {
     zvCndContext ours;
     Attributes byHand;
-    HashedAttributes hashed;  // by the names in `byHand`
+    HashedAttributes hashed;  // borrows the names in `byHand`
     std::unique_ptr<lua_State, void (*)(lua_State*)> lua{luaL_newstate(), lua_close};
 
     void add(int number, const zvValue& value, const Value& sameByHand) {
@@ -137,7 +137,7 @@ void parse() {
         });
 }
 
-// A look-up for each of a rule's eight comparisons, and nothing else.
+// Only the lookups of a rule's eight comparisons.
 int lookUp(const zvCndContext& context) {
     static const std::vector<zvString> names = {"a1", "a3", "a5", "a7", "a9", "a11", "a13", "a15"};
     return static_cast<int>(std::count_if(names.begin(), names.end(), [&context](const zvString& name) {

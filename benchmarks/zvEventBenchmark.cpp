@@ -15,7 +15,7 @@
 
 namespace {
 
-// Runs the program over an event in a new root directory and waits for its end.
+// Runs the program for one event in a new root directory and waits for it.
 int runEvent(const char* program, char* option = nullptr) {
     static int roots = 0;
     const std::string root = zvBenchmarkFiles::path(std::to_string(++roots));

@@ -16,7 +16,7 @@ namespace {
 
 constexpr int argumentCount = 20;
 
-// A server in a process of its own, which ends with this object.
+// A server in its own process, killed by the destructor.
 class Server {
 public:
     Server() {
@@ -27,7 +27,7 @@ public:
         m_port = server.bind_to_any_port("127.0.0.1");
         m_process = fork();
         if (m_process == 0) {
-            prctl(PR_SET_PDEATHSIG, SIGKILL);  // also when this program does not come to its end
+            prctl(PR_SET_PDEATHSIG, SIGKILL);  // even if this program crashes
             server.listen_after_bind();
             _exit(0);
         }
@@ -56,7 +56,7 @@ std::size_t receive(char* data, std::size_t size, std::size_t count, void* sink)
     return size * count;
 }
 
-// The library hands over the whole wrapper.
+// The library passes the whole wrapper.
 std::size_t receiveOurs(char* data, std::size_t size, std::size_t count, void* sink) {
     return receive(data, size, count, static_cast<WriteMemoryCallbackWrapper*>(sink)->m_pUserData);
 }

@@ -28,7 +28,7 @@ JNIEnv* attachedEnvironment() {
     return static_cast<JNIEnv*>(environment);
 }
 
-// The raw call: client and method are found once.
+// The raw JNI call: client and method are looked up once.
 struct RawClient {
     JNIEnv* env = attachedEnvironment();
     jobject client;

@@ -1,4 +1,4 @@
-// One event as a gateway program of the library's takes it: its arguments and its shadow directory.
+// The start of an event in a gateway program: parses its arguments and creates its shadow directory.
 #include <clocale>
 #include <cstdlib>
 

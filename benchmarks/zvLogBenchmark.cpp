@@ -20,7 +20,7 @@ constexpr char pattern[] = "%d{ISO8601} %-6p %c (%F:%L) %m%n";
 constexpr char loggerName[] = "com.qrsl.products.lkbridge.product";
 constexpr char message[] = "EventShadowDir successfully created: C:\\shadow\\1700000000";
 
-// A home of the gateway with this content of its file "log4cxx.xml"; none when that is empty.
+// Sets a gateway home with this content of "log4cxx.xml"; no gateway home if it is empty.
 void useHome(const std::string& configuration) {
     const std::string home = zvBenchmarkFiles::path("home");
     std::filesystem::create_directories(home + "/config");
@@ -56,8 +56,8 @@ std::string ours() {
 )";
 }
 
-// What several processes need that write to one file, and roll it over: one at a time, and a look at what the
-// others have left.
+// The minimum for several processes that share a rolling log file: lock it, and check whether it was rolled
+// over.
 class SharedFile {
 public:
     SharedFile() : m_lock(open(zvBenchmarkFiles::path("peer.lock").c_str(), O_CREAT | O_WRONLY, 0600)) {}

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-/// What a user who reads a configuration by hand would keep of it: the same names, types and lookups.
+/// The model of a hand-written configuration parser, with the same names, types and lookups.
 struct zvMappedAttribute {
     /// Stores one XML attribute of the element "Attribute".
     void set(std::u16string name, std::u16string value);

@@ -55,7 +55,7 @@ std::size_t replaceAll(std::u16string text, const std::u16string& from, const st
     return text.size();
 }
 
-// The three texts: a long one, a word that is in it every 44 characters and one that is at its end only.
+// The haystack, a word that occurs in it every 44 characters and one that occurs at its end only.
 template <class Text>
 struct Searched {
     Text text;
@@ -90,7 +90,7 @@ void search() {
               [standard] { return replaceAll(standard.text, standard.word, standard.replacement); })
         .peer("ICU", "1.0", [icu] {
             icu::UnicodeString text(icu.text);
-            // Written to once, so that the copy is one: until then it shares the original's buffer.
+            // A write forces the copy of the copy-on-write buffer.
             return text.findAndReplace(icu.word, icu.replacement).length();
         });
 }

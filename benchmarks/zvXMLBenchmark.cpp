@@ -12,7 +12,7 @@
 
 namespace {
 
-// 1,000 groups of 33 elements, each with two in it.
+// 1,000 groups of 33 elements with two children each.
 constexpr int groups = 1000;
 constexpr int itemsOfAGroup = 33;
 constexpr int elements = 1 + groups + groups * itemsOfAGroup * 3;
@@ -31,7 +31,7 @@ void writeDocument(const std::string& path) {
     out << "</Catalogue>\n";
 }
 
-// What a walk counts, and the text that it reads everything into.
+// The counts of a walk, and a reused string that everything is read into.
 template <class Text>
 struct Walked {
     int elements = 0;
@@ -41,7 +41,7 @@ struct Walked {
     void count() { characters += static_cast<std::size_t>(text.size()); }
 };
 
-// What stands in every element: its name, its first attribute and its text.
+// Reads an element's name, its first attribute and its text.
 void readOurs(zvXMLParser& parser, const zvString& attribute, Walked<zvString>& walked) {
     parser.getTag(walked.text);
     walked.count();

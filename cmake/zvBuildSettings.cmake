@@ -10,7 +10,7 @@ if(NOT CMAKE_BUILD_TYPE)
     set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
 endif()
 
-# Where the compiler is known to do it well: the library optimised as a whole when it is a release.
+# Link-time optimisation of releases, with the compiler that it was tested with.
 set(ZV_LINK_TIME_OPTIMISATION OFF)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_BUILD_TYPE STREQUAL "Release" AND UNIX)
     set(ZV_LINK_TIME_OPTIMISATION ON)
@@ -26,12 +26,12 @@ add_compile_options(-Wall -Wextra -Wpedantic -Wconversion)
 if(ZV_WARNINGS_AS_ERRORS)
     add_compile_options(-Werror)
 endif()
-# What the library calls of its own is its own: such calls may be inlined and bound within it.
+# The library's functions cannot be interposed, so that calls within it may be inlined and bound directly.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     add_compile_options(-fno-semantic-interposition)
 endif()
-# The processor's old floating-point unit compares numbers with more digits than a float or a double holds. Programs
-# of other compilers call the library with a stack that the new one could not use as it is.
+# The x87 unit compares floating-point numbers with excess precision, SSE does not. Programs built by other
+# compilers may call with a stack that is not aligned for SSE, so it is realigned.
 if(CMAKE_SYSTEM_PROCESSOR STREQUAL "i686")
     add_compile_options(-msse2 -mfpmath=sse -mstackrealign)
 endif()
@@ -39,20 +39,20 @@ if(ZV_SANITIZE)
     add_compile_options(-fsanitize=${ZV_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${ZV_SANITIZE})
 endif()
-# Counting what an input reaches needs a sanitizer's runtime; without one the fuzzers are only compiled and linked.
+# Coverage instrumentation needs a sanitizer's runtime; without one the fuzzers are only compiled and linked.
 if(ZV_BUILD_FUZZERS AND ZV_SANITIZE)
     add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
-# What a sanitizer adds to a library is in the program.
+# A sanitizer's runtime is linked into the program only, which leaves its symbols undefined in a library.
 if(NOT ZV_SANITIZE)
     set(ZV_NO_UNDEFINED LINKER:--no-undefined)
 endif()
 
-# MinGW's files are several times as large with their symbols, which no debugger of the system reads.
+# Strip releases: symbols multiply the size of MinGW's files, and Windows debuggers cannot read them.
 if(MINGW)
     add_link_options($<$<CONFIG:Release>:-s>)
 endif()
 
-# Programs of the build tree find the build tree's libraries; installed ones find those beside them.
+# Installed programs find the libraries relative to themselves.
 set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")

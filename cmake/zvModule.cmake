@@ -25,7 +25,7 @@ function(zv_add_layer NAME)
     endforeach()
     target_link_libraries(${NAME} PUBLIC ${ARG_DEPENDS} ${ARG_LIBRARIES})
     if(ZV_LINK_TIME_OPTIMISATION)
-        # Machine code stands beside, for the test programs, which are linked without.
+        # Fat objects also contain machine code, for the test programs, which are linked without LTO.
         target_compile_options(${NAME} PRIVATE -flto=auto -ffat-lto-objects)
     endif()
     target_link_libraries(zvCommonUtilsExport PRIVATE ${NAME})

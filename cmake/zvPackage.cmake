@@ -1,11 +1,11 @@
-# What `cmake --install` puts where, and the test of an installed tree.
+# The install rules, the CMake package and pkg-config files, and the test of an installed tree.
 include(CMakePackageConfigHelpers)
 
 set(header_folder ${CMAKE_INSTALL_INCLUDEDIR}/zvCommonUtilsExport)
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/zvCommonUtilsExport)
 set(generated_folder ${PROJECT_BINARY_DIR}/package)
 
-# The umbrella header names every public header.
+# The umbrella header includes every public header.
 get_target_property(public_headers zvCommonUtilsExport PUBLIC_HEADER)
 set(umbrella_includes "")
 foreach(header IN LISTS public_headers)
@@ -46,7 +46,7 @@ file(RELATIVE_PATH ZV_LIBDIR_TO_PREFIX ${CMAKE_INSTALL_FULL_LIBDIR} ${CMAKE_INST
 configure_file(${CMAKE_CURRENT_LIST_DIR}/zvCommonUtilsExport.pc.in ${generated_folder}/zvCommonUtilsExport.pc @ONLY)
 install(FILES ${generated_folder}/zvCommonUtilsExport.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
-# A consumer is built without the sanitizers, which a sanitized library needs in its program.
+# Not with sanitizers: consumers are built without the runtime that a sanitized library needs.
 if(ZV_BUILD_TESTS AND NOT ZV_SANITIZE AND NOT CMAKE_CROSSCOMPILING)
     add_test(NAME package.consumers COMMAND ${CMAKE_CURRENT_LIST_DIR}/consumers/test-consumers
         ${PROJECT_BINARY_DIR} ${CMAKE_CXX_COMPILER})

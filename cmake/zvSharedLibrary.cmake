@@ -11,7 +11,7 @@ if(ZV_LINK_TIME_OPTIMISATION)
     target_link_options(zvAllObjects INTERFACE -fno-lto)
 endif()
 if(WIN32)
-    # The name that programs have asked for ever since.
+    # Existing programs import the DLL by this name.
     set_target_properties(zvCommonUtilsExport PROPERTIES PREFIX "")
     if(CMAKE_SIZEOF_VOID_P EQUAL 4)
         target_sources(zvCommonUtilsExport PRIVATE

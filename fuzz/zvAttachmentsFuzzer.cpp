@@ -1,4 +1,4 @@
-// An attachments document, handed over as a text.
+// Parses an attachments document from memory.
 #include "zvAttachmentList.h"
 #include "zvAttachmentParser.h"
 #include "zvException.h"
@@ -8,7 +8,7 @@
 using zvFuzz::require;
 
 void zvFuzzOne(std::string_view input) {
-    static const zvXMLParser platform;  // stays initialised: that takes longer than a parse
+    static const zvXMLParser platform;  // keeps the XML platform initialised, which takes longer than a parse
     zvAttachmentList list;
     const zvString document = zvFuzz::textOf(input);
     try {

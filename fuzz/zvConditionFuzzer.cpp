@@ -1,4 +1,4 @@
-// A condition text is parsed, evaluated, written, parsed again and compared.
+// Parses, evaluates and writes a condition string, and checks the round trip.
 #include <algorithm>
 #include <optional>
 
@@ -27,7 +27,7 @@ zvCndContext contextOfAllTypes() {
     return context;
 }
 
-// Nothing for values that cannot be compared.
+// The result; nothing if the values cannot be compared.
 std::optional<bool> truthOf(const zvCndCondition& condition) {
     static const zvCndContext context = contextOfAllTypes();
     try {
@@ -48,8 +48,8 @@ std::optional<zvCndCondition> parsed(const zvString& text) {
     }
 }
 
-// All but the grouping and the order: every writing turns the children round and may join runs of an
-// operator.
+// The characters without blanks and parentheses, sorted: each round trip reverses the children and may
+// flatten chains of an operator.
 std::u16string partsOf(const zvString& written) {
     std::u16string units = zvFuzz::unitsOf(written);
     const auto groups = [](char16_t unit) { return unit == u'(' || unit == u')' || unit == u' '; };
@@ -77,7 +77,7 @@ void zvFuzzOne(std::string_view input) {
     const zvString written = zvCndParsingUtils::createConditionString(*condition);
     const zvCndCondition again = parsedAgain(written);
     if (text.find("\\") != -1) {
-        return;  // behind a backslash a backslash or a quote does not come back as it was
+        return;  // a backslash or a quote after a backslash does not round-trip
     }
     require(partsOf(written) == partsOf(zvCndParsingUtils::createConditionString(again)),
             "a condition comes back with all its parts");

@@ -1,4 +1,4 @@
-// A configuration document in a file, with what the lookups make of it.
+// Parses a configuration file, then exercises the lookups.
 #include "zvCfgAttribute.h"
 #include "zvCfgConfigManager.h"
 #include "zvCfgLcmState.h"
@@ -61,7 +61,7 @@ void lookUpViews(const zvCfgConfigManager& manager) {
 }  // namespace
 
 void zvFuzzOne(std::string_view input) {
-    static const zvXMLParser platform;  // stays initialised: that takes longer than a parse
+    static const zvXMLParser platform;  // keeps the XML platform initialised, which takes longer than a parse
     zvCfgMgrXmlParser parser;
     const zvResult result = parser.parse(zvFuzz::fileOf(input).c_str(), true);
     require(result.isOk() || !result.getMessage().empty(), "a failure says why");

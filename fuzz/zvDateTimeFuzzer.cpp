@@ -1,4 +1,5 @@
-// A date's value, pattern and separators on one line each: parsed, written, turned into seconds and back.
+// Input: a date's value, pattern and separators, one per line. Parses, formats, and converts to seconds and
+// back.
 #include "zvDateTime.h"
 #include "zvFuzzSupport.h"
 
@@ -13,7 +14,7 @@ bool sameNumbers(const zvDateTime& a, const zvDateTime& b) {
            a.getHour() == b.getHour() && a.getMinute() == b.getMinute() && a.getSecond() == b.getSecond();
 }
 
-// A field is read as four digits at most.
+// setDate() reads at most four digits per field.
 bool canBeRead(const zvDateTime& date) {
     for (const short number : {date.getYear(), date.getMonth(), date.getDay(), date.getHour(),
                                date.getMinute(), date.getSecond()}) {

@@ -1,4 +1,4 @@
-// Event arguments in both forms: one a line as a command line, and the whole as one text.
+// Parses event arguments in both forms: each line as one argument, and the whole input as one string.
 #include <map>
 #include <memory>
 
@@ -16,7 +16,7 @@ using Arguments = std::unique_ptr<zvEventArguments, Destroy>;
 
 const std::string loginPassword = std::string("LoginPassword=") + zvFuzz::secret;
 
-// Splits as an argument is described: each backslash before a "=" goes, and the "=" belongs to the key.
+// The reference implementation: `\=` is an escaped "=" in the key.
 void split(std::string argument, std::map<std::string, std::string>& expected) {
     std::size_t separator = argument.find('=');
     while (separator != std::string::npos && separator > 0 && argument[separator - 1] == '\\') {

@@ -19,7 +19,7 @@ void listen(const char*, const char* message, const char*, int) {
     secretLogged = secretLogged || std::string_view(message).find(zvFuzz::secret) != std::string_view::npos;
 }
 
-// A folder of this process alone, which is gone when it ends well.
+// A temporary folder per process, removed at normal exit.
 class Scratch {
 public:
     Scratch() : m_folder(fs::temp_directory_path() / ("zvFuzz-" + std::to_string(zvPlatform::processId()))) {
@@ -44,7 +44,7 @@ const fs::path& scratchFolder() {
 
 }  // namespace
 
-// The logging library of the fuzzers: always ready, so that every message is composed.
+// The fuzzers' logging library: always ready, so that every message is composed.
 bool InitializeLogger(const char*) { return true; }
 void LogDebugMessage(const char* n, const char* m, const char* f, int l) { listen(n, m, f, l); }
 void LogInfoMessage(const char* n, const char* m, const char* f, int l) { listen(n, m, f, l); }

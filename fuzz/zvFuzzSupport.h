@@ -9,31 +9,31 @@
 
 #include "zvString.h"
 
-/// Runs one input. Each fuzzer defines it; whatever leaves it as an exception is a finding.
+/// Runs one input; defined by each fuzzer. An exception that escapes is a finding.
 void zvFuzzOne(std::string_view input);
 
-/// What the fuzzers share: texts out of bytes, the scratch file, a log that is always read, and the verdict.
+/// Shared by the fuzzers: conversion of bytes to strings, the scratch file, a log that is always read, and
+/// checks.
 namespace zvFuzz {
 
-/// The input as UTF-8, or, where it is none, with each byte as one code unit, so that no input is for
-/// nothing.
+/// Decodes the input as UTF-8 or, if it is malformed, each byte as one code unit, so that no input is wasted.
 zvString textOf(std::string_view bytes);
-/// The input as code units, two bytes each.
+/// The input as UTF-16 code units, two bytes each.
 std::u16string unitsOf(std::string_view bytes);
 std::u16string unitsOf(const zvString& text);
-/// The text as UTF-8; "" for one that has no such form.
+/// The string as UTF-8; "" if it cannot be encoded.
 std::string narrow(const zvString& text);
-/// The input's lines, line feeds excluded; always one more than there are line feeds.
+/// The input split at line feeds; always one line more than there are line feeds.
 std::vector<std::string> linesOf(std::string_view input);
 
-/// Puts the input into this process's scratch file. @return its path
+/// Writes the input to this process's scratch file. @return its path
 std::string fileOf(std::string_view input);
 
-/// A text that no log line may have, and whether one had it since the process began.
+/// A secret that must not be logged, and whether it ever was.
 constexpr char secret[] = "zvFuzzSecret";
 bool secretWasLogged();
 
-/// Ends the process, for the fuzzer to keep the input, unless `holds`.
+/// Aborts unless `holds`, so that the fuzzer keeps the input.
 inline void require(bool holds, const char* what) {
     if (!holds) {
         std::fprintf(stderr, "does not hold: %s\n", what);

@@ -1,4 +1,4 @@
-// A properties file, compared with a plain reading of its lines.
+// Parses a properties file and compares the result with a reference implementation.
 #include <map>
 
 #include "zvFuzzSupport.h"
@@ -10,7 +10,7 @@ namespace {
 
 using Properties = std::map<std::string, std::string>;
 
-// What a file holds whose lines are all text; a line that is none is left out.
+// The reference implementation; undecodable lines are left out.
 Properties propertiesIn(std::string_view input) {
     Properties properties;
     for (const std::string& line : zvFuzz::linesOf(input)) {
@@ -32,7 +32,7 @@ void zvFuzzOne(std::string_view input) {
     zvProperties properties;
     require(properties.parse(zvFuzz::fileOf(input).c_str()).isOk(), "a file that is there is read");
     if (input.find('\0') != std::string_view::npos) {
-        return;  // a zero byte ends what is seen of its line, or of a part of it
+        return;  // a zero byte truncates its line, or a piece of it
     }
     const Properties expected = propertiesIn(input);
     zvStringList names;

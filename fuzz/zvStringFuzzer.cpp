@@ -1,4 +1,4 @@
-// Conversions between narrow and wide text, and the operations on texts beside those of the standard string.
+// Conversions between narrow and wide text, and string operations compared with those of std::u16string.
 #include <fuzzer/FuzzedDataProvider.h>
 #include <climits>
 #include <cmath>

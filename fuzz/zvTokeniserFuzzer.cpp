@@ -1,4 +1,4 @@
-// A delimiter, then a line feed, then the text: split in the three modes and compared with a plain splitting.
+// Input: a delimiter, a line feed and the text. Tokenises in the three modes and compares with a reference.
 #include <algorithm>
 
 #include "zvFuzzSupport.h"
@@ -11,8 +11,7 @@ namespace {
 using Text = std::u16string;
 using Texts = std::vector<Text>;
 
-// Cuts `text` at every place where `next(text, from)` finds a delimiter of that length; empty pieces
-// included.
+// Splits `text` at every delimiter of that length that `next(text, from)` finds, empty pieces included.
 template <typename Next>
 Texts cut(const Text& text, std::size_t length, Next next) {
     Texts pieces;
@@ -30,7 +29,7 @@ Texts withoutEmpty(Texts pieces) {
     return pieces;
 }
 
-// By a character: empty pieces count, but for those at the beginning and the one behind a last delimiter.
+// By a character: empty pieces are tokens, except leading ones and the one after a trailing delimiter.
 Texts withoutOuterEmpty(Texts pieces) {
     const auto isText = [](const Text& piece) { return !piece.empty(); };
     pieces.erase(pieces.begin(), std::find_if(pieces.begin(), pieces.end(), isText));

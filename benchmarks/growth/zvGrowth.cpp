@@ -1,4 +1,4 @@
-// usage: zvGrowth WORK COUNT    does the work on so many items, inside the function zvGrowthWork
+// usage: zvGrowth WORK COUNT    does the work on COUNT items, inside the function zvGrowthWork
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -41,7 +41,7 @@ std::string configuration(int count) {
            "</ObjectConfig></CustomizationConfig>";
 }
 
-// Each returns the number of items that came out of it.
+// Each returns the number of items that it has processed.
 int tokenise(const std::string& input) {
     zvStringTokeniser tokeniser(input.c_str(), ',');
     tokeniser.tokenise();
@@ -96,7 +96,7 @@ const Work works[] = {
 
 }  // namespace
 
-// Its instructions are what is counted.
+// valgrind counts the instructions inside this function, which must not be inlined.
 extern "C" __attribute__((noinline)) int zvGrowthWork(int (*run)(const std::string&),
                                                       const std::string& input) {
     return run(input);

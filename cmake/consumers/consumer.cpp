@@ -1,4 +1,4 @@
-// The program of both consumers: it uses one class of every layer that needs no installation of its own.
+// The program of both consumers: it uses a class of every layer that needs no further installation.
 #include <cstdio>
 
 #include "zvCommonUtilsExport.h"

@@ -1,11 +1,11 @@
-# Debian's MinGW-w64, the variant with the standard library's threads. The file that includes this one has set
-# ZV_MINGW to the compiler's prefix and ZV_TARGET to the preset's name.
+# Toolchain file for Debian's MinGW-w64, the variant with std::thread. The including file sets ZV_MINGW to the
+# compiler's prefix and ZV_TARGET to the preset's name.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_C_COMPILER ${ZV_MINGW}-gcc-posix)
 set(CMAKE_CXX_COMPILER ${ZV_MINGW}-g++-posix)
 set(CMAKE_RC_COMPILER ${ZV_MINGW}-windres)
 
-# What scripts/windows/libraries has built.
+# The libraries built by scripts/windows/libraries.
 set(ZV_CACHE $ENV{XDG_CACHE_HOME})
 if(NOT ZV_CACHE)
     set(ZV_CACHE $ENV{HOME}/.cache)
@@ -19,6 +19,6 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
-# No DLL but the system's: the compiler's runtimes are linked in.
+# The compiler's runtimes are linked statically: no DLL but the system's is needed.
 set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
 set(CMAKE_SHARED_LINKER_FLAGS_INIT -static)

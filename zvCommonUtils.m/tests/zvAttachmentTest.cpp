@@ -17,7 +17,7 @@ std::string listOf(const std::string& attachments) {
     return "<AttachmentList>" + attachments + "</AttachmentList>";
 }
 
-TEST(zvAttachmentTest, startsWithTheDefaultsAndCopiesWhole) {
+TEST(zvAttachmentTest, HasDefaultsAndCopiesAllMembers) {
     zvAttachment attachment;
     EXPECT_EQ("Attachment[FilePath: FileType:BINARY ToBeDeleted:TRUE]", narrow(attachment.toString()));
     attachment.setFilePath("C:\\x\\a.txt");
@@ -31,14 +31,14 @@ TEST(zvAttachmentTest, startsWithTheDefaultsAndCopiesWhole) {
     EXPECT_EQ(1, copy.getFileTransferMode());
 }
 
-TEST(zvAttachmentTest, modeTextsAreExact) {
+TEST(zvAttachmentTest, ModesMatchExactly) {
     EXPECT_EQ(1, zvAttachment::getFileTransferModeInt("ASCII"));
     for (const char* text : {"ascii", "ASCII ", "BINARY", ""}) {
         EXPECT_EQ(0, zvAttachment::getFileTransferModeInt(text)) << text;
     }
 }
 
-TEST(zvAttachmentListTest, ownsItsAttachmentsInOrder) {
+TEST(zvAttachmentListTest, OwnsItsAttachmentsInOrder) {
     zvAttachmentList list;
     EXPECT_EQ("Attachments[]", narrow(list.toString()));
     for (const char* path : {"b", "a"}) {
@@ -66,7 +66,7 @@ TEST(zvAttachmentListTest, ownsItsAttachmentsInOrder) {
 
 class zvAttachmentParserTest : public zvLoggedTest {};
 
-TEST_F(zvAttachmentParserTest, readsAttachments) {
+TEST_F(zvAttachmentParserTest, ReadsAttachments) {
     const struct {
         const char* children;
         const char* expected;
@@ -106,7 +106,7 @@ TEST_F(zvAttachmentParserTest, readsAttachments) {
     }
 }
 
-TEST_F(zvAttachmentParserTest, readsAFileAndSaysWhatItDoes) {
+TEST_F(zvAttachmentParserTest, ReadsAFileAndLogsIt) {
     const std::string path =
         m_folder.write("attachments.xml",
                        listOf("\n <Attachment>\n  <FilePath>a</FilePath>\n <ToBeDeleted>x</ToBeDeleted>"
@@ -126,7 +126,7 @@ TEST_F(zvAttachmentParserTest, readsAFileAndSaysWhatItDoes) {
     EXPECT_EQ("AttachmentList", narrow(tag));
 }
 
-TEST_F(zvAttachmentParserTest, leavesTheListAloneWithoutAttachments) {
+TEST_F(zvAttachmentParserTest, WithoutAttachmentsTheListIsUnchanged) {
     zvAttachmentList list;
     list.addAttachment(new zvAttachment);
     zvAttachmentParser parser;
@@ -139,7 +139,7 @@ TEST_F(zvAttachmentParserTest, leavesTheListAloneWithoutAttachments) {
     EXPECT_EQ(Lines{}, zvRecordingLogger::lines("error"));
 }
 
-TEST_F(zvAttachmentParserTest, throwsForWhatIsNoAttachmentsFile) {
+TEST_F(zvAttachmentParserTest, ThrowsForInvalidFiles) {
     const struct {
         const char* input;
         bool isFile;

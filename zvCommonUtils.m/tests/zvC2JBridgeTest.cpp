@@ -24,7 +24,7 @@ zvString systemProperty(const char* name) {
         "java.lang.System", "getProperty", "(Ljava/lang/String;)Ljava/lang/String;", frame.toJava(name)));
 }
 
-// Starts a machine behind the bridge's back.
+// Starts a JVM without the bridge.
 void startMachine() {
     auto* const create = reinterpret_cast<decltype(&JNI_CreateJavaVM)>(
         zvPlatform::findFunction(zvJvmLibrary::load().handle, "JNI_CreateJavaVM"));
@@ -73,7 +73,7 @@ TEST_F(zvC2JBridgeTest, LogsTheVersionAsJavaPrintsIt) {
     });
 }
 
-TEST_F(zvC2JBridgeTest, FindsJavaOnEveryWay) {
+TEST_F(zvC2JBridgeTest, FindsJavaInEveryPlace) {
     const zvTemporaryFolder links;
     fs::create_symlink(javaHome / "bin" / "java", links.path() / "java");
     struct Case {
@@ -95,7 +95,7 @@ TEST_F(zvC2JBridgeTest, FindsJavaOnEveryWay) {
     }
 }
 
-TEST_F(zvC2JBridgeTest, TellsWhereItFoundNoJava) {
+TEST_F(zvC2JBridgeTest, LogsWhereItLookedForJava) {
     const zvScopedVariable libraryPath("LD_LIBRARY_PATH", "");
     const zvScopedVariable path("PATH", "/nowhere");
     inProcessOfItsOwn([this] {
@@ -114,7 +114,7 @@ TEST_F(zvC2JBridgeTest, TellsWhereItFoundNoJava) {
         const Lines fatals = {"Failed to load the Java virtual machine",
                               "Failed to get the C++ to Java bridge instance"};
         EXPECT_EQ(zvRecordingLogger::lines("fatal"), fatals);
-        // A library that is there, but is not Java's; then Java, as if it had just been installed.
+        // First a library that is not a JVM; then Java, as if it had just been installed.
         fs::copy_file(javaHome / "lib" / "libjsig.so", fake, fs::copy_options::overwrite_existing);
         EXPECT_EQ(zvC2JBridge::getInstance(), nullptr);
         EXPECT_EQ(
@@ -126,7 +126,7 @@ TEST_F(zvC2JBridgeTest, TellsWhereItFoundNoJava) {
     });
 }
 
-TEST_F(zvC2JBridgeTest, TellsThatJavaRefusesToStart) {
+TEST_F(zvC2JBridgeTest, LogsThatJavaRefusesToStart) {
     const zvScopedVariable options("JAVA_TOOL_OPTIONS", "-XX:NoSuchOption=1");
     inProcessOfItsOwn([] {
         EXPECT_EQ(zvC2JBridge::getInstance(), nullptr);
@@ -136,7 +136,7 @@ TEST_F(zvC2JBridgeTest, TellsThatJavaRefusesToStart) {
 
 TEST_F(zvC2JBridgeTest, UsesAJavaThatRunsAlready) {
     const std::function<void()> starts[] = {startMachine,
-                                            // Here the calling thread is new to Java.
+                                            // The calling thread is not attached.
                                             [] { std::thread(startMachine).join(); }};
     for (const auto& start : starts) {
         inProcessOfItsOwn([&] {
@@ -176,7 +176,7 @@ TEST_F(zvC2JBridgeTest, TheOptionListDoubles) {
     EXPECT_STREQ(options.data()[0].optionString, "-Djava.class.path=1");
     EXPECT_STREQ(options.data()[8].optionString, "-Djava.class.path=9");
     for (const std::size_t tooMany : {SIZE_MAX / 4, SIZE_MAX}) {
-        // An array that nobody uses, a compiler need not allocate.
+        // The address is used, or the compiler may elide the allocation.
         EXPECT_EXIT(std::printf("%p", static_cast<void*>(zvMalloc::allocate<jint>(tooMany).get())),
                     testing::ExitedWithCode(1), "malloc: ");
     }

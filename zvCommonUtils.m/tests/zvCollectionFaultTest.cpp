@@ -1,4 +1,5 @@
-// What the collections and the values make of a failed allocation: they throw it on and are as they were.
+// The strong exception guarantee of collections and values: std::bad_alloc propagates and leaves them
+// unchanged.
 #include <string>
 #include <vector>
 
@@ -13,7 +14,7 @@ namespace {
 
 using Contents = std::vector<std::string>;
 
-// Made before any fault, so that only the operation under test meets one.
+// Constructed in advance, so that only allocations of the operation under test fail.
 const zvString first("the first text");
 const zvString second("a second text");
 const zvString third("yet another text");
@@ -75,7 +76,7 @@ zvStringToAttrMap attributesOfOne() {
 
 zvAttribute number() { return {first, zvValue(12)}; }
 
-// Unchanged by a failure, and changed otherwise: there is nothing between.
+// Checks the strong exception guarantee: a failed operation leaves the object unchanged.
 template <typename Object>
 void wholeOrNotAtAll(Object (*make)(), void (*operation)(Object&)) {
     const Contents before = contents(make());
@@ -88,7 +89,7 @@ void wholeOrNotAtAll(Object (*make)(), void (*operation)(Object&)) {
     });
 }
 
-TEST(zvCollectionFault, AListKeepsWhatItHas) {
+TEST(zvCollectionFaultTest, AListIsUnchanged) {
     wholeOrNotAtAll<zvStringList>(listOfOne, [](zvStringList& list) { list.addString(second); });
     wholeOrNotAtAll<zvStringList>(listOfOne, [](zvStringList& list) { list = zvStringList(list); });
     wholeOrNotAtAll<zvStringList>(listOfOne, [](zvStringList& list) {
@@ -99,7 +100,7 @@ TEST(zvCollectionFault, AListKeepsWhatItHas) {
     });
 }
 
-TEST(zvCollectionFault, AMapKeepsWhatItHas) {
+TEST(zvCollectionFaultTest, AMapIsUnchanged) {
     wholeOrNotAtAll<zvStringToStringMap>(mapOfOne, [](zvStringToStringMap& map) { map.add(third, second); });
     wholeOrNotAtAll<zvStringToStringMap>(mapOfOne, [](zvStringToStringMap& map) { map.add(first, third); });
     wholeOrNotAtAll<zvStringToStringMap>(mapOfOne,
@@ -119,7 +120,7 @@ TEST(zvCollectionFault, AMapKeepsWhatItHas) {
     });
 }
 
-TEST(zvCollectionFault, AValueIsAsItWasOrEmpty) {
+TEST(zvCollectionFaultTest, AValueIsUnchangedOrEmpty) {
     wholeOrNotAtAll<zvAttribute>(
         number, [](zvAttribute& attribute) { attribute = zvAttribute(second, zvValue(third)); });
     wholeOrNotAtAll<zvAttribute>(number, [](zvAttribute& attribute) { attribute.setValue(zvValue(third)); });
@@ -132,7 +133,7 @@ TEST(zvCollectionFault, AValueIsAsItWasOrEmpty) {
                                   });
 }
 
-TEST(zvCollectionFault, ATokeniserHasWholeTokens) {
+TEST(zvCollectionFaultTest, ATokeniserHasOnlyCompleteTokens) {
     zvFaultyMemory::forEveryFault(
         [] { return zvStringList(); },
         [](zvStringList& tokens) {

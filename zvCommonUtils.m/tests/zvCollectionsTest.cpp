@@ -9,7 +9,7 @@
 
 namespace {
 
-TEST(zvStringList, KeepsOrderAndDuplicates) {
+TEST(zvStringListTest, KeepsOrderAndDuplicates) {
     zvStringList list;
     EXPECT_TRUE(list.empty() && list.back().empty());
     list.pop();
@@ -30,7 +30,7 @@ TEST(zvStringList, KeepsOrderAndDuplicates) {
     EXPECT_TRUE(list.empty());
 }
 
-TEST(zvStringToStringMap, FirstValueWinsUnlessItIsSet) {
+TEST(zvStringToStringMapTest, FirstValueWinsUnlessItIsSet) {
     zvStringToStringMap map;
     EXPECT_TRUE(map.add("k", "1"));
     EXPECT_FALSE(map.add("k", "2"));
@@ -40,7 +40,7 @@ TEST(zvStringToStringMap, FirstValueWinsUnlessItIsSet) {
     EXPECT_EQ(map.size(), 1);
 }
 
-TEST(zvStringToStringMap, IndicesFollowTheKeys) {
+TEST(zvStringToStringMapTest, IndicesFollowTheKeys) {
     zvStringToStringMap map;
     map.add("a", "lower");
     map.add("B", "upper");
@@ -58,7 +58,7 @@ TEST(zvStringToStringMap, IndicesFollowTheKeys) {
     EXPECT_EQ(walked, "=none;B=upper;a=lower;");
 }
 
-TEST(zvStringToAttrMap, HoldsAttributesByName) {
+TEST(zvStringToAttrMapTest, HoldsAttributesByName) {
     zvStringToAttrMap map;
     zvAttribute out("untouched", zvValue(1));
     EXPECT_FALSE(map.getAttr("k", out) || map.getAttr(0, out));
@@ -79,8 +79,8 @@ TEST(zvStringToAttrMap, HoldsAttributesByName) {
     EXPECT_FALSE(map.getAttrName(1, name) || map.getAttrName(-1, name));
 }
 
-// Enough of them for some to share a slot of the look-up, in the map and in its copy.
-TEST(zvStringToAttrMap, FindsEachOfManyAndNoOther) {
+// Enough entries for hash collisions, in the map and in its copy.
+TEST(zvStringToAttrMapTest, FindsManyKeysAndNoOthers) {
     constexpr int count = 1000;
     const auto key = [](int i) { return zvString(("attribute " + std::to_string(i)).c_str()); };
     zvStringToAttrMap map;
@@ -100,7 +100,7 @@ TEST(zvStringToAttrMap, FindsEachOfManyAndNoOther) {
     }
 }
 
-TEST(zvTemplateMap, FirstValueWins) {
+TEST(zvTemplateMapTest, FirstValueWins) {
     zvTemplateMap<zvString, int> map;
     int out = 7;
     EXPECT_FALSE(map.find("k", out));
@@ -120,7 +120,7 @@ private:
     bool& m_bGone;
 };
 
-TEST(zvReferenceCtr, TheLastReleaseDeletes) {
+TEST(zvReferenceCtrTest, TheLastReleaseDeletes) {
     bool gone = false;
     auto* const owned = new Counted(gone);
     EXPECT_EQ(owned->AddRef(), 1);

@@ -75,7 +75,7 @@ TEST_F(zvCommonUtilsTest, FindsFunctionsOfLibraries) {
     EXPECT_EQ(zvRecordingLogger::lines(), expected);
 }
 
-TEST_F(zvCommonUtilsTest, TellsTheTimeAndWaits) {
+TEST_F(zvCommonUtilsTest, ReturnsTheTimeAndSleeps) {
     const zvString now = zvCommonUtils::getCurrentTime();
     EXPECT_EQ(now.size(), 25);
     EXPECT_EQ(now[24], u'\n');
@@ -89,8 +89,8 @@ TEST_F(zvCommonUtilsTest, KnowsBooleanTexts) {
     EXPECT_FALSE(zvCommonUtils::validBooleanValue("1") || zvCommonUtils::validBooleanValue(""));
 }
 
-// In a process of its own, started afresh: the name is fixed for the life of one.
-TEST(zvGatewayHomeVariable, CanHaveAnotherName) {
+// In a process of its own, since the name can be set only once per process.
+TEST(zvGatewayHomeTest, CanHaveAnotherName) {
     testing::GTEST_FLAG(death_test_style) = "threadsafe";
     EXPECT_EXIT(
         {

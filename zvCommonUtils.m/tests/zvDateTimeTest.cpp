@@ -12,7 +12,7 @@ constexpr char pattern[] = "DD/MM/YYYY::hh-mm-ss";
 
 class zvDateTimeTest : public zvLoggedTest {
 protected:
-    // The zone in which the test's local times are.
+    // Sets the time zone of the test's local times.
     static void setZone(const char* zone) {
         zvPlatform::setEnvironment("TZ", zone);
         ::tzset();
@@ -35,9 +35,9 @@ TEST_F(zvDateTimeTest, ReadsByAPattern) {
         {"21/05/2011::11-12-22", pattern, "2011 5 21 11 12 22"},
         {"21-05-2011", "DD-MM-YYYY", "2011 5 21 9 9 9"},
         {"2011/5/1", "YYYY-MM-DD", "2011 5 1 9 9 9"},
-        {"11:12:22", "hh-mm-ss", "9 9 9 11 2 2"},  // a ":" passes over the character behind it
+        {"11:12:22", "hh-mm-ss", "9 9 9 11 2 2"},  // a ":" skips the character after it
         {"21/05", pattern, "9 5 21 9 9 9"},
-        {"21/05/20115-11", pattern, "2011 5 21 0 11 9"},  // the fifth digit is dropped as a separator is
+        {"21/05/20115-11", pattern, "2011 5 21 0 11 9"},  // the fifth digit is dropped like a separator
         {"21/05/20115", pattern, "20115 5 21 9 9 9"},     // but not at the end
         {"x/y/z", pattern, "0 0 0 9 9 9"},
         {"::::", pattern, "9 0 0 9 9 9"},
@@ -53,7 +53,7 @@ TEST_F(zvDateTimeTest, ReadsByAPattern) {
     EXPECT_TRUE(zvRecordingLogger::lines().empty());
 }
 
-TEST_F(zvDateTimeTest, NothingToReadIsLogged) {
+TEST_F(zvDateTimeTest, EmptyInputIsLogged) {
     zvDateTime date(2011, 5, 21, 0, 0, 0);
     date.setDate("", "DD");
     date.setDate("1", "");
@@ -67,7 +67,7 @@ TEST_F(zvDateTimeTest, NothingToReadIsLogged) {
     EXPECT_EQ(date.getDay(), 21);
 }
 
-TEST_F(zvDateTimeTest, ThePatternTravelsWithTheValue) {
+TEST_F(zvDateTimeTest, ThePatternIsCopiedWithTheValue) {
     for (const char* const format : {"", "DD", pattern}) {
         const zvDateTime date{zvString(format)};
         zvDateTime assigned(2011, 5, 21, 0, 0, 0);
@@ -108,7 +108,7 @@ TEST_F(zvDateTimeTest, ComparesInstants) {
     EXPECT_TRUE(early <= early && early >= early && !(early < early) && !(early > early));
 }
 
-TEST_F(zvDateTimeTest, TellsSecondsFrom1970To3000) {
+TEST_F(zvDateTimeTest, ConvertsSecondsFrom1970To3000) {
     EXPECT_EQ(zvDateTime(1970, 1, 1, 0, 0, 0).getDateTimeInSeconds(), 0);
     EXPECT_EQ(zvDateTime(1969, 12, 31, 23, 59, 59).getDateTimeInSeconds(), -1);
     EXPECT_EQ(zvDateTime(3000, 12, 31, 23, 59, 59).getDateTimeInSeconds(), 32535215999);
@@ -124,7 +124,7 @@ TEST_F(zvDateTimeTest, TellsSecondsFrom1970To3000) {
                 5.0);
 }
 
-// Zones in the runtime's own notation, so that no zone database is needed.
+// POSIX time zones, so that no time zone database is needed.
 TEST_F(zvDateTimeTest, RoundTripsThroughZonesOfBothHemispheres) {
     struct Case {
         const char* zone;
@@ -143,7 +143,7 @@ TEST_F(zvDateTimeTest, RoundTripsThroughZonesOfBothHemispheres) {
         for (zvInt64 seconds = 1293000000; seconds < 1325000000; seconds += 86399) {
             const zvDateTime date(seconds);
             const zvInt64 back = date.getDateTimeInSeconds();
-            // The hour that a clock set back shows twice may be read as either.
+            // When clocks are set back, the repeated hour is ambiguous.
             EXPECT_TRUE(back == seconds || back == seconds + 3600 || back == seconds - 3600) << c.zone;
             zvDateTime read;
             read.setDate(date.getDateTime(pattern, "/", "-"), pattern);

@@ -9,12 +9,12 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-// The system's number for a folder on the way that is not there.
+// The system's error number for a missing parent folder.
 const std::string noSuchFolder = std::to_string(onWindows ? 3 : ENOENT);
 
 class zvDirFileUtilsTest : public zvLoggedTest {
 protected:
-    // Paths are composed with backslashes, as callers do on every system.
+    // With backslashes, as callers use on every system.
     std::string inFolder(const std::string& name) const { return m_folder.path().string() + "\\" + name; }
 };
 
@@ -149,7 +149,7 @@ TEST_F(zvDirFileUtilsTest, ReadingAppendsOrEmptiesTheList) {
     EXPECT_EQ(zvRecordingLogger::lines("error"), errors);
 }
 
-TEST_F(zvDirFileUtilsTest, TakesPathsApart) {
+TEST_F(zvDirFileUtilsTest, SplitsPaths) {
     struct Case {
         const char *path, *directory, *file, *warning;
     };

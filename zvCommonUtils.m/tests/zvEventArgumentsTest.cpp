@@ -122,7 +122,7 @@ TEST_F(zvEventArgumentsTest, SplitsOneString) {
 
 TEST_F(zvEventArgumentsTest, ACopyHasArgumentsOfItsOwn) {
     zvEventArguments event(zvEventMirror, "me");
-    // Its setters are const, but they change it.
+    // The setters are const, but modify the object.
     zvEventArguments copy(event);  // NOLINT(performance-unnecessary-copy-initialization)
     copy.setEventArgument("EventName", "changed");
     EXPECT_TRUE(copy.addEventArgument("New", "1"));
@@ -168,7 +168,7 @@ TEST_F(zvEventArgumentsTest, ARootThatCannotHoldDirectoriesIsRefused) {
     EXPECT_EQ(event.numEventArguments(), 2);
 }
 
-TEST_F(zvEventArgumentsTest, CutsTheRootOffTheDirectory) {
+TEST_F(zvEventArgumentsTest, StripsTheRootFromTheDirectory) {
     struct Case {
         const char *root, *event, *expected, *error;
     };

@@ -9,7 +9,7 @@ namespace {
 using zvFSClientTest = zvJavaTest;
 using Client = zvFSClient;
 
-// What the client itself logged, without the bridge.
+// The messages of the client, without those of the bridge.
 Lines clientLines() {
     Lines lines = zvRecordingLogger::lines();
     for (std::size_t i = lines.size(); i-- > 0;) {
@@ -110,7 +110,7 @@ TEST_F(zvFSClientTest, EveryOperationIsOneCall) {
         EXPECT_EQ(clientLines(), (Lines{"info: " + operation.started, "info: " + operation.finished}));
         forget();
     }
-    // Java complains here of calls without a check and of more references than it was asked for.
+    // -Xcheck:jni warns here of missing exception checks and of too many local references.
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
 }
 
@@ -157,7 +157,7 @@ TEST_F(zvFSClientTest, AnExceptionMayHaveNoTexts) {
             EXPECT_EQ(narrow(exception.getResult().getMessage()).find(trace), 0U);
             EXPECT_EQ(exception.getResult().getMessage().empty(), *trace == '\0');
         }
-        client.setFileType(0);  // nothing is left pending
+        client.setFileType(0);  // no exception is left pending
     }
 }
 
@@ -187,7 +187,7 @@ TEST_F(zvFSClientTest, WithoutAConnectionNothingIsInvoked) {
         Client::destroyInstance();
         EXPECT_TRUE(calls().empty() && clientLines().empty());
     }
-    // That the client has no text of its own matters to the log alone.
+    // A toString() that throws only affects the log.
     connect("speechless=").mkDir("d");
 }
 
@@ -201,14 +201,14 @@ TEST_F(zvFSClientTest, AMissingJavaClientIsAnException) {
     });
 }
 
-TEST_F(zvFSClientTest, AnyTextGoesBothWays) {
+TEST_F(zvFSClientTest, AnyTextRoundTrips) {
     const std::pair<const char16_t*, std::string> cases[] = {
         {u" a  b ", " a  b "},
         {u"\u00E4\u0416\u4E2D\uFFFD", "\\u00E4\\u0416\\u4E2D\\uFFFD"},
         {u"\U0001F600", "\\uD83D\\uDE00"},
         {u"\xDE00\xD83D", "\\uDE00\\uD83D"}};
     for (const auto& [text, escaped] : cases) {
-        // A line of a properties file loses its first blanks.
+        // Leading blanks of a value in a properties file are lost.
         Client& client = connect("list=|" + escaped);
         client.put(text, text);
         const std::string put = std::string("put(").append(escaped).append(",").append(escaped).append(")");
@@ -247,9 +247,9 @@ long residentPages() {
     return resident;
 }
 
-TEST_F(zvFSClientTest, ManyCallsLeaveNothingBehind) {
+TEST_F(zvFSClientTest, ManyCallsDoNotLeak) {
     inProcessOfItsOwn([this] {
-        // A heap that is there from the beginning, and a compiler that is done with the first calls.
+        // A heap that does not grow, and a compiler that is done after the first calls.
         const zvScopedVariable options("JAVA_TOOL_OPTIONS",
                                        "-Xms32m -Xmx32m -XX:+AlwaysPreTouch -XX:TieredStopAtLevel=1");
         zvRecordingLogger::onInitialize([](const std::string&) { return false; });
@@ -263,7 +263,7 @@ TEST_F(zvFSClientTest, ManyCallsLeaveNothingBehind) {
         call(20000);
         const long before = residentPages();
         call(100000);
-        constexpr long pages = 256;  // one reference left behind by each call takes more
+        constexpr long pages = 256;  // one leaked reference per call takes more
         EXPECT_LT(residentPages() - before, pages);
     });
 }

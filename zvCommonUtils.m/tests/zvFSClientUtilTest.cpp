@@ -8,7 +8,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// An event 1300 with its files in a shadow directory.
+// A fixture with the files of event 1300 in a shadow directory.
 class zvFSClientUtilTest : public zvJavaTest {
 protected:
     zvFSClientUtilTest() : m_args(zvEventMirror, "jdoe") {
@@ -27,7 +27,7 @@ protected:
         attachment->setToBeDeleted(toBeDeleted);
         m_attachments.addAttachment(attachment);
     }
-    /// The path in the way that events have it.
+    /// The path with the separators that events use.
     std::string path(const std::string& name) const {
         std::string text = m_folder.file(name);
         std::replace(text.begin() + 1, text.end(), '/', '\\');
@@ -105,8 +105,8 @@ TEST_F(zvFSClientUtilTest, SendsNothingAgainThatHasArrived) {
     EXPECT_FALSE(isThere("b/left"));
 }
 
-TEST_F(zvFSClientUtilTest, NamesWhatItCannotRemove) {
-    m_folder.write("full/of/files", "");  // nothing that is removed like a file
+TEST_F(zvFSClientUtilTest, ReportsFilesThatCannotBeRemoved) {
+    m_folder.write("full/of/files", "");  // not empty, and so not removable
     attach(path("full/of"));
     connect();
     const zvResult result = zvFSClientUtil::uploadEventFiles(m_args, m_attachments);
@@ -203,7 +203,7 @@ TEST_F(zvFSClientUtilTest, RefusesWhatWouldLoseAFileBeforeAnythingMoves) {
     }
 }
 
-// With the product's own Java client, and where the environment names no encoding.
+// With the real Java client, and without an encoding in the environment.
 TEST_F(zvFSClientUtilTest, AnEventGoesToTheFileServerAndBack) {
     const zvScopedVariable classPath("CLASSPATH", ZV_CLIENT_JAR);
     const zvScopedVariable all("LC_ALL", "");

@@ -5,19 +5,19 @@
 
 #include <new>
 
-/// The operator new of the programs that link this: any allocation can be made to fail.
+/// Fault injection: replaces the operator new of programs that link this, so that any allocation can fail.
 namespace zvFaultyMemory {
 
-/// How many allocations succeed from now on before all fail; negative: none fails.
+/// Sets the number of allocations that succeed before all others fail; negative: none fails.
 void allow(int allocations);
-/// Whether an allocation was refused since allow().
+/// Whether an allocation has failed since allow().
 bool hasFailed();
-/// Allocations that were not given back yet.
+/// The number of live allocations.
 long living();
 
-/// Calls `attempt` once for every allocation that it makes, letting that one and all behind it fail, and once
-/// more without a fault. Each time `make` makes the object for it before, and `check(object, faultless)`
-/// looks at it afterwards. Nothing but std::bad_alloc may come out of it, and nothing may leak.
+/// Calls `attempt` once for each of its allocations, with that one and all later ones failing, and once
+/// without a fault. Each time `make` creates the object before and `check(object, faultless)` verifies it
+/// afterwards. `attempt` may throw only std::bad_alloc and must not leak.
 template <typename Make, typename Attempt, typename Check>
 void forEveryFault(Make make, Attempt attempt, Check check) {
     bool faultless = false;

@@ -14,7 +14,7 @@
 
 using Lines = std::vector<std::string>;
 
-/// Gives an environment variable another value for as long as it lives.
+/// RAII guard that sets an environment variable and restores it.
 class zvScopedVariable {
 public:
     zvScopedVariable(const char* name, const std::string& value) : m_name(name) {
@@ -31,24 +31,24 @@ private:
     std::string m_before;
 };
 
-/// A test over a real Java, strict about its native callers, and the recording file-server client.
+/// A fixture with a real JVM that runs with -Xcheck:jni, and the recording file-server client.
 class zvJavaTest : public zvLoggedTest {
 protected:
     zvJavaTest() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
     ~zvJavaTest() override { zvFSClient::destroyInstance(); }
 
-    /// A configuration file for the client, with what the recording one is to do.
+    /// Writes a configuration file for the recording client.
     std::string configuration(const std::string& script = "") const {
         return m_folder.write("client.properties", script);
     }
-    /// A new connection, with nothing recorded and nothing logged so far.
+    /// Reconnects and discards everything recorded and logged.
     zvFSClient& connect(const std::string& script = "") {
         zvFSClient::destroyInstance();
         zvFSClient& client = *zvFSClient::getInstance(configuration(script).c_str());
         forget();
         return client;
     }
-    /// The calls that arrived in Java.
+    /// The recorded calls.
     Lines calls() const {
         Lines lines;
         std::istringstream recorded(readAll(m_folder.file("client.properties.calls")));
@@ -62,7 +62,7 @@ protected:
         zvRecordingLogger::reset();
     }
 
-    /// Runs `test` in a process of its own, in which no Java runs yet.
+    /// Runs `test` in a process of its own, without a running JVM.
     static void inProcessOfItsOwn(const std::function<void()>& test) {
         const auto run = [&] {
             test();

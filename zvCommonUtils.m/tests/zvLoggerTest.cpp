@@ -25,7 +25,7 @@ TEST_F(zvLoggerTest, IsConfiguredOnceFromTheGatewayHome) {
     EXPECT_EQ(zvRecordingLogger::configurations().size(), 2U);
 }
 
-TEST_F(zvLoggerTest, PutsTheFilesNameInFront) {
+TEST_F(zvLoggerTest, PrefixesTheFileName) {
     struct Case {
         const char *file, *message, *expected;
     };

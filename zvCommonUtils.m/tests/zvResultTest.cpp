@@ -3,7 +3,7 @@
 
 namespace {
 
-TEST(zvResult, IsAFailureUntilItIsSetToSuccess) {
+TEST(zvResultTest, IsAFailureUntilItIsSetToSuccess) {
     zvResult result;
     EXPECT_FALSE(result.isOk());
     EXPECT_EQ(result.getResult(), -1);
@@ -17,7 +17,7 @@ TEST(zvResult, IsAFailureUntilItIsSetToSuccess) {
     EXPECT_TRUE(result.isOk() && zvResult::isFileTransferFailure(result.getFailureType()));
 }
 
-TEST(zvResult, EqualityIsThatOfCodeAndFailureType) {
+TEST(zvResultTest, EqualityIsThatOfCodeAndFailureType) {
     zvResult left(3);
     zvResult right(3);
     left.setMessage("one");
@@ -30,7 +30,7 @@ TEST(zvResult, EqualityIsThatOfCodeAndFailureType) {
     EXPECT_EQ(right.getAdditionalInformation(), "two");
 }
 
-TEST(zvException, CarriesAResultOrAMessage) {
+TEST(zvExceptionTest, CarriesAResultOrAMessage) {
     zvResult result(4);
     result.setMessage("in the result");
     zvException exception(result);

@@ -5,13 +5,13 @@
 
 namespace {
 
-// Made before any fault, so that only the operation under test meets one.
+// Constructed in advance, so that only allocations of the operation under test fail.
 const zvString b("b");
 const zvString upperB("B");
 const zvString upper("ABCB");
 const zvString longer("something longer");
 
-// The string has to come out as it was, empty, or as it comes out of a run without a fault; nothing may be
+// After a fault, the string has to be unchanged, empty or equal to the result without a fault; nothing may be
 // thrown.
 void withEveryFault(void (*operation)(zvString&)) {
     zvString expected("abcb");
@@ -23,7 +23,7 @@ void withEveryFault(void (*operation)(zvString&)) {
         });
 }
 
-TEST(zvStringFault, AFailedAllocationLeavesTheStringEmptyOrUnchanged) {
+TEST(zvStringFaultTest, AFailedAllocationLeavesTheStringEmptyOrUnchanged) {
     withEveryFault([](zvString& s) { s += longer; });
     withEveryFault([](zvString& s) { s += s; });
     withEveryFault([](zvString& s) { s = longer; });

@@ -11,14 +11,14 @@
 
 namespace {
 
-// The buffer's address tells whether an operation kept it or took a new one.
+// A string with spare capacity.
 zvString withRoom(const char* text, int room) {
     zvString wide(std::string(static_cast<std::size_t>(room), 'x').c_str());
     wide = zvString(text);
     return wide;
 }
 
-TEST(zvString, WhatHoldsNoTextHasNoBuffer) {
+TEST(zvStringTest, EmptyStringsHaveNoBuffer) {
     const zvString none[] = {zvString(),
                              zvString(""),
                              zvString("abc", 0),
@@ -40,7 +40,7 @@ TEST(zvString, WhatHoldsNoTextHasNoBuffer) {
     }
 }
 
-TEST(zvString, IsMadeFromTextsAndNumbers) {
+TEST(zvStringTest, IsConstructedFromTextsAndNumbers) {
     const wchar16 units[] = {'a', 'b', 0, 'c', 0};
     EXPECT_EQ(zvString("abcdef", 3), "abc");
     EXPECT_EQ(zvString("ab", 100), "ab");
@@ -56,7 +56,7 @@ TEST(zvString, IsMadeFromTextsAndNumbers) {
     EXPECT_TRUE("ab" != zvString("aB"));
 }
 
-TEST(zvString, GrowsToAnExactFitAndKeepsALargerBuffer) {
+TEST(zvStringTest, GrowsToAnExactFitAndKeepsALargerBuffer) {
     zvString text("abcdef");
     const wchar16* const buffer = text.data();
     text = "xyz";
@@ -76,7 +76,7 @@ TEST(zvString, GrowsToAnExactFitAndKeepsALargerBuffer) {
     EXPECT_EQ(doubled, "abab");
 }
 
-TEST(zvString, EveryChangeDiscardsTheNarrowCopy) {
+TEST(zvStringTest, EveryChangeDiscardsTheNarrowCopy) {
     using Change = void (*)(zvString&);
     const Change changes[] = {
         [](zvString& s) { s += "!"; },         [](zvString& s) { s = "new"; },
@@ -94,7 +94,7 @@ TEST(zvString, EveryChangeDiscardsTheNarrowCopy) {
     }
 }
 
-TEST(zvString, Searches) {
+TEST(zvStringTest, Searches) {
     struct Case {
         const char* text;
         const char* pattern;
@@ -121,8 +121,8 @@ TEST(zvString, Searches) {
     EXPECT_EQ(zvString("aXaxA").countNoCase("AX"), 2);
 }
 
-// Long texts are searched in blocks, whose edges no match may fall into.
-TEST(zvString, FindsTheFirstMatchAtEveryPosition) {
+// Long strings are searched in blocks: matches across block boundaries must be found.
+TEST(zvStringTest, FindsTheFirstMatchAtEveryPosition) {
     for (const std::string pattern : {"n", "ne", "needle"}) {
         for (std::size_t before = 1; before < 140; ++before) {
             std::string text;
@@ -140,7 +140,7 @@ TEST(zvString, FindsTheFirstMatchAtEveryPosition) {
     }
 }
 
-TEST(zvString, IgnoresCaseAsTheRuntimeDoes) {
+TEST(zvStringTest, IgnoresCaseAsTheRuntimeDoes) {
     for (int left = 1; left < 0x250; ++left) {
         zvString lowered(static_cast<wchar16>(left));
         lowered.toLower();
@@ -156,7 +156,7 @@ TEST(zvString, IgnoresCaseAsTheRuntimeDoes) {
     }
 }
 
-TEST(zvString, Replaces) {
+TEST(zvStringTest, Replaces) {
     struct Case {
         const char *text, *from, *to, *expected;
         int start, end, matches;
@@ -181,7 +181,7 @@ TEST(zvString, Replaces) {
     EXPECT_EQ(self.replace("a", self), 0);
 }
 
-TEST(zvString, InsertsAndRepeatsTheTailInABufferWithRoom) {
+TEST(zvStringTest, InsertsAndRepeatsTheTailInABufferWithRoom) {
     zvString exact("abcdef");
     EXPECT_TRUE(exact.insert("X", 1));
     EXPECT_EQ(exact, "aXbcdef");
@@ -197,7 +197,7 @@ TEST(zvString, InsertsAndRepeatsTheTailInABufferWithRoom) {
     EXPECT_EQ(text, "abc");
 }
 
-TEST(zvString, CutsAndTrims) {
+TEST(zvStringTest, TakesSubstringsAndTrims) {
     const zvString text("abcdef");
     EXPECT_EQ(text.substr(2, 100), "cdef");
     EXPECT_EQ(text.substr(2, INT_MAX), "cdef");
@@ -216,7 +216,7 @@ TEST(zvString, CutsAndTrims) {
     EXPECT_EQ(reversed, "cba");
 }
 
-TEST(zvString, IsOrderedByCodeUnits) {
+TEST(zvStringTest, IsOrderedByCodeUnits) {
     const zvString null;
     const zvString empty = withRoom("", 3);
     EXPECT_TRUE(zvString("abc") < zvString("abd") && zvString("ab") < zvString("abc"));
@@ -228,7 +228,7 @@ TEST(zvString, IsOrderedByCodeUnits) {
     EXPECT_TRUE(zvString(u"stra\u00DFE \u00C4").equalsIgnoreCase(u"STRA\u00DFe \u00E4"));
 }
 
-TEST(zvString, ReadsNumbers) {
+TEST(zvStringTest, ReadsNumbers) {
     struct Case {
         const char* text;
         int expected;
@@ -263,12 +263,12 @@ TEST(zvString, ReadsNumbers) {
     EXPECT_FALSE(zvString("yes").toBoolean() || zvString("2").toBoolean() || zvString().toBoolean());
 }
 
-TEST(zvString, KeepsTextBeyondAsciiBothWays) {
+TEST(zvStringTest, KeepsTextBeyondAsciiBothWays) {
     if (!localeIsUtf8()) {
         GTEST_SKIP() << "a UTF-8 locale";
     }
     const char* const mixed =
-        "\xC3\xA4 \xE2\x82\xAC \xF0\x9F\x98\x80!";  // one, two and three units' characters
+        "\xC3\xA4 \xE2\x82\xAC \xF0\x9F\x98\x80!";  // characters of two, three and four bytes
     const zvString text(mixed);
     EXPECT_EQ(text, u"\u00E4 \u20AC \U0001F600!");
     EXPECT_EQ(text.size(), 7);
@@ -292,7 +292,7 @@ TEST(zvString, KeepsTextBeyondAsciiBothWays) {
     zvString::releaseString(narrowText);
 }
 
-TEST(zvString, TheCLocaleRefusesWhatItCannotTell) {
+TEST(zvStringTest, TheCLocaleRefusesWhatItCannotEncode) {
     const std::string before = std::setlocale(LC_ALL, nullptr);
     std::setlocale(LC_ALL, "C");
     EXPECT_STREQ(zvString("plain").getChars(), "plain");
@@ -303,7 +303,7 @@ TEST(zvString, TheCLocaleRefusesWhatItCannotTell) {
     EXPECT_NE(euro.getChars(), nullptr) << "a failed conversion is tried again";
 }
 
-TEST(zvString, StaticConvertersAnswerNullForNull) {
+TEST(zvStringTest, StaticConvertersReturnNullForNull) {
     wchar16* wide = nullptr;
     char* narrowText = nullptr;
     EXPECT_EQ(zvString::convertStringToUnicode(nullptr, 3, wide), 0);

@@ -12,7 +12,7 @@ std::string tokens(zvStringTokeniser& tokeniser) {
     return joined;
 }
 
-TEST(zvStringTokeniser, SplitsByACharacter) {
+TEST(zvStringTokeniserTest, SplitsByACharacter) {
     struct Case {
         const char *text, *expected;
     };
@@ -31,7 +31,7 @@ TEST(zvStringTokeniser, SplitsByACharacter) {
     EXPECT_EQ(beyondAscii.getNumTokens(), 1);
 }
 
-TEST(zvStringTokeniser, SplitsByAnyCharacterOrByAWholeText) {
+TEST(zvStringTokeniserTest, SplitsByAnyCharacterOrByAWholeText) {
     struct Case {
         const char *text, *delimiters;
         bool whole;
@@ -59,7 +59,7 @@ TEST(zvStringTokeniser, SplitsByAnyCharacterOrByAWholeText) {
     EXPECT_EQ(tokens(noDelimiter), "<a>");
 }
 
-TEST(zvStringTokeniser, ASecondRunAppends) {
+TEST(zvStringTokeniserTest, ASecondRunAppends) {
     zvStringTokeniser tokeniser("a,b", ',');
     tokeniser.tokenise();
     tokeniser.tokenise();

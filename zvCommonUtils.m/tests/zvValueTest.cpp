@@ -9,7 +9,7 @@
 
 namespace {
 
-// Which of == != < <= > >= hold, each as 1 or 0; "!" for one that throws.
+// The results of == != < <= > >= as 1 or 0; "!" for one that throws.
 std::string comparisons(const zvValue& left, const zvValue& right) {
     using Operator = bool (zvValue::*)(const zvValue&) const;
     const Operator operators[] = {&zvValue::operator==, &zvValue::operator!=, &zvValue::operator<,
@@ -27,7 +27,7 @@ std::string comparisons(const zvValue& left, const zvValue& right) {
 
 zvValue text(const char* value) { return zvValue(zvString(value)); }
 
-TEST(zvValue, ComparesByTheTypeOnTheLeft) {
+TEST(zvValueTest, ComparesByTheTypeOnTheLeft) {
     const zvValue early{zvDateTime(2011, 4, 30, 1, 2, 3)};
     const zvValue late{zvDateTime(2011, 5, 1, 1, 2, 3)};
     const zvValue alsoLate{zvDateTime(2011, 4, 31, 1, 2, 3)};
@@ -67,7 +67,7 @@ TEST(zvValue, ComparesByTheTypeOnTheLeft) {
     }
 }
 
-TEST(zvValue, IsSetFromText) {
+TEST(zvValueTest, IsSetFromText) {
     struct Case {
         const char* text;
         int type;
@@ -92,7 +92,7 @@ TEST(zvValue, IsSetFromText) {
     }
 }
 
-TEST(zvValue, ConvertsOnReading) {
+TEST(zvValueTest, ConvertsOnReading) {
     EXPECT_EQ(zvValue("-2.75", zvDataTypeFloat, 2).getIntValue(), -2);
     EXPECT_EQ(zvValue(3e9F).getIntValue(), INT_MIN);
     EXPECT_EQ(zvValue(-3e9F).getIntValue(), INT_MIN);
@@ -106,7 +106,7 @@ TEST(zvValue, ConvertsOnReading) {
     EXPECT_EQ(text("1/2/2003::4-5-6").getDateValue().getYear(), 2003);
 }
 
-TEST(zvValue, SaysWhichTypeItCannotBecome) {
+TEST(zvValueTest, ThrowsForImpossibleConversions) {
     const auto message = [](auto action) {
         try {
             action();
@@ -128,7 +128,7 @@ TEST(zvValue, SaysWhichTypeItCannotBecome) {
               "On boolean datatype only equal to and not equal to action happens");
 }
 
-TEST(zvValue, ASetterLeavesTheOtherSlots) {
+TEST(zvValueTest, ASetterKeepsTheOtherSlots) {
     zvValue value(zvString("kept"));
     value.setIntValue(3);
     EXPECT_EQ(value.getValue(), "3");

@@ -5,7 +5,7 @@
 
 enum zvCommProtocoalEnum { zvCommProtocoalNone = 0, zvCommProtocoalHTTP = 1 };
 
-/// Makes the communication utility for a protocol.
+/// Creates the communication utility for a protocol.
 class ZV_EXPORT zvCommunicationFactory {
 public:
     zvCommunicationFactory();
@@ -13,13 +13,13 @@ public:
     zvCommunicationFactory& operator=(const zvCommunicationFactory& other);
     virtual ~zvCommunicationFactory();
 
-    /// A utility that posts the arguments as a form over HTTP or HTTPS, certificates verified; null, which is
-    /// logged, for any other protocol. The caller owns it and deletes it.
+    /// A utility that posts the arguments as a form over HTTP or HTTPS, with TLS certificate verification;
+    /// null, which is logged, for any other protocol. The caller owns it.
     ///
-    /// It gives up when no connection stands after 30 seconds and when no byte moved for 60, a few seconds
-    /// more or less. The keys "http-connect-timeout" and "http-stall-timeout" (whole seconds, 1 to 86400) of
-    /// the file "client-config.ini" in the gateway home's folder "config" change these times; they are read
-    /// when the utility is made.
+    /// The time-outs are 30 seconds for connecting and about 60 seconds for a stalled transfer. The keys
+    /// "http-connect-timeout" and "http-stall-timeout" (whole seconds, 1 to 86400) in
+    /// "config/client-config.ini" under the gateway home change them; they are read when the utility is
+    /// created.
     static zvCommunicationUtils* createCommunicationUtils(zvCommProtocoalEnum protocol);
 };
 

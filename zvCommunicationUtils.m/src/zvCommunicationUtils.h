@@ -8,18 +8,17 @@
 #include "zvResult.h"
 #include "zvString.h"
 
-/// Where the body of a response goes.
+/// The callback that receives the body of a response.
 ///
-/// The write function is called for every piece that arrives, in order, with `size * count` bytes at `data`.
-/// `sink` is the address of this very wrapper, through whose m_pUserData the function reaches its own data.
-/// It returns the number of bytes that it took, any other number than it was given ends the request with a
-/// failure, and it does not throw.
+/// The write function is called for every chunk in order, with `size * count` bytes at `data`; `sink` points
+/// to this wrapper, whose m_pUserData is the function's own. It returns the number of bytes that it consumed;
+/// any other number than it was given aborts the request as a failure. It must not throw.
 struct WriteMemoryCallbackWrapper {
     std::size_t (*m_pWriteFunction)(char* data, std::size_t size, std::size_t count, void* sink) = nullptr;
     void* m_pUserData = nullptr;
 };
 
-/// Sends event arguments to a server; made by zvCommunicationFactory for one protocol.
+/// Sends event arguments to a server over one protocol; created by zvCommunicationFactory.
 class ZV_EXPORT zvCommunicationUtils : public zvCoreObject {
 public:
     zvCommunicationUtils();
@@ -27,14 +26,14 @@ public:
     zvCommunicationUtils& operator=(const zvCommunicationUtils& other);
     ~zvCommunicationUtils() override;
 
-    /// Sends the arguments to `url` and waits for the response, whose body goes to `sink` whatever its
+    /// Sends the arguments to `url` and waits for the response, whose body is passed to `sink` whatever the
     /// status; a null sink, or one without a write function, discards it.
-    /// @return 0 for an answer with a status below 400, also for a redirection, which is not followed;
-    /// otherwise -1 with the reason as its message. The additional information is the status in decimal,
-    /// empty when there was no answer.
+    /// @return 0 for a response with a status below 400, including redirects, which are not followed;
+    /// otherwise -1 with the reason as message. The additional information is the status in decimal, empty if
+    /// there was no response.
     virtual zvResult request(const zvString& url, const zvEventArguments& args,
                              WriteMemoryCallbackWrapper* sink) = 0;
-    /// Not there yet: a call is only logged, as a warning.
+    /// Not implemented: only logs a warning.
     virtual void queryResponse() = 0;
     virtual void queryResponseHeader() = 0;
 };

@@ -16,8 +16,8 @@ struct FreeEscaped {
     void operator()(char* text) const { curl_free(text); }
 };
 
-// In pieces, since libcurl refuses a long text; a text without bytes has none, which libcurl would take for a
-// text of unknown length.
+// In pieces, since libcurl refuses to escape long strings. An empty string has no piece: to libcurl the
+// length 0 means a null-terminated string.
 void appendEscaped(std::string& body, const zvString& text, std::string& buffer) {
     constexpr std::size_t longestPiece = 1'000'000;
     const std::string_view bytes = zvUtf8::encode(text, buffer);
@@ -53,8 +53,8 @@ zvFormBody::zvFormBody(const zvEventArguments& args) {
     });
 }
 
-// `begin` and `separator` are the positions of the pair and of its "=" in what is sent. A name that mentions
-// a secret may hold it too, so that the argument is shown as the echo of the command line shows it.
+// `begin` and `separator` are the positions of the pair and of its "=" in the body that is sent. A name that
+// mentions a secret may contain its value, so the whole argument is masked as on the command line.
 void zvFormBody::showPair(const zvString& name, const zvString& value, std::size_t begin,
                           std::size_t separator) {
     const char* const secret = zvSecrets::keyIn(name);

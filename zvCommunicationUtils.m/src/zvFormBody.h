@@ -5,14 +5,14 @@
 
 #include "zvEventArguments.h"
 
-/// Event arguments as the body of a form post: `name=value` in key order with "&" between, names and values
-/// escaped as UTF-8 bytes.
+/// Event arguments as a form-urlencoded body: `name=value` in key order, separated by "&", with the UTF-8
+/// bytes of names and values percent-encoded.
 class zvFormBody {
 public:
     explicit zvFormBody(const zvEventArguments& args);
 
     const std::string& sent() const { return m_strSent; }
-    /// The body as a log may show it, secrets masked; empty when there is no log to read it.
+    /// The body for the log, with secrets masked; empty if nothing is logged.
     const std::string& shown() const { return m_strShown; }
 
 private:

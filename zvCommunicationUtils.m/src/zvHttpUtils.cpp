@@ -23,13 +23,13 @@ std::shared_ptr<void> initializeLibrary() {
                      static_cast<int>(code), "\" -", curl_easy_strerror(code));
         return nullptr;
     }
-    // libcurl's state has no address, only an end.
+    // libcurl's state has no handle, so only the deleter matters.
     return {nullptr, [](void*) { curl_global_cleanup(); }};
 }
 
 std::size_t discard(char*, std::size_t size, std::size_t count, void*) { return size * count; }
 
-// One transfer of libcurl's easy interface. An option that is refused is the transfer's failure.
+// RAII wrapper of a libcurl easy handle. An option that fails makes the transfer fail.
 class Transfer {
 public:
     bool isOpen() const { return m_pHandle != nullptr; }
@@ -43,7 +43,7 @@ public:
 
     CURLcode perform() { return m_code == CURLE_OK ? curl_easy_perform(m_pHandle.get()) : m_code; }
 
-    // The answer's status; 0 without an answer.
+    // The status of the response; 0 if there was none.
     long status() const {
         long status = 0;
         curl_easy_getinfo(m_pHandle.get(), CURLINFO_RESPONSE_CODE, &status);
@@ -65,7 +65,7 @@ void setSink(Transfer& transfer, WriteMemoryCallbackWrapper* sink) {
     transfer.set(CURLOPT_WRITEDATA, sink);
 }
 
-// Changes `seconds` when the properties hold a better number.
+// Overwrites `seconds` if the property is set and valid.
 void readSeconds(const zvProperties& properties, const char* key, long& seconds) {
     zvString text = properties.getPropertyValue(key);
     if (text.empty()) {
@@ -100,7 +100,7 @@ zvResult outcome(CURLcode code, long status) {
 
 zvHttpUtils::zvHttpUtils() : m_pLibrary(initializeLibrary()) { readTimeouts(); }
 
-// A home, a file or a key that is not there is nothing to speak of.
+// A missing home, file or key is not logged: the defaults apply.
 void zvHttpUtils::readTimeouts() {
     const zvString home = zvGatewayHome::readEnvironment(zvGatewayHome::getEnvVariable());
     if (home.empty()) {
@@ -148,7 +148,7 @@ zvResult zvHttpUtils::post(const zvString& url, const zvEventArguments& args,
     transfer.set(CURLOPT_POSTFIELDS, body.sent().c_str());
     transfer.set(CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(body.sent().size()));
     setSink(transfer, sink);
-    // Certificates are verified and redirections not followed unless libcurl is told otherwise.
+    // libcurl's defaults: certificates are verified, redirects are not followed.
     transfer.set(CURLOPT_PROTOCOLS_STR, "http,https");
     transfer.set(CURLOPT_CONNECTTIMEOUT, m_connectSeconds);
     transfer.set(CURLOPT_LOW_SPEED_LIMIT, 1L);

@@ -6,7 +6,7 @@
 #include "zvCommunicationUtils.h"
 #include "zvFormBody.h"
 
-/// Posts event arguments as a form, on libcurl. Only zvCommunicationFactory makes one.
+/// Posts event arguments as a form with libcurl. Created by zvCommunicationFactory only.
 class zvHttpUtils : public zvCommunicationUtils {
 public:
     zvResult request(const zvString& url, const zvEventArguments& args,
@@ -22,7 +22,7 @@ private:
     zvFormBody computeHttpRequestArgs(const zvEventArguments& args) const;
     zvResult post(const zvString& url, const zvEventArguments& args, WriteMemoryCallbackWrapper* sink) const;
 
-    // Copies share it: libcurl, once initialised, is cleaned up behind the last of them.
+    // libcurl's global state, shared by copies: cleaned up after the last of them.
     std::shared_ptr<void> m_pLibrary;
     long m_connectSeconds = 30;
     long m_stallSeconds = 60;

@@ -8,10 +8,10 @@
 
 namespace zvUtf8 {
 
-/// The text's UTF-8 bytes, whatever the process's locale: what goes over the wire does not depend on it. Half
-/// a surrogate pair, which has no UTF-8 form, becomes U+FFFD.
+/// `text` as UTF-8, whatever the process's locale: the wire format does not depend on it. A lone surrogate,
+/// which UTF-8 cannot encode, becomes U+FFFD.
 std::string encode(const zvString& text);
-/// The same, written to the start of `buffer`, which grows as is needed and is kept for the next text.
+/// The same as a view into `buffer`, which grows on demand and can be reused.
 std::string_view encode(const zvString& text, std::string& buffer);
 
 }  // namespace zvUtf8

@@ -5,10 +5,10 @@
 
 #include "zvICndCondition.h"
 
-/// A counted pointer to a condition, or to nothing: the condition lives as long as a handle on it does. The
-/// count is a plain number, so that all handles on one condition belong to one thread at a time.
+/// A reference-counted handle to a condition; may be null. The count is not atomic: all handles to one
+/// condition belong to one thread at a time.
 ///
-/// zvCndConditionFactory turns a handle into one of another type on the same condition.
+/// zvCndConditionFactory converts a handle to one of another type to the same condition.
 template <class Implementation>
 class zvCndHandle {
 public:
@@ -20,7 +20,7 @@ public:
     }
     ~zvCndHandle() { release(); }
 
-    /// Releases the own condition before it takes the other's: `other` must not live in what is released.
+    /// Releases its own condition first. Precondition: `other` is not part of that condition.
     zvCndHandle& operator=(const zvCndHandle& other) {
         if (this != &other) {
             release();
@@ -38,10 +38,10 @@ public:
         return *this;
     }
 
-    /// The condition, owned by its handles; null for a null handle.
+    /// The condition, owned jointly by its handles; null for a null handle.
     Implementation* operator->() const { return m_pCondition; }
     bool IsNull() const { return m_pCondition == nullptr; }
-    /// Orders by identity: two handles are equal when they hold the same condition.
+    /// Orders by identity: handles to the same condition are equivalent.
     bool operator<(const zvCndHandle& other) const {
         return reinterpret_cast<std::uintptr_t>(m_pCondition) <
                reinterpret_cast<std::uintptr_t>(other.m_pCondition);
@@ -62,7 +62,7 @@ private:
     Implementation* m_pCondition;
 };
 
-/// A handle on a condition of any type.
+/// A handle to a condition of any type.
 using zvCndCondition = zvCndHandle<zvICndCondition>;
 
 #endif

@@ -16,14 +16,14 @@ zvICndComparisonCondition* create(zvCndOperand&& lhs, zvCndOperand&& rhs) {
     return new Comparison(std::move(lhs), std::move(rhs));
 }
 
-// In the order of the types from Equals on.
+// Indexed by type, starting with Equals.
 constexpr CreateComparison createComparisons[] = {
     create<zvICndEqualsCondition>,      create<zvICndNotEqualsCondition>,
     create<zvICndLessThanCondition>,    create<zvICndLessThanEqualsCondition>,
     create<zvICndGreaterThanCondition>, create<zvICndGreaterThanEqualsCondition>,
 };
 
-// The message names what the condition was expected to be.
+// `expected` names the expected type in the message.
 void require(bool isExpected, const char* expected) {
     if (!isExpected) {
         logger.raise("Received condition is not ", expected, "Condition");

@@ -7,7 +7,7 @@
 #include "zvICndLogicalCondition.h"
 #include "zvICndNotCondition.h"
 
-/// Makes conditions, and turns handles into handles of another type on the same condition.
+/// Creates conditions and converts handles between types.
 class ZV_EXPORT zvCndConditionFactory {
 public:
     zvCndConditionFactory();
@@ -16,7 +16,7 @@ public:
 
     zvCndConditionFactory& operator=(const zvCndConditionFactory& other);
 
-    /// New conditions, each owned by the handle alone. No operand is checked.
+    /// Creates a condition, owned by the returned handle. Operands are not validated.
     static zvCndEqualsCondition createEqualsCondition(const zvCndOperand& lhs, const zvCndOperand& rhs);
     static zvCndNotEqualsCondition createNotEqualsCondition(const zvCndOperand& lhs, const zvCndOperand& rhs);
     static zvCndLessThanCondition createLessThanCondition(const zvCndOperand& lhs, const zvCndOperand& rhs);
@@ -26,14 +26,14 @@ public:
                                                                 const zvCndOperand& rhs);
     static zvCndGreaterThanEqualsCondition createGreaterThanEqualsCondition(const zvCndOperand& lhs,
                                                                             const zvCndOperand& rhs);
-    /// Takes the operands over; a null handle for a type that is not one of the six comparisons.
+    /// Moves from the operands; null for a type that is not one of the six comparisons.
     static zvCndComparisonCondition createComparisonCondition(zvCndConditionTypeEnum type, zvCndOperand&& lhs,
                                                               zvCndOperand&& rhs);
     static zvCndAndCondition createAndCondition();
     static zvCndOrCondition createOrCondition();
     static zvCndNotCondition createNotCondition();
 
-    /// Widening, from every handle that is more special; a null handle stays one.
+    /// Upcasts a handle; null stays null.
     template <class Special>
     static zvCndCondition getCondition(const zvCndHandle<Special>& condition) {
         return condition.operator->();
@@ -47,8 +47,8 @@ public:
         return condition.operator->();
     }
 
-    /// Narrowing, from every handle that is more general. A null handle or a condition of another type is an
-    /// error: logged and thrown as a zvException whose result says "Received condition is not ...".
+    /// Downcasts a handle. A null handle and a condition of another type are logged and thrown as a
+    /// zvException whose result's message is "Received condition is not ...".
     static zvCndComparisonCondition getComparisonCondition(const zvCndCondition& condition);
     static zvCndLogicalCondition getLogicalCondition(const zvCndCondition& condition);
     template <class General>

@@ -5,7 +5,7 @@
 
 #include "zvCndCondition.h"
 
-/// Conditions in the order of their addition; the list shares the ownership of each.
+/// A list of conditions in insertion order, with shared ownership.
 class ZV_EXPORT zvCndConditionList {
 public:
     zvCndConditionList();
@@ -20,9 +20,9 @@ public:
     bool addCondition(const zvCndHandle<Implementation>& condition) {
         return append(condition.operator->());
     }
-    /// A null handle for an index that is out of range.
+    /// Null if `index` is out of range.
     zvCndCondition getCondition(int index) const;
-    /// The last condition; a null handle for an empty list.
+    /// The last condition; null for an empty list.
     zvCndCondition back() const;
     /// Removes the last condition, if any.
     void pop();

@@ -1,7 +1,7 @@
 #ifndef ZV_CND_CONDITION_PRECEDENCE_ENUM_H
 #define ZV_CND_CONDITION_PRECEDENCE_ENUM_H
 
-/// How closely the logical operators of a condition text bind, the highest most closely.
+/// Precedence of the logical operators; a higher number binds more tightly.
 enum zvCndConditionPrecedenceEnum : int {
     zvCndConditionPrecedenceNone = 0,
     zvCndConditionPrecedenceOr = 1,

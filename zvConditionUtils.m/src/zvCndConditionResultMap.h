@@ -5,7 +5,7 @@
 
 #include "zvICndListCondition.h"
 
-/// What conditions result in, each looked up by its identity: an equal text does not make an equal condition.
+/// A map from conditions to results. Keys are compared by identity, not by content.
 class ZV_EXPORT zvCndConditionResultMap {
 public:
     zvCndConditionResultMap();
@@ -14,9 +14,9 @@ public:
 
     zvCndConditionResultMap& operator=(const zvCndConditionResultMap& other);
 
-    /// False, with nothing changed, when a handle is null or the condition has a result already.
+    /// False, with nothing changed, if a handle is null or the condition has a result already.
     bool addConditionResult(const zvCndCondition& condition, const zvCndOrCondition& result);
-    /// A null handle when there is none.
+    /// The condition's result; null if there is none.
     zvCndOrCondition getConditionResult(const zvCndCondition& condition) const;
 
 private:

@@ -3,7 +3,7 @@
 
 #include "zvStringToAttrMap.h"
 
-/// The attributes, by name, for which conditions are evaluated.
+/// The attributes by name against which conditions are evaluated.
 class ZV_EXPORT zvCndContext {
 public:
     zvCndContext();
@@ -12,13 +12,12 @@ public:
 
     zvCndContext& operator=(const zvCndContext& other);
 
-    /// Copies the attribute. False, with nothing changed, for an empty name and for a name that is there
-    /// already.
+    /// Adds a copy of the attribute. False, with nothing changed, for an empty and for a duplicate name.
     bool addAttribute(zvAttribute& attribute);
-    /// Copies the attribute into `attribute`; false, with that untouched, when there is none.
+    /// Copies the attribute `name` into `attribute`; false, with `attribute` unchanged, if it is missing.
     bool getAttribute(const zvString& name, zvAttribute& attribute) const;
 
-    /// The attribute's value itself, owned by the context; null when there is none.
+    /// The value of the attribute `name`, owned by the context; null if it is missing.
     const zvValue* findValue(const zvString& name) const;
 
 private:

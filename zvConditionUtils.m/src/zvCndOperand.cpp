@@ -22,7 +22,7 @@ void zvCndOperand::setText(zvString&& text, zvOperandValueTypeEnum valueType) {
     m_valueType = valueType;
 }
 
-// Numbers, dates and booleans always have a text form, which need not be made to know that.
+// Short circuit: the text forms of numbers, dates and booleans are never empty.
 bool zvCndOperand::hasText() const {
     switch (m_value.getDataType()) {
         case zvDataTypeInteger:

@@ -4,17 +4,17 @@
 #include "zvValue.h"
 
 enum zvOperandValueTypeEnum : int {
-    /// The value is what is compared.
+    /// The value itself is compared.
     zvOperandConstant = 0,
-    /// The value's text is the name of the attribute whose value is compared.
+    /// The value is the name of the attribute whose value is compared.
     zvOperandVariable = 1
 };
 
-/// One side of a comparison. A new operand is a constant without a value.
+/// An operand of a comparison. The default is a constant without a value.
 class ZV_EXPORT zvCndOperand {
 public:
     zvCndOperand();
-    /// With the String `text`.
+    /// An operand with the String value `text`.
     zvCndOperand(zvString&& text, zvOperandValueTypeEnum valueType);
     zvCndOperand(const zvCndOperand& other);
     zvCndOperand(zvCndOperand&& other) noexcept;
@@ -27,10 +27,10 @@ public:
     zvOperandValueTypeEnum getValueType() const { return m_valueType; }
     void setValueType(const zvOperandValueTypeEnum& valueType) { m_valueType = valueType; }
 
-    /// Becomes an operand with the String `text`.
+    /// Replaces the value with the String `text`.
     void setText(zvString&& text, zvOperandValueTypeEnum valueType);
 
-    /// The value itself, owned by the operand.
+    /// The value by reference, owned by the operand.
     const zvValue& value() const { return m_value; }
     /// Whether the value's text form is not empty.
     bool hasText() const;

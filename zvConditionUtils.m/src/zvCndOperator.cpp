@@ -6,7 +6,7 @@
 
 namespace {
 
-// The formatter takes "operator<" for the beginning of a template.
+// clang-format mistakes "operator<" for the start of a template argument list.
 // clang-format off
 constexpr zvCndOperator operators[] = {
     {zvCndConditionEquals, "Equals", "=", zvCndConditionPrecedenceNone, &zvValue::operator==},

@@ -5,7 +5,7 @@
 #include "zvICndCondition.h"
 #include "zvValue.h"
 
-/// What there is to know about an operator of the condition language and the condition type that it makes.
+/// The properties of an operator of the condition language and its condition type.
 struct zvCndOperator {
     using Compare = bool (zvValue::*)(const zvValue&) const;
 
@@ -17,9 +17,9 @@ struct zvCndOperator {
 
     bool isComparison() const { return compare != nullptr; }
 
-    /// Null for a type that no operator makes.
+    /// The operator of a condition type; null if there is none.
     static const zvCndOperator* of(zvCndConditionTypeEnum type);
-    /// Ignoring the case of the logical operators; null for any other text.
+    /// The operator for a token, case-insensitively for logical operators; null if it is not one.
     static const zvCndOperator* of(const zvString& token) { return of(token.data(), token.size()); }
     static const zvCndOperator* of(const wchar16* text, int length);
 };

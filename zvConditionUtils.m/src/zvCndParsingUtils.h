@@ -7,18 +7,19 @@
 #include "zvCndOperand.h"
 #include "zvStringList.h"
 
-/// Turns condition texts into conditions and back.
+/// Parses condition strings to conditions and writes conditions as condition strings.
 ///
-/// `{state} = 'RELEASED' AND ( {rev} > '2' OR NOT {owner} != 'admin' )`: a variable operand is an attribute's
-/// name between braces, taken literally. A constant is a text between quotes, in which a backslash escapes
-/// what follows; whether a quote or a backslash is escaped depends on the character before it alone, so that
-/// no constant ends in a backslash. NOT binds more closely than AND, and AND more closely than OR. AND and OR
-/// keep their children, and evaluate them, from right to left; a run of the same operator is one condition.
+/// For example `{state} = 'RELEASED' AND ( {rev} > '2' OR NOT {owner} != 'admin' )`. A variable operand is an
+/// attribute's name in braces, taken literally. A constant is a string in quotes, in which a backslash
+/// escapes the next character; whether a quote or a backslash is escaped depends only on the character before
+/// it, so that no constant can end in a backslash. The precedence is NOT, AND, OR, from the highest to the
+/// lowest. AND and OR store and evaluate their children from right to left; a chain of the same operator is
+/// one condition.
 ///
-/// Every failure is logged and thrown as a zvException whose result has the message. The result of a failed
-/// createConditionStructure has, as additional information, the decimal 0-based position in the given text at
-/// which the fault was noticed: an open quote, brace or parenthesis, the beginning of an operator, or the
-/// text's length.
+/// Every failure is logged and thrown as a zvException with the message in its result. For
+/// createConditionStructure() the result's additional information is the 0-based position of the error in
+/// decimal: that of an unclosed quote, brace or parenthesis, the start of an operator, or the length of the
+/// string.
 class ZV_EXPORT zvCndParsingUtils {
 public:
     zvCndParsingUtils();
@@ -28,52 +29,52 @@ public:
     zvCndParsingUtils& operator=(const zvCndParsingUtils& other);
 
     static zvCndCondition createConditionStructure(const zvString& text);
-    /// Throws for a null handle and for a condition that is neither a comparison nor AND, OR or NOT.
+    /// The condition string of a condition. Throws for null and for a condition that is neither a comparison
+    /// nor AND, OR or NOT.
     static zvString createConditionString(const zvCndCondition& condition);
-    /// Compares the attribute named `lhs` with the constant `rhs`. Throws for an empty text and for a type
+    /// A comparison of the attribute `lhs` with the constant `rhs`. Throws for an empty string and for a type
     /// that is not one of the six comparisons.
     static zvCndCondition createComparisonCondition(const zvCndConditionTypeEnum& type, const zvString& lhs,
                                                     const zvString& rhs);
 
 protected:
-    /// The longest run of operator characters from `position` on, which is moved to its last character;
-    /// without any, an empty text and an unmoved position.
+    /// The longest run of operator characters from `position` on, which is advanced to its last character;
+    /// empty, with `position` unchanged, if there is none.
     static zvString findCndOperator(const zvString& text, int& position);
-    /// None for a text that is no operator.
+    /// The condition type of an operator; zvCndConditionNone for any other string.
     static zvCndConditionTypeEnum convertToConditionType(const zvString& token);
-    /// Throws for a text that is no logical operator.
+    /// The precedence of a logical operator; throws for any other string.
     static zvCndConditionPrecedenceEnum getOperatorPrecedence(const zvString& token);
-    /// The text as a String value.
+    /// An operand with `text` as a String value.
     static zvCndOperand getCndOperand(zvString text, const zvOperandValueTypeEnum& valueType);
 
-    /// Takes the operand `text`, which is empty then: as the left one when `leftText` is empty; otherwise to
-    /// put the comparison of both on `conditions`, with `leftText` and `pendingType` cleared for the next
-    /// one. Throws for an empty text and for a right operand without a pending type.
+    /// Consumes the operand `text`, which is empty afterwards. If `leftText` is empty, it becomes the left
+    /// operand; otherwise the comparison of both is pushed on `conditions`, and `leftText` and `pendingType`
+    /// are reset. Throws for an empty string and for a right operand without a pending type.
     static void processComparisonOperands(zvString& text, zvString& leftText,
                                           const zvOperandValueTypeEnum& valueType, zvCndOperand& leftOperand,
                                           zvCndConditionTypeEnum& pendingType,
                                           zvCndConditionList& conditions);
-    /// Throws for an operand without text and for a type that is not one of the six comparisons.
+    /// Throws for an empty operand and for a type that is not one of the six comparisons.
     static zvCndCondition createComparisonCondition(const zvCndConditionTypeEnum& type,
                                                     const zvCndOperand& lhs, const zvCndOperand& rhs);
 
-    /// Applies the waiting operators that bind more closely than `token`, which then waits on `operators`
-    /// itself.
+    /// Pops and applies the operators with a higher precedence than `token`, which is then pushed on
+    /// `operators`.
     static void processLogicalCndOperatorString(const zvString& token, zvStringList& operators,
                                                 zvCndConditionList& conditions);
-    /// Applies the waiting operators, back to the "(" that belongs to a closing parenthesis or back to the
-    /// first. A failure leaves the operator that failed, or the "(" that is never closed, on top of
-    /// `operators`.
+    /// Pops and applies the operators, down to the matching "(" for a closing parenthesis, otherwise all. A
+    /// failure leaves the operator that failed, or the unclosed "(", on top of `operators`.
     static void processStrOperatorStack(zvStringList& operators, zvCndConditionList& conditions,
                                         bool closingParenthesis);
-    /// A new AND, OR or NOT without children; throws for any other text.
+    /// A new AND, OR or NOT without children; throws for any other string.
     static zvCndCondition createLogicalCondition(const zvString& token);
-    /// Gives a new logical condition its children from the end of `conditions` and puts the result there: the
-    /// condition itself, or the AND or OR on top when that has the same type. Throws when there are too few.
+    /// Pops the children of a new logical condition from `conditions` and pushes the result: the condition
+    /// itself, or the AND or OR on top if that has the same type. Throws if there are too few.
     static void setLogicalCndIntoCndStack(const zvCndCondition& condition, zvCndConditionList& conditions);
     static void createNsetLogicalCndIntoCndStack(const zvString& token, zvCndConditionList& conditions);
 
-    /// The operand as it is written in a condition text; empty for an unknown value type.
+    /// The operand in the syntax of condition strings; empty for an unknown value type.
     static zvString convertOperandToStringFormat(const zvCndOperand& operand);
 };
 

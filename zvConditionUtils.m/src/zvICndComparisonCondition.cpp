@@ -12,7 +12,7 @@ const zvValue* findAttribute(const zvValue& name, const zvCndContext& context) {
                                                   : context.findValue(name.getValue());
 }
 
-// The operand's value itself; null for a missing operand.
+// The operand's value, borrowed from operand or context; null for a missing operand.
 const zvValue* resolve(const zvCndOperand& operand, const zvCndContext& context) {
     switch (operand.getValueType()) {
         case zvOperandConstant:

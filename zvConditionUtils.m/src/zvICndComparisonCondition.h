@@ -4,11 +4,11 @@
 #include "zvCndCondition.h"
 #include "zvCndOperand.h"
 
-/// What the six comparisons have in common: two operands, of which the left one's type decides how they are
-/// compared, by the zvValue operator that belongs to the condition's type.
+/// The base of the six comparisons: two operands, compared with the zvValue operator of the condition's type,
+/// and so as the type of the left operand.
 ///
-/// An operand is missing when it is a constant with an empty text form or names an attribute that the context
-/// does not hold. A comparison with a missing operand is false, NotEquals too.
+/// An operand is missing if it is a constant with an empty text form or a variable that the context does not
+/// contain. A comparison with a missing operand is false, even NotEquals.
 class ZV_EXPORT zvICndComparisonCondition : public zvICndCondition {
 public:
     ~zvICndComparisonCondition() override;
@@ -20,7 +20,7 @@ public:
     void setLHSOperand(const zvCndOperand& operand);
     void setRHSOperand(const zvCndOperand& operand);
 
-    /// The operands themselves, owned by the condition.
+    /// The operands by reference, owned by the condition.
     const zvCndOperand& lhsOperand() const { return m_lhsOperand; }
     const zvCndOperand& rhsOperand() const { return m_rhsOperand; }
 
@@ -28,9 +28,9 @@ protected:
     explicit zvICndComparisonCondition(zvCndConditionTypeEnum type);
     zvICndComparisonCondition(zvCndConditionTypeEnum type, zvCndOperand&& lhs, zvCndOperand&& rhs);
 
-    /// Copies the operand's value into `out`. False for a missing operand, for which `out` is assigned as
-    /// well: the empty constant, or the default value for an absent attribute. An operand of an unknown type
-    /// is missing and leaves `out` untouched.
+    /// Copies the operand's value into `out`. False for a missing operand, with `out` set to the empty
+    /// constant, or to the default value for a missing attribute. An operand of an unknown type is missing
+    /// and leaves `out` unchanged.
     bool getOperandValue(const zvCndOperand& operand, const zvCndContext& context, zvValue& out) const;
     bool getLHSOperandValue(const zvCndContext& context, zvValue& out) const;
     bool getRHSOperandValue(const zvCndContext& context, zvValue& out) const;

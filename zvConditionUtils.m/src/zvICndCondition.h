@@ -20,27 +20,26 @@ enum zvCndConditionTypeEnum : int {
     zvCndConditionNot = 9
 };
 
-/// A boolean expression over named attributes. Callers hold it in a handle, zvCndCondition or one of the
-/// typed ones, and zvCndConditionFactory makes it. Nothing guards against a condition that is added below
-/// itself, which is never freed.
+/// A boolean expression over named attributes, created by zvCndConditionFactory and held in a handle,
+/// zvCndCondition or a typed one. Cycles are not detected: a condition added below itself leaks.
 class ZV_EXPORT zvICndCondition : public zvReferenceCtr {
 public:
     ~zvICndCondition() override;
 
-    /// Whether the condition holds for the attributes in `context`. Throws the zvException of zvValue when
+    /// Whether the condition is true for the attributes in `context`. Throws the zvException of zvValue if
     /// two values cannot be compared.
     virtual bool evaluate(const zvCndContext& context) const = 0;
     zvCndConditionTypeEnum getConditionType() const { return m_conditionType; }
 
 protected:
-    /// The types And, Or and Not are for descendants of zvICndLogicalCondition alone.
+    /// Precondition: And, Or and Not are the types of classes derived from zvICndLogicalCondition only.
     explicit zvICndCondition(zvCndConditionTypeEnum type = zvCndConditionNone) : m_conditionType(type) {}
 
 private:
     zvCndConditionTypeEnum m_conditionType;
 };
 
-/// The classes that differ from their base in the type alone.
+/// A class that differs from its base only in the condition type.
 template <class Base, zvCndConditionTypeEnum Type>
 class ZV_EXPORT zvICndOfType : public Base {
 public:

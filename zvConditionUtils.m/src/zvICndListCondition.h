@@ -4,16 +4,16 @@
 #include "zvCndConditionList.h"
 #include "zvICndLogicalCondition.h"
 
-/// What AND and OR have in common: a list of children, evaluated first to last until one decides. Without
-/// children both are false.
+/// The base of AND and OR: a list of children, evaluated in order with short circuit. Without children both
+/// are false.
 class ZV_EXPORT zvICndListCondition : public zvICndLogicalCondition {
 public:
     ~zvICndListCondition() override;
 
-    /// Appends a child. False, with nothing changed, for a null handle.
+    /// Appends a child. False, with nothing changed, for null.
     bool addCondition(const zvCndCondition& condition);
     int numConditions() const;
-    /// A null handle for an index that is out of range.
+    /// Null if `index` is out of range.
     zvCndCondition getCondition(int index) const;
 
     zvCndChildren children() const override;

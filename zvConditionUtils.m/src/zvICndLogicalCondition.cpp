@@ -16,23 +16,22 @@ struct OpenCondition {
     zvCndChildren rest;
 };
 
-// Trees up to this depth are evaluated without a heap allocation.
+// Trees up to this depth are evaluated without heap allocation.
 constexpr std::size_t usualDepth = 16;
 
-// What a condition results in before its first child is evaluated, which without children is its result: AND
-// of nothing is false too.
+// The result before the first child is evaluated; final if there are no children, when AND is false too.
 bool initialResult(const OpenCondition& condition) {
     return condition.type == zvCndConditionAnd && condition.rest.next != condition.rest.end;
 }
 
-// Whether the last child's result leaves the others no say.
+// The short circuit: whether the last child's result decides the condition's.
 bool isDecided(const OpenCondition& condition, bool lastResult) {
     return condition.rest.next == condition.rest.end ||
            (condition.type == zvCndConditionAnd && !lastResult) ||
            (condition.type == zvCndConditionOr && lastResult);
 }
 
-// AddRef tells how many owners there are.
+// AddRef() is the only access to the reference count.
 bool hasOneOwner(zvICndCondition& condition) {
     const bool one = condition.AddRef() == 2;
     condition.Release();
@@ -58,7 +57,7 @@ zvICndLogicalCondition* zvICndLogicalCondition::from(const zvCndCondition& condi
 }
 
 bool zvICndLogicalCondition::evaluate(const zvCndContext& context) const {
-    // Left as it is: filling it would take longer than the evaluation.
+    // Deliberately uninitialised: clearing it would take longer than the evaluation.
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
     alignas(OpenCondition) std::array<std::byte, usualDepth * sizeof(OpenCondition)> memory;
     std::pmr::monotonic_buffer_resource resource(memory.data(), memory.size());

@@ -5,35 +5,35 @@
 
 #include "zvCndCondition.h"
 
-/// A logical condition's children that are still to be looked at, first to last.
+/// The range of a logical condition's children that remain to be visited.
 struct zvCndChildren {
     const zvCndCondition* next = nullptr;
     const zvCndCondition* end = nullptr;
 };
 
-/// What AND, OR and NOT have in common: they stand above other conditions. A tree of any depth is evaluated
-/// and freed with a bounded amount of stack.
+/// The base of AND, OR and NOT, the inner nodes of a condition tree. Evaluation and destruction are
+/// iterative: trees of any depth take a bounded amount of stack.
 class ZV_EXPORT zvICndLogicalCondition : public zvICndCondition {
 public:
     ~zvICndLogicalCondition() override;
 
-    /// Goes through the whole tree of logical conditions below this one, and asks the others' evaluate().
+    /// Evaluates the tree of logical conditions iteratively, and its leaves with their evaluate().
     bool evaluate(const zvCndContext& context) const override;
 
-    /// The children themselves, owned by the condition, in the order of evaluation.
+    /// The children in the order of evaluation, owned by the condition.
     virtual zvCndChildren children() const = 0;
 
-    /// `condition` as a logical one, owned by its handles; null when it is none or the handle is null.
+    /// Downcasts `condition`; null if it is null or not a logical condition. Ownership stays with its
+    /// handles.
     static zvICndLogicalCondition* from(const zvCndCondition& condition);
 
 protected:
     explicit zvICndLogicalCondition(zvCndConditionTypeEnum type) : zvICndCondition(type) {}
 
-    /// Leaves this condition without children.
+    /// Moves the children to the end of `conditions`.
     virtual void moveChildrenTo(std::vector<zvCndCondition>& conditions) = 0;
-    /// Releases the conditions one after the other, and what is below them when nobody else owns it.
-    /// Destructors call it with the children, since a child that dies within its parent's end overflows the
-    /// stack in the end.
+    /// Releases the conditions and, iteratively, the descendants without another owner. Destructors call it
+    /// with their children, since recursive destruction would overflow the stack.
     static void release(std::vector<zvCndCondition>& conditions);
 };
 

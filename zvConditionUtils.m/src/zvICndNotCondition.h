@@ -3,7 +3,7 @@
 
 #include "zvICndLogicalCondition.h"
 
-/// The negation of its one child, without which it must not be evaluated.
+/// The negation of its child. Precondition of evaluation: the child is set.
 class ZV_EXPORT zvICndNotCondition : public zvICndLogicalCondition {
 public:
     static constexpr zvCndConditionTypeEnum type = zvCndConditionNot;
@@ -11,9 +11,9 @@ public:
     zvICndNotCondition();
     ~zvICndNotCondition() override;
 
-    /// Replaces the child. False, with nothing changed, for a null handle.
+    /// Replaces the child. False, with nothing changed, for null.
     bool setCondition(const zvCndCondition& condition);
-    /// A null handle when there is no child.
+    /// The child; null if it is not set.
     zvCndCondition getCondition() const { return m_condition; }
 
     zvCndChildren children() const override;

@@ -9,6 +9,8 @@
 
 namespace {
 
+using zvCndConditionFactoryTest = zvLoggedTest;
+
 using Factory = zvCndConditionFactory;
 
 zvCndOperand operand(const zvValue& value, int valueType = zvOperandConstant) {
@@ -44,7 +46,7 @@ zvCndCondition notOf(const zvCndCondition& child) {
     return Factory::getCondition(made);
 }
 
-TEST(zvCndHandle, CountsItsOwners) {
+TEST(zvCndHandleTest, CountsItsOwners) {
     {
         zvCndCondition first = fixed(true);
         EXPECT_EQ(1, owners(first));
@@ -67,7 +69,7 @@ TEST(zvCndHandle, CountsItsOwners) {
     EXPECT_EQ(0, FixedCondition::living);
 }
 
-TEST(zvCndConditionList, RefusesNullHandlesAndBadIndices) {
+TEST(zvCndConditionListTest, RefusesNullHandlesAndBadIndices) {
     zvCndConditionList list;
     EXPECT_FALSE(list.addCondition(zvCndCondition()));
     EXPECT_FALSE(list.addCondition(zvCndNotCondition()));
@@ -89,7 +91,7 @@ TEST(zvCndConditionList, RefusesNullHandlesAndBadIndices) {
     EXPECT_EQ(1, owners(typed));
 }
 
-TEST(zvCndConditionResultMap, KeepsTheFirstResultOfAnIdentity) {
+TEST(zvCndConditionResultMapTest, KeepsTheFirstResultOfAnIdentity) {
     zvCndConditionResultMap results;
     const zvCndCondition key = fixed(true);
     const zvCndOrCondition result = Factory::createOrCondition();
@@ -102,7 +104,7 @@ TEST(zvCndConditionResultMap, KeepsTheFirstResultOfAnIdentity) {
     EXPECT_TRUE(results.getConditionResult(zvCndCondition()).IsNull());
 }
 
-TEST(zvCndConditionFactory, WidensAndNarrowsOnTheSameCondition) {
+TEST_F(zvCndConditionFactoryTest, WidensAndNarrowsOnTheSameCondition) {
     const zvCndAndCondition made = Factory::createAndCondition();
     EXPECT_EQ(1, owners(made));
     const zvCndCondition general = Factory::getCondition(Factory::getLogicalCondition(made));
@@ -136,28 +138,28 @@ std::string refusals(Narrow narrowed) {
     return accepted + ": " + message;
 }
 
-TEST_F(zvLoggedTest, NarrowingChecksTheType) {
-#define NARROWED(Type) refusals([](const zvCndCondition& general) { Factory::get##Type(general); })
-    EXPECT_EQ("123456: Received condition is not ComparisonCondition", NARROWED(ComparisonCondition));
-    EXPECT_EQ("789: Received condition is not LogicalCondition", NARROWED(LogicalCondition));
-    EXPECT_EQ("1: Received condition is not EqualsCondition", NARROWED(EqualsCondition));
-    EXPECT_EQ("2: Received condition is not NotEqualsCondition", NARROWED(NotEqualsCondition));
-    EXPECT_EQ("3: Received condition is not LessThanCondition", NARROWED(LessThanCondition));
-    EXPECT_EQ("4: Received condition is not LessThanEqualsCondition", NARROWED(LessThanEqualsCondition));
-    EXPECT_EQ("5: Received condition is not GreaterThanCondition", NARROWED(GreaterThanCondition));
+TEST_F(zvCndConditionFactoryTest, NarrowingChecksTheType) {
+#define ZV_NARROWED(Type) refusals([](const zvCndCondition& general) { Factory::get##Type(general); })
+    EXPECT_EQ("123456: Received condition is not ComparisonCondition", ZV_NARROWED(ComparisonCondition));
+    EXPECT_EQ("789: Received condition is not LogicalCondition", ZV_NARROWED(LogicalCondition));
+    EXPECT_EQ("1: Received condition is not EqualsCondition", ZV_NARROWED(EqualsCondition));
+    EXPECT_EQ("2: Received condition is not NotEqualsCondition", ZV_NARROWED(NotEqualsCondition));
+    EXPECT_EQ("3: Received condition is not LessThanCondition", ZV_NARROWED(LessThanCondition));
+    EXPECT_EQ("4: Received condition is not LessThanEqualsCondition", ZV_NARROWED(LessThanEqualsCondition));
+    EXPECT_EQ("5: Received condition is not GreaterThanCondition", ZV_NARROWED(GreaterThanCondition));
     EXPECT_EQ("6: Received condition is not GreaterThanEqualsCondition",
-              NARROWED(GreaterThanEqualsCondition));
-    EXPECT_EQ("7: Received condition is not AndCondition", NARROWED(AndCondition));
-    EXPECT_EQ("8: Received condition is not OrCondition", NARROWED(OrCondition));
+              ZV_NARROWED(GreaterThanEqualsCondition));
+    EXPECT_EQ("7: Received condition is not AndCondition", ZV_NARROWED(AndCondition));
+    EXPECT_EQ("8: Received condition is not OrCondition", ZV_NARROWED(OrCondition));
     zvRecordingLogger::reset();
-    EXPECT_EQ("9: Received condition is not NotCondition", NARROWED(NotCondition));
-#undef NARROWED
+    EXPECT_EQ("9: Received condition is not NotCondition", ZV_NARROWED(NotCondition));
+#undef ZV_NARROWED
     ASSERT_EQ(10u, zvRecordingLogger::events().size());
     EXPECT_EQ("error", zvRecordingLogger::events()[0].level);
     EXPECT_EQ("zvConditionUtils.m/src/zvCndConditionFactory", zvRecordingLogger::events()[0].file);
 }
 
-TEST(zvCndContext, RefusesEmptyAndTakenNames) {
+TEST(zvCndContextTest, RefusesEmptyAndTakenNames) {
     zvCndContext context;
     zvAttribute attribute("", zvValue(1));
     EXPECT_FALSE(context.addAttribute(attribute));
@@ -171,7 +173,7 @@ TEST(zvCndContext, RefusesEmptyAndTakenNames) {
     EXPECT_EQ(1, attribute.getValue().getIntValue());
 }
 
-// Which of = != < <= > >= hold, each as 1 or 0; "!" for one that throws.
+// The results of = != < <= > >= as 1 or 0; "!" for one that throws.
 std::string outcomes(const zvCndOperand& lhs, const zvCndOperand& rhs) {
     zvCndContext context;
     add(context, "five", zvValue(5));
@@ -191,7 +193,7 @@ std::string outcomes(const zvCndOperand& lhs, const zvCndOperand& rhs) {
     return outcome;
 }
 
-TEST(zvICndComparisonCondition, ComparesWhatItsOperandsStandFor) {
+TEST(zvICndComparisonConditionTest, ComparesTheValuesOfItsOperands) {
     struct Case {
         zvCndOperand lhs, rhs;
         const char* expected;
@@ -210,7 +212,7 @@ TEST(zvICndComparisonCondition, ComparesWhatItsOperandsStandFor) {
         {operand(zvValue(5)), operand(zvValue(2.5F)), "010011"},
         {operand(zvValue(false)), text("0"), "10!!!!"},
         {operand(zvValue(5), zvOperandVariable), text("named by a number"), "101010"},
-        // One side is missing.
+        // One operand is missing.
         {variable("absent"), text("1"), "000000"},
         {text("1"), variable("absent"), "000000"},
         {variable("absent"), variable("absent"), "000000"},
@@ -226,7 +228,7 @@ TEST(zvICndComparisonCondition, ComparesWhatItsOperandsStandFor) {
     }
 }
 
-TEST(zvICndComparisonCondition, AssignsTheValueOfAMissingOperandToo) {
+TEST(zvICndComparisonConditionTest, AssignsTheValueOfAMissingOperandToo) {
     struct Probe : zvICndEqualsCondition {
         using zvICndEqualsCondition::getOperandValue;
     };
@@ -244,7 +246,7 @@ TEST(zvICndComparisonCondition, AssignsTheValueOfAMissingOperandToo) {
     EXPECT_EQ(zvDataTypeString, value.getDataType());
 }
 
-TEST(zvICndLogicalCondition, StopsAtTheChildThatDecides) {
+TEST(zvICndLogicalConditionTest, ShortCircuits) {
     const zvCndContext context;
     const zvCndCondition throwing = Factory::getCondition(
         Factory::createLessThanCondition(operand(zvValue(true)), operand(zvValue(true))));
@@ -267,7 +269,7 @@ TEST(zvICndLogicalCondition, StopsAtTheChildThatDecides) {
     EXPECT_EQ(3, FixedCondition::evaluations);
 }
 
-TEST(zvICndLogicalCondition, RefusesNullChildren) {
+TEST(zvICndLogicalConditionTest, RefusesNullChildren) {
     EXPECT_FALSE(andOf({})->addCondition(zvCndCondition()));
     EXPECT_TRUE(andOf({fixed(true)})->getCondition(-1).IsNull());
     EXPECT_TRUE(andOf({fixed(true)})->getCondition(1).IsNull());

@@ -8,6 +8,8 @@
 
 namespace {
 
+using zvCndParsingUtilsTest = zvLoggedTest;
+
 using Utils = zvCndParsingUtils;
 using Lines = std::vector<std::string>;
 
@@ -17,7 +19,7 @@ const std::string operatorNotFound = "Valid condition operator not found";
 const std::string badUsage = "Invalid condition string, check the usage of operators";
 const std::string badSyntax = "Invalid condition string, check the syntax of condition string";
 
-// "message @ position" of the failure.
+// The failure as "message @ position".
 std::string failure(const zvString& text) {
     try {
         Utils::createConditionStructure(text);
@@ -28,7 +30,7 @@ std::string failure(const zvString& text) {
     return "none";
 }
 
-TEST(zvCndParsingUtils, KeepsChildrenFromRightToLeftAndFlattensRuns) {
+TEST_F(zvCndParsingUtilsTest, KeepsChildrenFromRightToLeftAndFlattensRuns) {
     const std::pair<const char*, const char*> cases[] = {
         {"{a} = '1'", "{a} = '1'"},
         {" \t{a}='1'\n", "{a} = '1'"},
@@ -48,7 +50,7 @@ TEST(zvCndParsingUtils, KeepsChildrenFromRightToLeftAndFlattensRuns) {
         {"{a} = '1' AND {b} = '2' OR {c} = '3'", " ( {c} = '3' ) OR (  ( {b} = '2' ) AND ( {a} = '1' )  ) "},
         {"({a} = '1' OR {b} = '2') AND {c} = '3'",
          " ( {c} = '3' ) AND (  ( {b} = '2' ) OR ( {a} = '1' )  ) "},
-        // A nested run is taken in only when it is the rightmost operand.
+        // A nested chain is flattened only as the rightmost operand.
         {"{a} = '1' OR ({b} = '2' OR {c} = '3')", " ( {c} = '3' ) OR ( {b} = '2' ) OR ( {a} = '1' ) "},
         {"({a} = '1' OR {b} = '2') OR {c} = '3'", " ( {c} = '3' ) OR (  ( {b} = '2' ) OR ( {a} = '1' )  ) "},
         {"NOT {a} = '1' AND NOT ({b} = '2')", " ( NOT ( {b} = '2' )  ) AND ( NOT ( {a} = '1' )  ) "},
@@ -60,7 +62,7 @@ TEST(zvCndParsingUtils, KeepsChildrenFromRightToLeftAndFlattensRuns) {
     }
 }
 
-TEST(zvCndParsingUtils, SaysWhatIsWrongAndWhere) {
+TEST_F(zvCndParsingUtilsTest, ReportsTheErrorAndItsPosition) {
     struct Case {
         const char* text;
         std::string message;
@@ -116,7 +118,7 @@ TEST(zvCndParsingUtils, SaysWhatIsWrongAndWhere) {
     }
 }
 
-TEST_F(zvLoggedTest, LogsTheTextAndTheFailure) {
+TEST_F(zvCndParsingUtilsTest, LogsTheTextAndTheFailure) {
     parse("{a} = '1'");
     EXPECT_EQ(operatorNotFound + " @ 4", failure("{a} == '1'"));
     EXPECT_EQ((Lines{"info: zvCndParsingUtils::createConditionStructure - {a} = '1'",
@@ -126,7 +128,7 @@ TEST_F(zvLoggedTest, LogsTheTextAndTheFailure) {
     EXPECT_EQ("zvConditionUtils.m/src/zvCndParsingUtils", zvRecordingLogger::events().back().file);
 }
 
-TEST(zvCndParsingUtils, UnescapesByThePreviousCharacterAlone) {
+TEST_F(zvCndParsingUtilsTest, UnescapesByThePreviousCharacterAlone) {
     struct Case {
         const char* written;
         const char* constant;
@@ -151,7 +153,7 @@ TEST(zvCndParsingUtils, UnescapesByThePreviousCharacterAlone) {
     EXPECT_EQ(badSyntax + " @ 6", failure(R"({x} = 'a\\')"));
 }
 
-TEST(zvCndParsingUtils, TakesAnyCodeUnitsLiterally) {
+TEST_F(zvCndParsingUtilsTest, TakesAnyCodeUnitsLiterally) {
     const char16_t units[] = {u'{', 0xD800, 0xFFFF, u'}', u'=', u'\'', 0xDC00, 0xDBFF, 1, u'\'', 0};
     const char16_t expected[] = {u'{',  0xD800, 0xFFFF, u'}', u' ',  u'=', u' ',
                                  u'\'', 0xDC00, 0xDBFF, 1,    u'\'', 0};
@@ -161,7 +163,7 @@ TEST(zvCndParsingUtils, TakesAnyCodeUnitsLiterally) {
     EXPECT_EQ(badUsage + " @ 1", failure(u"\u3000"));
 }
 
-TEST(zvCndParsingUtils, WritesValuesOfAnyType) {
+TEST_F(zvCndParsingUtilsTest, WritesValuesOfAnyType) {
     zvCndOperand constant;
     constant.setValue(zvValue(5));
     zvCndOperand unknown;
@@ -178,7 +180,7 @@ TEST(zvCndParsingUtils, WritesValuesOfAnyType) {
               messageThrownBy([] { write(fixed(true)); }));
 }
 
-TEST(zvCndParsingUtils, MakesComparisonsOutOfTexts) {
+TEST_F(zvCndParsingUtilsTest, CreatesComparisonsFromStrings) {
     EXPECT_EQ("{a} >= '1'",
               write(Utils::createComparisonCondition(zvCndConditionGreaterThanEquals, "a", "1")));
     const char* const empty =
@@ -196,7 +198,7 @@ TEST(zvCndParsingUtils, MakesComparisonsOutOfTexts) {
     EXPECT_EQ(invalid, refusal(15, "a", "1"));
 }
 
-// The steps, as a class derived from the parser reaches them.
+// The protected operations, as used by a derived class.
 struct Steps : zvCndParsingUtils {
     static void test() {
         int position = 4;
@@ -236,6 +238,6 @@ struct Steps : zvCndParsingUtils {
     }
 };
 
-TEST(zvCndParsingUtils, OffersItsSteps) { Steps::test(); }
+TEST_F(zvCndParsingUtilsTest, ProtectedOperationsCanBeUsed) { Steps::test(); }
 
 }  // namespace

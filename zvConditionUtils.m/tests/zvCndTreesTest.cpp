@@ -1,4 +1,4 @@
-// Whole trees: random ones against an evaluator of the test's own, and ones that are deep or wide on purpose.
+// Property tests: random trees compared with a reference evaluator, and very deep and very wide trees.
 
 #include <algorithm>
 #include <array>
@@ -12,9 +12,9 @@ namespace {
 
 using Attributes = std::map<std::string, std::string>;
 
-// An expression that writes itself as a condition text and evaluates itself on plain strings.
+// The reference model: writes itself as a condition string and evaluates itself on plain strings.
 struct Expression {
-    std::string token;  // of a comparison when there are no children
+    std::string token;  // of a comparison if there are no children
     std::string name, constant;
     std::vector<Expression> children;
 
@@ -48,7 +48,7 @@ struct Expression {
         return found != attributes.end() && compare(found->second);
     }
 
-    // Of texts, <= and >= are strict, and < and > are their opposites.
+    // On strings, <= and >= are strict, and < and > are their negations.
     bool compare(const std::string& value) const {
         if (token == "=" || token == "!=") {
             return (value == constant) == (token == "=");
@@ -79,7 +79,7 @@ Expression randomExpression(std::mt19937& random, int depth) {
     return made;
 }
 
-TEST(zvCndTrees, RandomTreesEvaluateAsTheirTextsSayAndSurviveRewriting) {
+TEST(zvCndTreesTest, RandomTreesEvaluateCorrectlyAndRoundTrip) {
     std::mt19937 random(20110521);
     const std::array<const char*, 4> values = {"1", "2", "10", "a b"};
     for (int round = 0; round < 3000; ++round) {
@@ -93,7 +93,7 @@ TEST(zvCndTrees, RandomTreesEvaluateAsTheirTextsSayAndSurviveRewriting) {
         }
         std::string text = expression.text(random);
         SCOPED_TRACE(text);
-        // Reading turns the children round each time, and takes in the nested runs that come last.
+        // Each round trip reverses the children and flattens nested chains at the end.
         std::array<std::string, 10> texts;
         for (std::string& written : texts) {
             const zvCndCondition condition = parse(text);
@@ -122,9 +122,9 @@ struct HugeText {
 
 void PrintTo(const HugeText& huge, std::ostream* out) { *out << huge.name; }
 
-class zvCndHugeTexts : public testing::TestWithParam<HugeText> {};
+class zvCndHugeTextsTest : public testing::TestWithParam<HugeText> {};
 
-TEST_P(zvCndHugeTexts, AreReadEvaluatedWrittenAndFreed) {
+TEST_P(zvCndHugeTextsTest, AreParsedEvaluatedWrittenAndFreed) {
     zvCndContext context;
     add(context, "a", zvValue(1));
     const zvCndCondition condition = parse(GetParam().text());
@@ -150,10 +150,10 @@ const HugeText hugeTexts[] = {
     {"Escapes", [] { return "{a} != '" + repeated(million, "\\'") + "'"; }, true},
 };
 
-INSTANTIATE_TEST_SUITE_P(All, zvCndHugeTexts, testing::ValuesIn(hugeTexts),
+INSTANTIATE_TEST_SUITE_P(All, zvCndHugeTextsTest, testing::ValuesIn(hugeTexts),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST(zvCndTrees, AnyDepthIsRefusedToo) {
+TEST(zvCndTreesTest, AnyDepthCanBeRefused) {
     const char* const unclosed = "Error in matching parenthesis, closing parenthesis missing";
     EXPECT_EQ(unclosed, messageThrownBy([] { parse(repeated(million, "(")); }));
     EXPECT_EQ(unclosed, messageThrownBy([] { parse("(" + repeated(million, "NOT ") + "{a} = '1'"); }));
@@ -164,7 +164,7 @@ TEST(zvCndTrees, AnyDepthIsRefusedToo) {
         }));
 }
 
-TEST(zvCndTrees, WhatIsStillOwnedOutlivesTheRestOfTheTree) {
+TEST(zvCndTreesTest, ASharedSubtreeOutlivesTheTree) {
     constexpr int depth = 200000;
     std::vector<zvCndCondition> kept;
     zvCndCondition tree = fixed(true);

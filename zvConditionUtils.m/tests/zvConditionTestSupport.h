@@ -21,14 +21,14 @@ inline void add(zvCndContext& context, const char* name, const zvValue& value) {
     EXPECT_TRUE(context.addAttribute(attribute));
 }
 
-/// Owners of a condition, the handle that is given included.
+/// The reference count of a condition, including the given handle.
 template <class Handle>
 int owners(const Handle& handle) {
     handle->AddRef();
     return handle->Release();
 }
 
-/// A condition of a site's own with a fixed result, which counts its living instances and its evaluations.
+/// A custom condition with a fixed result that counts its live instances and its evaluations.
 class FixedCondition : public zvICndCondition {
 public:
     explicit FixedCondition(bool result) : m_bResult(result) { ++living; }

@@ -6,7 +6,7 @@
 #include "zvFinding.h"
 #include "zvValue.h"
 
-/// An attribute that is carried across between the two systems: its names there, its type and its default.
+/// A mapped attribute: its names in both systems, its data type and its default value.
 class ZV_EXPORT zvCfgAttribute : public zvCoreObjectCfg, public zvCfgOptionalAttributes {
 public:
     /// No names, no default value, data type None.
@@ -25,21 +25,22 @@ public:
     void setRemoteName(zvString name) { m_strRemoteName.swap(name); }
     zvDataTypeEnum getDataType() const { return m_dataType; }
     void setDataType(zvDataTypeEnum type) { m_dataType = type; }
-    /// The value to use when none is given.
+    /// The value of an attribute that is missing.
     zvString getDefaultValue() const { return m_strDefaultValue; }
     void setDefaultValue(zvString value) { m_strDefaultValue.swap(value); }
 
     bool isKeyAttribute() const { return !m_strKeyName.empty(); }
     bool isDefaultValueSpecified() const { return !m_strDefaultValue.empty(); }
 
-    /// The names themselves, owned by the attribute.
+    /// The names by reference, owned by the attribute.
     const zvString& keyName() const { return m_strKeyName; }
     const zvString& localName() const { return m_strLocalName; }
     const zvString& remoteName() const { return m_strRemoteName; }
     /// The first of the local name, the remote name and the key that is not empty.
     const zvString& anyName() const;
 
-    /// Where the element begins in the file that it was read from; unknown when nobody wanted findings of it.
+    /// Where the element begins in the file that it was read from; unknown without a sink for
+    /// findings.
     zvTextPosition getPosition() const { return m_position; }
     void setPosition(zvTextPosition position) { m_position = position; }
 

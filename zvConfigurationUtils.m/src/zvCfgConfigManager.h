@@ -17,79 +17,79 @@ class zvCfgLifecycleConfig;
 class zvCfgObjectConfig;
 class zvCfgViewConfig;
 
-/// The process-wide store of the mapping configuration. zvCfgMgrXmlParser fills it once; after that nothing
-/// changes, so that any number of threads may read.
+/// The mapping configuration, a singleton. zvCfgMgrXmlParser fills it once; after that it is read-only, and
+/// thread-safe for any number of readers.
 ///
-/// The manager owns whatever is handed to it, also what it refuses, and deletes it once, with itself; what
-/// its operations return belongs to it and lives as long. An unknown name, type or index gives null, an empty
-/// text or -1.
+/// The manager takes ownership of everything that is added, even if it is refused, and deletes it in its
+/// destructor; returned pointers are borrowed and dangle after that. An unknown name or type and an index out
+/// of range give null, an empty string or -1.
 class ZV_EXPORT zvCfgConfigManager : public zvCoreObjectCommon {
 public:
     zvCfgConfigManager(const zvCfgConfigManager&) = delete;
     zvCfgConfigManager& operator=(const zvCfgConfigManager&) = delete;
 
-    /// The manager, created empty by the first call, which must not race.
+    /// The manager, created empty by the first call, which is not thread-safe.
     static zvCfgConfigManager* getCfgConfigManager();
-    /// Deletes the manager with everything in it; the next getCfgConfigManager() creates a new one.
+    /// Deletes the manager and everything in it; the next getCfgConfigManager() creates a new one.
     static void destroyCfgConfigManager();
 
-    /// False for null. Objects may share their types: nothing is a duplicate.
+    /// Adds an object; false for null. Several objects may have the same types.
     bool addObject(zvCfgObject* object);
-    /// In the order of addition; files are among them.
+    /// The objects with a type, files included, in insertion order.
     const zvCfgObjectList* getObjectsByOOTBType(const zvString& type) const;
     const zvCfgObjectList* getObjectsByLocalType(const zvString& type) const;
     const zvCfgObjectList* getObjectsByRemoteType(const zvString& type) const;
-    /// Looks the two names up as one, written one behind the other: ("Pa", "rtX") finds ("Part", "X").
+    /// The objects with both types. The lookup key is the concatenation of the names: ("Pa", "rtX") finds
+    /// ("Part", "X").
     const zvCfgObjectList* getObjects(const zvString& localType, const zvString& remoteType) const;
     int numObjects() const;
-    /// All objects, files included, in the order of addition.
+    /// Object `i` of all objects, files included, in insertion order.
     const zvCfgObject* getObjectAt(int i) const;
 
-    /// Adds the file as an object and as a file type. False for null.
+    /// Adds a file type, which is also an object; false for null.
     bool addFile(zvCfgFile* file);
     const zvCfgFileList* getFilesByOOTBType(const zvString& type) const;
     const zvCfgFileList* getFilesByLocalType(const zvString& type) const;
     const zvCfgFileList* getFilesByRemoteType(const zvString& type) const;
     int numFiles() const;
-    /// All files in the order of addition.
+    /// File `i` of all files in insertion order.
     const zvCfgFile* getFileAt(int i) const;
-    /// The allowed extensions, once for each file that allows one.
+    /// The allowed extensions, with duplicates if several files allow the same.
     const zvStringList* getImportableFileTypes() const;
     const zvStringList* getExportableFileTypes() const;
-    /// Whether the extension is among them, ignoring case.
+    /// Whether the extension is allowed, case-insensitively.
     bool isFileAllowedForImport(const zvString& extension) const;
     bool isFileAllowedForExport(const zvString& extension) const;
 
-    /// Adds the state to the object type's lifecycle, a new one if need be. False for null, and when the
-    /// state's index, local name, key or remote name is another one's already, which is logged; it is still
-    /// found by the others.
+    /// Adds a state to the object type's lifecycle, which is created on demand. False for null and, logged,
+    /// if the state's index, local name, key or remote name is taken; the others are indexed nevertheless.
     bool addLcmState(zvCfgLcmState* state, const zvString& objectType);
-    /// Finds the state with this local name by `remoteName` as well. False for an object type without a
-    /// lifecycle, an empty or unknown name and a remote name that is taken.
+    /// Adds `remoteName` as an alias of the state `localName`. False for an object type without a lifecycle,
+    /// an empty or unknown name and a remote name that is taken.
     bool addLcmStateByRemoteName(const zvString& objectType, const zvString& localName,
                                  const zvString& remoteName);
     const zvCfgLcmState* getLcmStateByKey(const zvString& name, const zvString& objectType) const;
     const zvCfgLcmState* getLcmStateByLocalName(const zvString& name, const zvString& objectType) const;
     const zvCfgLcmState* getLcmStateByRemoteName(const zvString& name, const zvString& objectType) const;
-    /// The index of the state with this local or else remote name.
+    /// The index of the state with this local name, or else with this remote name.
     int getLcmStateIndex(const zvString& name, const zvString& objectType) const;
-    /// Replaces the content of `paths` by the ways from one state to another, see zvCfgLcmGraph. False, with
-    /// `paths` empty, when there is none.
+    /// Replaces the content of `paths` with the paths between two states; see zvCfgLcmGraph. False, with
+    /// `paths` empty, if there is none.
     bool getTransitionPaths(const zvString& fromState, const zvString& toState, const zvString& objectType,
                             const zvString& selector, zvCfgTransitionPathList& paths) const;
     int numLifecycles() const;
-    /// The object types' lifecycles in the order of addition.
+    /// Lifecycle `i` in insertion order.
     const zvCfgLcmGraph* getLifecycleAt(int i) const;
     const zvCfgLcmGraph* getLifecycle(const zvString& objectType) const;
 
-    /// Adds the view by its names and to its collection. False for null, and when a name is empty or another
-    /// view's already, which is logged; it is still found by the others.
+    /// Adds a view to its collection and indexes it by its names. False for null and, logged, if a name is
+    /// empty or taken; the other name is indexed nevertheless.
     bool addView(zvCfgView* view);
     int numViewCollections() const;
-    /// The names of the collections in the order of addition.
+    /// The name of collection `i` in insertion order.
     zvString getViewCollectionAt(int i) const;
     const zvCfgViewList* getViewsInCollection(const zvString& collection) const;
-    /// The view with the lowest index; of several such views the first.
+    /// The view with the lowest index; the first one of several.
     const zvCfgView* getDefaultViewInCollection(const zvString& collection) const;
     const zvCfgView* getViewByLocalName(const zvString& name) const;
     const zvCfgView* getViewByRemoteName(const zvString& name) const;

@@ -3,26 +3,25 @@
 
 #include "zvCfgFileExtension.h"
 
-/// A mapped file type: an object with the file extensions that may be imported and exported.
+/// A mapped file type: an object with allowed file extensions for import and export.
 class ZV_EXPORT zvCfgFile : public zvCfgObject {
 public:
     zvCfgFile();
     ~zvCfgFile() override;
 
-    /// Takes the extension, also when it refuses it. False for null, for an empty name and for a name that
-    /// another extension has already.
+    /// Takes ownership of the extension, even if it is refused. False for null, for an empty and for a
+    /// duplicate name.
     bool addFileExtension(zvCfgFileExtension* extension);
 
-    /// The extensions belong to the file and are in the order of their names, in which reaching number `i`
-    /// takes `i` steps.
+    /// The extensions, owned by the file and ordered by name. Access by index is linear.
     int numAllowedFileExtensions() const;
-    /// Null out of range.
+    /// Null if `i` is out of range.
     const zvCfgFileExtension* getFileExtension(int i) const;
-    /// Empty out of range.
+    /// Empty if `i` is out of range.
     zvString getAllowedFileExtensionAt(int i) const;
-    /// By its exact name; null for any other.
+    /// The extension with this name, exact match; null if there is none.
     const zvCfgFileExtension* getFileExtension(const zvString& name) const;
-    /// Calls `visit(extension)` for each of them, in one walk.
+    /// Calls `visit(extension)` for each extension, in linear time.
     template <typename Visit>
     void forEachFileExtension(Visit visit) const {
         for (const auto& entry : m_byName) {

@@ -8,7 +8,7 @@
 #include "zvCfgTypeIndex.h"
 #include "zvStringList.h"
 
-/// File extensions in the order of their addition, which are looked up without regard to case.
+/// A list of file extensions in insertion order, with case-insensitive lookup.
 class zvCfgExtensionList {
 public:
     void add(const zvString& name);
@@ -20,10 +20,10 @@ private:
     std::set<zvString> m_lowered;
 };
 
-/// The store of the mapped file types. The object store owns them.
+/// The index of the mapped file types, which zvCfgObjectConfig owns.
 class zvCfgFileConfig {
 public:
-    /// The file is not null and stays as it is.
+    /// Precondition: the file is not null and is not modified any more.
     void add(zvCfgFile* file);
 
     /// Null for an unknown type.
@@ -34,7 +34,7 @@ public:
     const zvCfgExtensionList& importable() const { return m_importable; }
     const zvCfgExtensionList& exportable() const { return m_exportable; }
 
-    /// In the order of addition.
+    /// In insertion order.
     const zvCfgFileList& files() const { return m_files; }
 
 private:

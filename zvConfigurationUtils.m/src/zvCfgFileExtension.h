@@ -4,11 +4,10 @@
 #include "zvCfgObject.h"
 #include "zvTransferModeEnum.h"
 
-/// A file extension that a mapped file type allows. It is an object by inheritance only and uses nothing of
-/// it.
+/// A file extension that a mapped file type allows. Nothing of the base class is used.
 class ZV_EXPORT zvCfgFileExtension : public zvCfgObject {
 public:
-    /// No name, neither import nor export, binary transfer.
+    /// No name, not allowed for import or export, binary transfer.
     zvCfgFileExtension();
     ~zvCfgFileExtension() override;
 

@@ -7,8 +7,7 @@
 
 class zvCfgFile;
 
-/// Some of the configuration's files in the order of their addition. The list does not own
-/// them: only deleteAll() deletes them.
+/// A list of the configuration's files in insertion order. The pointers are borrowed, except for deleteAll().
 class ZV_EXPORT zvCfgFileList : public zvCoreObjectCommon {
 public:
     zvCfgFileList();
@@ -18,10 +17,10 @@ public:
     zvCfgFileList& operator=(const zvCfgFileList& other);
 
     void addFile(zvCfgFile* item);
-    /// Null out of range.
+    /// Null if `i` is out of range.
     zvCfgFile* getFile(int i) const;
     int size() const;
-    /// Deletes every file in the list and leaves null in its place. Not for files that a manager owns.
+    /// Deletes the files and leaves null entries. Precondition: no manager owns them.
     void deleteAll();
 
 private:

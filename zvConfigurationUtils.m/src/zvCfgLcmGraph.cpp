@@ -12,7 +12,7 @@ constexpr zvLogSource logger("zvConfigurationUtils.m/src/zvCfgLcmGraph");
 constexpr int maxPaths = 1000;
 constexpr int maxSteps = 20000000;
 
-// The transitions of a graph that a search may use, each one an edge.
+// The edges of a search: the transitions of the selected type.
 class SelectedTransitions {
 public:
     SelectedTransitions(int states, const zvString& selector)
@@ -26,7 +26,7 @@ public:
         return m_bAny && (m_bAll || transition.getType() == m_type);
     }
 
-    // A transition that a state has twice is one way.
+    // Duplicate transitions of a state are one edge.
     void add(int from, int to, const zvCfgTransition& transition) {
         int& lastFrom =
             m_lastFrom[transition.getType() == zvCfgTransitionDemote][static_cast<std::size_t>(to)];
@@ -56,7 +56,7 @@ private:
     zvCfgTransitionTypeEnum m_type = zvCfgTransitionPromote;
     bool m_bAll;
     bool m_bAny;
-    std::vector<int> m_lastFrom[2];  // for each type and state, the last state with such a transition to it
+    std::vector<int> m_lastFrom[2];  // for each type and target state, the source of the last edge added
     std::vector<Edge> m_edges;
 };
 

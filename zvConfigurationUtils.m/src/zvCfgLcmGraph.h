@@ -6,7 +6,7 @@
 #include "zvCfgLcmState.h"
 #include "zvCfgTransitionPathList.h"
 
-/// The lifecycle of one object type: its states and the transitions between them.
+/// The lifecycle of one object type: a directed graph of states and transitions.
 class ZV_EXPORT zvCfgLcmGraph : public zvCoreObjectCfg {
 public:
     explicit zvCfgLcmGraph(const zvString& objectType);
@@ -16,38 +16,38 @@ public:
 
     zvString getObjectType() const { return m_strObjectType; }
 
-    /// Takes the state, which is not null, and finds it by its index, local name, key and, if it has one,
-    /// remote name from now on. What another state has already stays the other's.
-    /// @return false when one of them was taken or the local name is empty, which is logged.
+    /// Takes ownership of the state, which is not null, and indexes it by its index, local name, key and, if
+    /// set, remote name. An index or name that is taken stays that of the other state.
+    /// @return false if one of them was taken or the local name is empty, which is logged.
     bool addState(zvCfgLcmState* state);
-    /// Finds the state by `remoteName` as well, which becomes its remote name if it has none. False for an
+    /// Adds `remoteName` as an alias of the state, which becomes its remote name if it has none. False for an
     /// empty name, an unknown local name and a remote name that is taken.
     bool addRemoteName(const zvString& localName, const zvString& remoteName);
 
-    /// The states belong to the graph. Null for what it does not hold.
+    /// The states are owned by the graph; null for an unknown name or an index out of range.
     ///
-    /// Every state that was added, in the order of addition.
+    /// All states in insertion order.
     int numStates() const { return m_states.size(); }
     const zvCfgLcmState* getStateAt(int i) const { return m_states.at(i); }
     const zvCfgLcmState* getStateByIndex(int index) const;
     const zvCfgLcmState* getStateByKey(const zvString& key) const;
     const zvCfgLcmState* getStateByLocalName(const zvString& name) const;
     const zvCfgLcmState* getStateByRemoteName(const zvString& name) const;
-    /// The index of the state with this local or else remote name; -1 without one.
+    /// The index of the state with this local name, or else with this remote name; -1 if there is none.
     int getStateIndex(const zvString& name) const;
 
-    /// Replaces the content of `paths` by the ways, shortest first and otherwise in the order of the
-    /// transitions, on which no state comes twice. States are named by their local or remote names.
+    /// Replaces the content of `paths` with the simple paths between two states, shortest first and otherwise
+    /// in the order of the transitions. States are given by local or remote name.
     ///
-    /// `selector` is the type of the transitions to use, "Promote" or "Demote"; empty for both. A state is
-    /// reached from itself by the empty path. Ways behind the thousandth, and those that take too many steps
-    /// to find, are left out with a warning.
-    /// @return whether there is a way.
+    /// `selector` is the type of the transitions to use, "Promote" or "Demote"; empty for both. From a state
+    /// to itself there is the empty path only. At most 1,000 paths are returned, and the search stops after a
+    /// limited number of steps; both are logged as a warning.
+    /// @return whether there is a path.
     bool getTransitionPaths(const zvString& fromState, const zvString& toState, const zvString& selector,
                             zvCfgTransitionPathList& paths) const;
 
 private:
-    using Index = std::map<zvString, int>;  // the states' numbers in m_states
+    using Index = std::map<zvString, int>;  // positions in m_states
 
     template <class Key>
     const zvCfgLcmState* stateIn(const std::map<Key, int>& index, const Key& key) const;

@@ -5,7 +5,7 @@
 #include "zvCfgTransition.h"
 #include "zvFinding.h"
 
-/// A lifecycle state, with its names in both systems and the transitions that lead out of it.
+/// A lifecycle state, with its names in both systems and its outgoing transitions.
 class ZV_EXPORT zvCfgLcmState : public zvCoreObjectCfg {
 public:
     /// No names, index 0, no transitions.
@@ -14,10 +14,10 @@ public:
     zvCfgLcmState& operator=(const zvCfgLcmState&) = delete;
     ~zvCfgLcmState() override;
 
-    /// The state's place in its lifecycle.
+    /// The state's position in its lifecycle.
     int getIndex() const { return m_index; }
     void setIndex(int index) { m_index = index; }
-    /// The local name as long as no key was set.
+    /// The key; the local name if no key is set.
     zvString getKey() const { return key(); }
     void setKey(zvString key) { m_strKey.swap(key); }
     zvString getLocalName() const { return m_strLocalName; }
@@ -25,19 +25,20 @@ public:
     zvString getRemoteName() const { return m_strRemoteName; }
     void setRemoteName(zvString name) { m_strRemoteName.swap(name); }
 
-    /// The texts themselves, owned by the state.
+    /// The strings by reference, owned by the state.
     const zvString& key() const { return m_strKey.empty() ? m_strLocalName : m_strKey; }
     const zvString& localName() const { return m_strLocalName; }
     const zvString& remoteName() const { return m_strRemoteName; }
 
     /// Appends a copy.
     void addOutgoingTransition(const zvCfgTransition& transition);
-    /// The transitions belong to the state and are in the order of addition.
+    /// The transitions in insertion order, owned by the state.
     int numOutgoingTransitions() const;
-    /// Null out of range.
+    /// Null if `i` is out of range.
     const zvCfgTransition* getOutgoingTransition(int i) const;
 
-    /// Where the element begins in the file that it was read from; unknown when nobody wanted findings of it.
+    /// Where the element begins in the file that it was read from; unknown without a sink for
+    /// findings.
     zvTextPosition getPosition() const { return m_position; }
     void setPosition(zvTextPosition position) { m_position = position; }
 

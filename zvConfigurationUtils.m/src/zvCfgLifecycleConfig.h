@@ -5,16 +5,16 @@
 
 #include "zvCfgLcmGraph.h"
 
-/// The store of the lifecycles, one for each object type. It owns them.
+/// Owns the lifecycles, one per object type.
 class zvCfgLifecycleConfig {
 public:
-    /// Takes the state, which is not null, into the object type's lifecycle, a new one if need be.
+    /// Adds the state, which is not null, to the object type's lifecycle, which is created on demand.
     bool addState(zvCfgLcmState* state, const zvString& objectType);
 
     /// Null for an object type without a lifecycle.
     zvCfgLcmGraph* find(const zvString& objectType) const;
 
-    /// In the order of addition.
+    /// In insertion order.
     int size() const { return m_graphs.size(); }
     const zvCfgLcmGraph* at(int i) const { return m_graphs.at(i); }
 

@@ -9,8 +9,8 @@
 #include "zvCndCondition.h"
 #include "zvFinding.h"
 
-/// A mapped object: a type of the local system, the type of the remote system that it corresponds to, the
-/// attributes that are carried across, and the rule that says when.
+/// A mapped object: a type of the local system, the corresponding type of the remote system, the mapped
+/// attributes and the rule for when the mapping applies.
 class ZV_EXPORT zvCfgObject : public zvCoreObjectCommon {
 public:
     zvCfgObject();
@@ -18,40 +18,41 @@ public:
     zvCfgObject& operator=(const zvCfgObject&) = delete;
     ~zvCfgObject() override;
 
-    /// The standard, out-of-the-box type.
+    /// The out-of-the-box type.
     zvString getOotbTypeStr() const { return m_strOotbType; }
     void setOotbType(zvString type) { m_strOotbType.swap(type); }
     zvString getLocalCustomType() const { return m_strLocalCustomType; }
     void setLocalCustomType(zvString type) { m_strLocalCustomType.swap(type); }
     zvString getRemoteCustomType() const { return m_strRemoteCustomType; }
     void setRemoteCustomType(zvString type) { m_strRemoteCustomType.swap(type); }
-    /// When the mapping applies; a null handle when there is no rule.
+    /// The condition under which the mapping applies; null if there is none.
     zvCndCondition getMappingRule() const { return m_mappingRule; }
     void setMappingRule(const zvCndCondition& rule) { m_mappingRule = rule; }
 
-    /// Where the element begins in the file that it was read from; unknown when nobody wanted findings of it.
+    /// Where the element begins in the file that it was read from; unknown if it was read without a sink for
+    /// findings.
     zvTextPosition getPosition() const { return m_position; }
     void setPosition(zvTextPosition position) { m_position = position; }
 
-    /// Takes the attribute, also when it refuses it, and indexes it by the names that it has now. A name that
-    /// another attribute has already is logged and stays the other's; the attribute is still found by its
-    /// further names.
-    /// @return whether the last name tried (local, remote, key) was free; false as well for null and for an
-    /// attribute without any name.
+    /// Takes ownership of the attribute, even if it is refused, and indexes it by its current names. A name
+    /// that is taken is logged and stays that of the other attribute; the other names are indexed
+    /// nevertheless.
+    /// @return whether the last name tried (local, remote, key) was free; false also for null and for an
+    /// attribute without names.
     bool addAttribute(zvCfgAttribute* attribute);
 
-    /// The attributes below belong to the object. An index out of range and an unknown name give null.
+    /// The attributes are owned by the object; null for an index out of range and for an unknown name.
     ///
-    /// Every attribute that was added, in the order of addition.
+    /// All attributes in insertion order.
     int numAttributes() const { return m_attributes.size(); }
     const zvCfgAttribute* getAttribute(int i) const;
-    /// In the order of the keys; reaching number `i` takes `i` steps.
+    /// The attributes with a key, ordered by key. Access by index is linear.
     int numKeyAttributes() const;
     const zvCfgAttribute* getKeyAttribute(int i) const;
-    /// Those without a key, in the order of addition.
+    /// The attributes without a key in insertion order.
     int numNonKeyAttributes() const;
     const zvCfgAttribute* getNonKeyAttribute(int i) const;
-    /// Those with a default value, in the order of addition.
+    /// The attributes with a default value in insertion order.
     int numDefaultAttributes() const;
     const zvCfgAttribute* getDefaultAttribute(int i) const;
 

@@ -5,10 +5,10 @@
 #include "zvCfgObjectList.h"
 #include "zvCfgTypeIndex.h"
 
-/// The store of the mapped objects, files included. It owns them.
+/// Owns and indexes the mapped objects, files included.
 class zvCfgObjectConfig {
 public:
-    /// Takes the object, which is not null.
+    /// Takes ownership of the object, which is not null.
     void add(zvCfgObject* object);
 
     /// Null for an unknown type.
@@ -17,7 +17,7 @@ public:
     const zvCfgObjectList* byRemoteType(const zvString& type) const { return m_byRemoteType.find(type); }
     const zvCfgObjectList* byTypes(const zvString& localType, const zvString& remoteType) const;
 
-    /// In the order of addition.
+    /// In insertion order.
     int size() const { return m_objects.size(); }
     const zvCfgObject* at(int i) const { return m_objects.at(i); }
 
@@ -25,7 +25,7 @@ private:
     zvCfgTypeIndex<zvCfgObjectList> m_byOotbType;
     zvCfgTypeIndex<zvCfgObjectList> m_byLocalType;
     zvCfgTypeIndex<zvCfgObjectList> m_byRemoteType;
-    zvCfgTypeIndex<zvCfgObjectList> m_byTypes;  // the two names, one behind the other
+    zvCfgTypeIndex<zvCfgObjectList> m_byTypes;  // key: both names, concatenated
     zvCfgOwner<zvCfgObject> m_objects;
 };
 

@@ -7,7 +7,7 @@
 
 class zvCfgObject;
 
-/// Some of the configuration's objects in the order of their addition. The list does not own them.
+/// A list of the configuration's objects in insertion order. The pointers are borrowed.
 class ZV_EXPORT zvCfgObjectList : public zvCoreObjectCommon {
 public:
     zvCfgObjectList();
@@ -17,7 +17,7 @@ public:
     zvCfgObjectList& operator=(const zvCfgObjectList& other);
 
     void add(zvCfgObject* item);
-    /// Null out of range.
+    /// Null if `i` is out of range.
     zvCfgObject* get(int i) const;
     int size() const;
 

@@ -3,7 +3,7 @@
 
 #include "zvStringToStringMap.h"
 
-/// Free names and values: what a configuration element carries beside the attributes that the parser knows.
+/// The attributes of a configuration element that the parser does not know, as name-value pairs.
 class ZV_EXPORT zvCfgOptionalAttributes {
 public:
     zvCfgOptionalAttributes();
@@ -12,11 +12,11 @@ public:
 
     zvCfgOptionalAttributes& operator=(const zvCfgOptionalAttributes& other);
 
-    /// False, with nothing changed, when the name is there already.
+    /// False, with nothing changed, if the name exists already.
     bool addOptionalAttribute(const zvString& name, const zvString& value);
-    /// Empty for an absent name as for an empty value.
+    /// The value of `name`; empty also for a missing name.
     zvString getOptionalAttribute(const zvString& name) const;
-    /// All of them, in the order of their names.
+    /// All pairs, ordered by name.
     const zvStringToStringMap& optionalAttributes() const { return m_attributes; }
 
 private:

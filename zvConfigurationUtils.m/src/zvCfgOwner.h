@@ -4,13 +4,14 @@
 #include <algorithm>
 #include <vector>
 
-/// The entry that an index names in a list of pointers; null when it names none.
+/// Entry `i` of a list of pointers; null if `i` is out of range.
 template <class T>
 T* zvCfgEntryAt(const std::vector<T*>& list, int i) {
     return i >= 0 && i < static_cast<int>(list.size()) ? list[static_cast<std::size_t>(i)] : nullptr;
 }
 
-/// Objects in the order of their addition, deleted with their owner: once, however often one was added.
+/// Owns objects in insertion order and deletes them in its destructor, each once even if it was added several
+/// times.
 template <class T>
 class zvCfgOwner {
 public:
@@ -25,10 +26,10 @@ public:
         }
     }
 
-    /// Takes the object, which is not null.
+    /// Takes ownership of the object, which is not null.
     void add(T* object) { m_objects.push_back(object); }
     int size() const { return static_cast<int>(m_objects.size()); }
-    /// Null for any other index.
+    /// Null if `i` is out of range.
     T* at(int i) const { return zvCfgEntryAt(m_objects, i); }
 
 private:

@@ -7,7 +7,7 @@ namespace {
 
 std::size_t position(int number) { return static_cast<std::size_t>(number); }
 
-// A set of numbers that is emptied in no time.
+// A set of numbers with an O(1) clear.
 class Marks {
 public:
     explicit Marks(std::size_t size) : m_rounds(size, 0) {}
@@ -21,13 +21,14 @@ private:
     std::uint32_t m_round = 1;
 };
 
-// The first of the ways that follow `path` up to its edge number `deviation` and go on by no refused edge.
+// The first of the paths with a common prefix of `deviation` edges that continue with none of the refused
+// edges.
 struct Candidate {
     zvCfgPathSearch::Path path;
     std::size_t deviation;
     std::vector<int> refused;
 
-    // The later one is the smaller one, so that a heap has the first one on top.
+    // Reversed, so that the first path is on top of a heap.
     bool operator<(const Candidate& other) const {
         return path.size() != other.path.size() ? path.size() > other.path.size() : path > other.path;
     }
@@ -94,8 +95,8 @@ private:
         }
     }
 
-    // Adds the first way that follows `path` up to `node`, which it reaches before its edge number
-    // `deviation`, and goes on by no refused edge, if there is one.
+    // Adds the first path, if any, that has the first `deviation` edges of `path`, which lead to `node`, and
+    // continues with none of the refused edges.
     void findFirst(const Path& path, std::size_t deviation, int node, std::vector<int> refused) {
         m_refused.clear();
         std::for_each(refused.begin(), refused.end(), [this](int number) { m_refused.add(number); });
@@ -119,7 +120,7 @@ private:
         std::push_heap(m_candidates.begin(), m_candidates.end());
     }
 
-    // Marks the nodes to which a way may go on from `node`.
+    // Marks the nodes to which a path may continue from `node`.
     bool wantNeighboursOf(int node) {
         bool any = false;
         m_wanted.clear();
@@ -134,9 +135,9 @@ private:
         return any;
     }
 
-    // Measures how far the nodes off the way are from the target, the near ones first, until a wanted one is
-    // reached; all of them when there is no `node` to start from. Returns the distance of the wanted one, -1
-    // without any.
+    // Breadth-first search backwards from the target, over the nodes that are not on the path, until a wanted
+    // node is reached; over all of them if `node` is -1. Returns the distance of the wanted node, -1 if none
+    // is reached.
     int measure(int node) {
         m_measured.clear();
         m_queue.assign(1, m_target);
@@ -164,7 +165,7 @@ private:
         m_distances[position(node)] = distance;
     }
 
-    // The first edge out of `node` to a node at this distance from the target; there is one.
+    // The first edge from `node` to a node at this distance from the target. Precondition: there is one.
     int firstEdge(int node, int distance) {
         const std::vector<int>& edges = edgesFrom(node);
         const auto found = std::find_if(edges.begin(), edges.end(), [&](int number) {
@@ -179,9 +180,9 @@ private:
     int m_from;
     int m_target;
     std::int64_t m_steps;
-    Marks m_visited;   // the nodes of the way that is being followed
-    Marks m_leading;   // those from which the target can be reached at all
-    Marks m_measured;  // those with a distance
+    Marks m_visited;   // the nodes of the current path
+    Marks m_leading;   // the nodes from which the target is reachable
+    Marks m_measured;  // the nodes with a distance
     Marks m_wanted;
     Marks m_refused;
     std::vector<int> m_distances;

@@ -5,22 +5,22 @@
 #include <cstdint>
 #include <vector>
 
-/// Finds the ways through a directed graph that visit no node twice, one after the other: the shortest first,
-/// and of two that are equally long the one whose edges were added first.
+/// Finds the simple paths between two nodes of a directed graph, shortest first; of two equally long ones the
+/// one whose edges were added first comes first.
 ///
-/// The time to the next way is polynomial in the size of the graph (Yen's algorithm with Lawler's partition):
-/// a way that was found splits the remaining ones into sets, one for each node at which they leave it, and a
-/// breadth-first search finds the first of each set. Large graphs still take long, so that the steps are
-/// limited as well.
+/// Yen's algorithm with Lawler's partition: each path found splits the remaining ones into sets, one for each
+/// node at which they deviate from it, and a breadth-first search finds the first path of each set. The time
+/// per path is polynomial in the size of the graph; since that is still long for large graphs, the number of
+/// steps is limited as well.
 class zvCfgPathSearch {
 public:
-    using Path = std::vector<int>;  // the numbers of its edges
+    using Path = std::vector<int>;  // edge numbers
 
     enum class Outcome { complete, tooManyPaths, tooManySteps };
 
     struct Result {
         std::vector<Path> paths;
-        Outcome outcome;  // of the paths that there are, those found are the first in any case
+        Outcome outcome;  // in any case the paths found are the first ones
     };
 
     /// Nodes are numbered from 0.
@@ -29,8 +29,8 @@ public:
     /// Edges are numbered from 0 in the order of their addition.
     void addEdge(int from, int to);
 
-    /// The ways from one node to another, `maxPaths` at most. A node is reached from itself by the empty way
-    /// alone. A step looks at one edge or copies one.
+    /// The paths from one node to another, at most `maxPaths`. From a node to itself there is the empty path
+    /// only. A step is the visit or the copy of one edge.
     Result find(int from, int to, std::size_t maxPaths, std::int64_t maxSteps) const;
 
 private:
@@ -42,8 +42,8 @@ private:
     };
 
     std::vector<Edge> m_edges;
-    std::vector<std::vector<int>> m_out;  // the edges out of each node, in order, and into it
-    std::vector<std::vector<int>> m_in;
+    std::vector<std::vector<int>> m_out;  // per node: the outgoing edges, in order
+    std::vector<std::vector<int>> m_in;   // per node: the incoming edges
 };
 
 #endif

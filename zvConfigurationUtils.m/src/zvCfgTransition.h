@@ -4,10 +4,10 @@
 #include "zvCoreObject.h"
 #include "zvString.h"
 
-/// The direction of a transition. The configuration file names these "Promote" and "Demote".
+/// The type of a transition; "Promote" and "Demote" in the configuration file.
 enum zvCfgTransitionTypeEnum { zvCfgTransitionPromote = 0, zvCfgTransitionDemote = 1 };
 
-/// A way out of a lifecycle state.
+/// A transition out of a lifecycle state.
 class ZV_EXPORT zvCfgTransition : public zvCoreObjectCfg {
 public:
     zvCfgTransition(zvCfgTransitionTypeEnum type, const zvString& toState);
@@ -17,14 +17,14 @@ public:
     zvCfgTransition& operator=(const zvCfgTransition& other);
 
     zvCfgTransitionTypeEnum getType() const { return m_type; }
-    /// The local name of the state that it leads to.
+    /// The local name of the target state.
     zvString getToState() const { return m_strToState; }
-    /// The name itself, owned by the transition.
+    /// The name by reference, owned by the transition.
     const zvString& toState() const { return m_strToState; }
 
     /// "Promote" or "Demote".
     static zvString typeName(zvCfgTransitionTypeEnum type);
-    /// Sets `type` to what `name` names; false, with nothing changed, for any other text.
+    /// Sets `type` to the type of that name; false, with `type` unchanged, for any other string.
     static bool typeOf(const zvString& name, zvCfgTransitionTypeEnum& type);
 
 private:

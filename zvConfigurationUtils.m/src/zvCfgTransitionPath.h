@@ -8,7 +8,7 @@
 class zvCfgLcmState;
 class zvCfgTransition;
 
-/// A way through a lifecycle, from state to state. What it holds belongs to the configuration manager.
+/// A path through a lifecycle. Its states and transitions are owned by the configuration manager.
 class ZV_EXPORT zvCfgTransitionPath : public zvCoreObjectCfg {
 public:
     /// The empty path, which leads from `start` to itself.
@@ -19,14 +19,14 @@ public:
 
     zvCfgTransitionPath& operator=(const zvCfgTransitionPath& other);
 
-    /// Goes on by `transition` to `state`.
+    /// Appends `transition` and its target `state`.
     void add(const zvCfgTransition* transition, const zvCfgLcmState* state);
 
-    /// The number of transitions; there is one state more.
+    /// The number of transitions; there is one more state.
     int size() const;
-    /// State 0 is where the path begins, state size() where it ends; null out of range.
+    /// State `i`, from the start, 0, to the end, size(); null if `i` is out of range.
     const zvCfgLcmState* getStateAt(int i) const;
-    /// The transition from state `i` to state `i` + 1; null out of range.
+    /// The transition from state `i` to state `i` + 1; null if `i` is out of range.
     const zvCfgTransition* getTransitionAt(int i) const;
 
 private:

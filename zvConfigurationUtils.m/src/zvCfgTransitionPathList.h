@@ -3,7 +3,7 @@
 
 #include "zvCfgTransitionPath.h"
 
-/// The ways from one lifecycle state to another.
+/// The paths from one lifecycle state to another.
 class ZV_EXPORT zvCfgTransitionPathList : public zvCoreObjectCfg {
 public:
     zvCfgTransitionPathList();
@@ -16,7 +16,7 @@ public:
     void clear();
 
     int size() const;
-    /// Owned by the list and valid until it changes; null out of range.
+    /// Path `i`, owned by the list and valid until it changes; null if `i` is out of range.
     const zvCfgTransitionPath* get(int i) const;
 
 private:

@@ -6,11 +6,11 @@
 #include "zvMapIndex.h"
 #include "zvString.h"
 
-/// A list for each type name.
+/// An index from type names to lists.
 template <class List>
 class zvCfgTypeIndex {
 public:
-    /// The list under `type`, empty at first.
+    /// The list of `type`, created empty on first use.
     List& at(const zvString& type) { return m_lists[type]; }
     /// Null for a type without a list.
     const List* find(const zvString& type) const { return zvMapFind(m_lists, type); }

@@ -4,7 +4,7 @@
 #include "zvCoreObject.h"
 #include "zvString.h"
 
-/// A view, with its names in both systems, and the collection of views that it stands in.
+/// A view, with its names in both systems, and its collection.
 class ZV_EXPORT zvCfgView : public zvCoreObjectCfg {
 public:
     /// No names, index 0.
@@ -17,7 +17,7 @@ public:
     /// The name of the view's collection.
     zvString getNetworkName() const { return m_strNetworkName; }
     void setNetworkName(zvString name) { m_strNetworkName.swap(name); }
-    /// The view with the lowest index is the default one of its collection.
+    /// The view with the lowest index is the default of its collection.
     int getIndex() const { return m_index; }
     void setIndex(int index) { m_index = index; }
     zvString getLocalName() const { return m_strLocalName; }

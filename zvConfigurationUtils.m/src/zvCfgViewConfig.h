@@ -8,14 +8,14 @@
 #include "zvCfgView.h"
 #include "zvCfgViewList.h"
 
-/// The store of the views and their collections. It owns the views.
+/// Owns the views and indexes them by name and collection.
 class zvCfgViewConfig {
 public:
-    /// Takes the view, which is not null. A name that is empty, or that another view has already, is logged.
-    /// @return whether the view is found by both names and in its collection.
+    /// Takes ownership of the view, which is not null. A name that is empty or taken is logged.
+    /// @return whether the view was indexed by both names and in its collection.
     bool add(zvCfgView* view);
 
-    /// In the order of their first view; an empty name out of range.
+    /// The collections in the order of their first view; an empty name if `i` is out of range.
     int numCollections() const { return static_cast<int>(m_collectionNames.size()); }
     zvString collectionAt(int i) const;
     /// Null for an unknown name.

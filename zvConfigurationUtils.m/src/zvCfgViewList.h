@@ -7,7 +7,7 @@
 
 class zvCfgView;
 
-/// Some of the configuration's views in the order of their addition. The list does not own them.
+/// A list of the configuration's views in insertion order. The pointers are borrowed.
 class ZV_EXPORT zvCfgViewList : public zvCoreObjectCommon {
 public:
     zvCfgViewList();
@@ -17,7 +17,7 @@ public:
     zvCfgViewList& operator=(const zvCfgViewList& other);
 
     void add(zvCfgView* item);
-    /// Null out of range.
+    /// Null if `i` is out of range.
     zvCfgView* get(int i) const;
     int size() const;
 

@@ -87,7 +87,7 @@ TEST_F(zvCfgConfigManagerTest, ExtensionsAreListedForEveryFileThatAllowsThem) {
     EXPECT_EQ(manager().getObjectAt(-1), nullptr);
 }
 
-TEST_F(zvCfgConfigManagerTest, AFileListDeletesOnlyWhenItIsTold) {
+TEST_F(zvCfgConfigManagerTest, AFileListDeletesOnlyOnRequest) {
     int deleted = 0;
     auto* const file = new Counted<zvCfgFile>(deleted);
     zvCfgFileList list;

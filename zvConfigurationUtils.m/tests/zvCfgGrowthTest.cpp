@@ -1,5 +1,4 @@
-// The program of this test counts the allocations, as a measure of the work that does not depend on the
-// machine.
+// Counts allocations, as a deterministic measure of the work.
 #include <cstdlib>
 #include <new>
 #include <sstream>

@@ -22,7 +22,7 @@ std::string promoteTo(const std::string& name) {
     return "<OutgoingTransition Type='Promote' ToState='" + name + "'/>";
 }
 
-TEST_F(zvCfgLifecycleTest, WhatIsWrongIsLoggedAndLeftOut) {
+TEST_F(zvCfgLifecycleTest, ErrorsAreLoggedAndSkipped) {
     struct Case {
         std::string content;
         Lines errors;
@@ -71,7 +71,7 @@ TEST_F(zvCfgLifecycleTest, WhatIsWrongIsLoggedAndLeftOut) {
     }
 }
 
-TEST_F(zvCfgLifecycleTest, AStateIsFoundByWhatNoOtherHas) {
+TEST_F(zvCfgLifecycleTest, AStateIsFoundByUniqueNames) {
     EXPECT_TRUE(manager().addLcmState(state(7, "A", "k", "Ay"), "T"));
     EXPECT_TRUE(manager().addLcmState(state(8, "B"), "T"));
     zvRecordingLogger::reset();
@@ -98,7 +98,7 @@ TEST_F(zvCfgLifecycleTest, AStateIsFoundByWhatNoOtherHas) {
     EXPECT_FALSE(manager().addLcmStateByRemoteName("T", "unknown", "x"));
 }
 
-TEST_F(zvCfgLifecycleTest, LifecyclesCanBeWalkedThrough) {
+TEST_F(zvCfgLifecycleTest, LifecyclesCanBeIterated) {
     ASSERT_TRUE(parse("<LifecycleConfig><Lifecycle ObjectType='Z'><LifecycleGraph>" +
                       stateElement("Y", promoteTo("X") + "<OutgoingTransition Type='Demote' ToState='X'/>") +
                       "<LcmState Index='-5' Name='X'/></LifecycleGraph></Lifecycle>"
@@ -121,7 +121,7 @@ TEST_F(zvCfgLifecycleTest, LifecyclesCanBeWalkedThrough) {
     EXPECT_EQ(state.getOutgoingTransition(2), nullptr);
 }
 
-TEST_F(zvCfgLifecycleTest, APathTellsItsTransitions) {
+TEST_F(zvCfgLifecycleTest, APathHasItsTransitions) {
     ASSERT_TRUE(
         parseLifecycle("<LifecycleGraph>" +
                        stateElement("A", promoteTo("B") + "<OutgoingTransition Type='Demote' ToState='B'/>" +
@@ -146,7 +146,7 @@ TEST_F(zvCfgLifecycleTest, APathTellsItsTransitions) {
     EXPECT_EQ(paths.size(), 0);
 }
 
-TEST_F(zvCfgLifecycleTest, WhatASearchLeavesOutIsSaid) {
+TEST_F(zvCfgLifecycleTest, OmittedPathsAreLogged) {
     constexpr int rungs = 20000;
     std::string ladder;
     for (int i = 0; i < rungs; ++i) {

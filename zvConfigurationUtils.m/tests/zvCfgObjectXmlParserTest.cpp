@@ -10,7 +10,7 @@ namespace {
 
 using zvCfgObjectXmlParserTest = zvConfigurationTest;
 
-// What was logged about the configuration alone, debug texts and the conditions' own texts aside.
+// The messages about the configuration, without debug messages and those of conditions.
 Lines complaints() {
     Lines all;
     for (const std::string& line : zvRecordingLogger::lines()) {
@@ -21,7 +21,7 @@ Lines complaints() {
     return all;
 }
 
-TEST_F(zvCfgObjectXmlParserTest, WhatIsWrongIsLoggedAndLeftOut) {
+TEST_F(zvCfgObjectXmlParserTest, ErrorsAreLoggedAndSkipped) {
     struct Case {
         std::string content;
         Lines complaints;
@@ -128,7 +128,7 @@ TEST_F(zvCfgObjectXmlParserTest, ValuesAreTakenAsTheyAre) {
     EXPECT_EQ(extension.getTransferMode(), zvTransferModeAscii);
 }
 
-TEST_F(zvCfgObjectXmlParserTest, ARuleThatIsNoneLeavesEverythingBeforeIt) {
+TEST_F(zvCfgObjectXmlParserTest, AnInvalidRuleKeepsEverythingBeforeIt) {
     const std::string sections =
         "<ObjectConfig><FileObject LocalCustType='kept'><AllowedExtns><Extn Name='e' "
         "Export='True'/></AllowedExtns>"

@@ -12,7 +12,7 @@ using Path = zvCfgPathSearch::Path;
 
 constexpr std::int64_t manySteps = 20000000;
 
-// A graph that is searched in the obvious way as well: all ways first, and then into their order.
+// A graph with a brute-force reference search: finds all paths, then sorts them.
 class Graph {
 public:
     explicit Graph(int nodes) : m_search(nodes), m_out(static_cast<std::size_t>(nodes)) {}
@@ -71,7 +71,7 @@ private:
     int m_edges = 0;
 };
 
-TEST(zvCfgPathSearch, FindsEveryWayInOrder) {
+TEST(zvCfgPathSearchTest, FindsEveryPathInOrder) {
     std::mt19937 random(1);
     std::size_t found = 0;
     for (int round = 0; round < 400; ++round) {
@@ -79,7 +79,7 @@ TEST(zvCfgPathSearch, FindsEveryWayInOrder) {
         std::uniform_int_distribution<int> node(0, nodes - 1);
         Graph graph(nodes);
         for (int edge = 0; edge < nodes * 3; ++edge) {
-            graph.add(node(random), node(random));  // loops and repeated edges among them
+            graph.add(node(random), node(random));  // including loops and parallel edges
         }
         const std::vector<Path> all = graph.all(0, nodes - 1);
         const zvCfgPathSearch::Result complete = graph.find(0, nodes - 1, all.size());
@@ -96,7 +96,7 @@ TEST(zvCfgPathSearch, FindsEveryWayInOrder) {
     EXPECT_GT(found, 1000U);
 }
 
-TEST(zvCfgPathSearch, ReachesANodeFromItselfByTheEmptyWayAlone) {
+TEST(zvCfgPathSearchTest, FindsOnlyTheEmptyPathFromANodeToItself) {
     Graph graph(2);
     graph.addAmongAll(0, 1);
     const zvCfgPathSearch::Result result = graph.find(0, 0);
@@ -104,9 +104,8 @@ TEST(zvCfgPathSearch, ReachesANodeFromItselfByTheEmptyWayAlone) {
     EXPECT_EQ(result.outcome, Outcome::complete);
 }
 
-// Every case would keep a search that simply tries all ways busy for ever; the steps say how long this one
-// takes.
-TEST(zvCfgPathSearch, IsNotKeptBusyByHostileGraphs) {
+// A brute-force search would not terminate in any of these cases; the number of steps is limited here.
+TEST(zvCfgPathSearchTest, TerminatesOnHostileGraphs) {
     constexpr int clique = 60;
     constexpr int last = 20000;
     const auto dense = [](Graph& graph) { graph.addAmongAll(0, clique - 1); };
@@ -166,7 +165,7 @@ TEST(zvCfgPathSearch, IsNotKeptBusyByHostileGraphs) {
     EXPECT_EQ(result.paths[0].size(), static_cast<std::size_t>(last - 1));
 }
 
-TEST(zvCfgPathSearch, FollowsAVeryLongChain) {
+TEST(zvCfgPathSearchTest, FollowsAVeryLongChain) {
     constexpr int nodes = 100000;
     Graph chain(nodes);
     for (int node = 0; node + 1 < nodes; ++node) {

@@ -46,7 +46,7 @@ TEST_F(zvCfgViewTest, ViewsAreRefusedByNameAndStayFoundByTheRest) {
     EXPECT_EQ(deleted, 5);
 }
 
-TEST_F(zvCfgViewTest, TheSectionIsReadAsFarAsItIsGood) {
+TEST_F(zvCfgViewTest, TheSectionIsReadUpToTheFirstError) {
     const zvResult result = parse(
         "<ViewConfig><ViewCollection Name='E'><View LocalName='a' RemoteName='A'/><Other/>"
         "<View LocalName='b' RemoteName='A'/><View Index='1' LocalName='c' RemoteName='C'/></ViewCollection>"

@@ -19,7 +19,7 @@ zvCfgAttribute* attribute(const char* key, const char* local, const char* remote
     return made;
 }
 
-TEST_F(zvConfigurationTest, TheSampleIsReadWithoutAComplaint) {
+TEST_F(zvConfigurationTest, TheSampleHasNoErrors) {
     zvCfgMgrXmlParser parser;
     EXPECT_TRUE(parser.parse(ZV_SAMPLE_CONFIGURATION, true).isOk());
     EXPECT_EQ(zvRecordingLogger::lines("warn"), Lines{});
@@ -145,7 +145,7 @@ TEST_F(zvConfigurationTest, EveryFailureHasItsCode) {
     }
 }
 
-TEST_F(zvConfigurationTest, ARuleThatIsNoneEndsTheParse) {
+TEST_F(zvConfigurationTest, AnInvalidRuleEndsTheParse) {
     const zvResult result = parseObjects(
         "<Object LocalCustType='kept'/><Object LocalCustType='lost'>"
         "<Attribute LocalName='a'/><MappingRule>{a} = </MappingRule></Object>"
@@ -156,7 +156,7 @@ TEST_F(zvConfigurationTest, ARuleThatIsNoneEndsTheParse) {
     EXPECT_EQ(manager().getObjectsByLocalType("never"), nullptr);
 }
 
-TEST_F(zvConfigurationTest, LifecyclesHaveWays) {
+TEST_F(zvConfigurationTest, LifecyclesHavePaths) {
     ASSERT_TRUE(
         parse("<LifecycleConfig><Lifecycle ObjectType='T'><LifecycleGraph>"
               "<LcmState Index='0' Name='A' Key='a'><OutgoingTransition Type='Promote' ToState='B'/>"
@@ -184,8 +184,8 @@ TEST_F(zvConfigurationTest, LifecyclesHaveWays) {
     EXPECT_FALSE(manager().addLcmStateByRemoteName("T", "A", ""));
 }
 
-// A graph in which every state leads to every other has more ways than anybody could list.
-TEST_F(zvConfigurationTest, TheWaysOfADenseLifecycleAreCutOff) {
+// A complete graph has too many paths to enumerate.
+TEST_F(zvConfigurationTest, ThePathsOfADenseLifecycleAreLimited) {
     constexpr int states = 40;
     std::string graph;
     for (int from = 0; from < states; ++from) {
@@ -205,7 +205,7 @@ TEST_F(zvConfigurationTest, TheWaysOfADenseLifecycleAreCutOff) {
     EXPECT_EQ(ways("S0", "apart", "T", ""), Lines{});
 }
 
-TEST_F(zvConfigurationTest, ViewsStandInCollections) {
+TEST_F(zvConfigurationTest, ViewsAreInCollections) {
     EXPECT_TRUE(parse("<ViewConfig><ViewCollection Name='E'>"
                       "<View Index='2' LocalName='late' RemoteName='Late'/>"
                       "<View Index='1' LocalName='early' RemoteName='Early'/></ViewCollection>"

@@ -14,7 +14,7 @@
 
 using Lines = std::vector<std::string>;
 
-/// A test with a configuration manager of its own.
+/// A fixture with a new configuration manager.
 class zvConfigurationTest : public zvLoggedTest {
 protected:
     ~zvConfigurationTest() override { zvCfgConfigManager::destroyCfgConfigManager(); }
@@ -36,7 +36,7 @@ protected:
         return parse("<ObjectConfig>" + objects + "</ObjectConfig>");
     }
 
-    // Every way from one state to another, as in "A>B>C".
+    // All paths from one state to another, for example "A>B>C".
     static Lines ways(const char* from, const char* to, const char* type, const char* selector) {
         zvCfgTransitionPathList paths;
         const bool any = manager().getTransitionPaths(from, to, type, selector, paths);
@@ -53,7 +53,7 @@ protected:
     }
 };
 
-/// Counts how many of its kind were deleted.
+/// Counts its destructor calls.
 template <class Base>
 class Counted : public Base {
 public:

@@ -1,5 +1,5 @@
-// Eight threads, each with texts, trees and parsers of its own, once the singletons are there.
-// ThreadSanitizer looks for what they share; without it the results alone are checked.
+// Eight threads, each with its own strings, trees and parsers, after the singletons were created.
+// ThreadSanitizer detects data races; without it only the results are checked.
 #include <array>
 #include <thread>
 
@@ -18,7 +18,8 @@ namespace {
 constexpr int threads = 8;
 constexpr int rounds = 50;
 
-// Each answers whether the results were right: expectations of GoogleTest's own would be locked.
+// Each returns whether the results are correct: GoogleTest's expectations take a lock, which would hide
+// races.
 bool textsHold(const std::string& own) {
     zvString text(("a \xC3\xA4 " + own).c_str());
     zvString changed(text);
@@ -87,7 +88,9 @@ bool lookupsHold(const zvCfgConfigManager& manager) {
            manager.getDefaultViewInCollection("Engineering")->getLocalName() == "Design";
 }
 
-TEST_F(zvConfigurationTest, ThreadsWithObjectsOfTheirOwnDoNotMeet) {
+using zvThreadTest = zvConfigurationTest;
+
+TEST_F(zvThreadTest, ThreadsWithTheirOwnObjectsDoNotRace) {
     ASSERT_TRUE(zvCfgMgrXmlParser().parse(ZV_SAMPLE_CONFIGURATION, true).isOk());
     const zvCfgConfigManager& shared = manager();
     std::array<int, threads> good{};

@@ -168,7 +168,7 @@ if options.tls:
 handler = SecureHandler if options.tls else PlainHandler
 handler.authorizer = DummyAuthorizer()
 handler.authorizer.add_user("gate", "Secret-7", options.root, perm="elr" if options.read_only else "elradfmwMT")
-# It must not outlive the test, which holds the other end.
+# Exits with the test, which holds the other end of the pipe.
 threading.Thread(target=lambda: (sys.stdin.read(), os._exit(0)), daemon=True).start()
 server = FTPServer(("127.0.0.1", options.port), handler)
 print(server.address[1], flush=True)

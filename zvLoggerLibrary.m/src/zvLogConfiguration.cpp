@@ -21,8 +21,7 @@ using log4cxx::spi::LocationInfo;
 
 namespace {
 
-// ASCII, which nearly every line is, reads the same in every encoding, and log4cxx's decoder takes it one
-// character at a time.
+// Fast path: nearly every line is ASCII, which is the same in every encoding, and log4cxx's decoder is slow.
 LogString decode(std::string_view text) {
     if (zvTextCodec::isAscii(text.data(), text.size())) {
         return {text.begin(), text.end()};
@@ -32,7 +31,7 @@ LogString decode(std::string_view text) {
     return decoded;
 }
 
-// What is behind the last separator. log4cxx's own function reckons with -1 where there is none.
+// The part after the last separator. log4cxx's own function does not handle a missing separator.
 const char* shortName(const char* file) {
     const std::size_t separator = std::string_view(file).find_last_of("/\\");
     return separator == std::string_view::npos ? file : file + separator + 1;
@@ -55,7 +54,8 @@ zvLogConfiguration::zvLogConfiguration(std::filesystem::path path)
         LogLog::error(LOG4CXX_STR("No appender that can write in file [") + file.getPath() +
                       LOG4CXX_STR("]."));
     }
-    // A logger without appenders may be what the site wants: log4cxx's only warning of it is used up unseen.
+    // A logger without appenders may be intended: log4cxx's warning, which it writes only once, is
+    // suppressed.
     LogLog::setQuietMode(true);
     m_pRepository->emitNoAppenderWarning(m_pRepository->getRootLogger().get());
     LogLog::setQuietMode(false);
@@ -102,7 +102,7 @@ const char* zvLogConfiguration::keep(std::string_view source) {
     return kept->c_str();
 }
 
-// Most lines come from the logger of the line before.
+// Caches the last logger: most lines come from the same one as the line before.
 const LoggerPtr& zvLogConfiguration::find(const char* loggerName) {
     if (m_pLastLogger == nullptr || m_lastName != loggerName) {
         m_pLastLogger = m_pRepository->getLogger(decode(loggerName));

@@ -18,19 +18,19 @@
 /// The loggers and appenders of one log4cxx configuration file.
 class zvLogConfiguration {
 public:
-    /// Reads `path` and opens its log files. What is wrong with it goes to standard error.
+    /// Parses the file `path` and opens its log files. Errors are written to standard error.
     explicit zvLogConfiguration(std::filesystem::path path);
     zvLogConfiguration(const zvLogConfiguration&) = delete;
     zvLogConfiguration& operator=(const zvLogConfiguration&) = delete;
-    /// Closes the appenders; what an asynchronous one still holds is written first.
+    /// Closes the appenders; asynchronous ones are flushed first.
     ~zvLogConfiguration();
 
     const std::filesystem::path& path() const { return m_path; }
-    /// False when the file could not be used, or names no appender that can write.
+    /// False if the file is invalid or has no appender that can write.
     bool canWrite() const { return m_bCanWrite; }
 
-    /// Writes one event, unless the logger's level forbids it. Only `file` may be null. Throws what log4cxx
-    /// throws when an appender fails.
+    /// Writes one event if the logger's level allows it. Only `file` may be null. Throws log4cxx's exception
+    /// if an appender fails.
     void write(const log4cxx::LevelPtr& level, const char* loggerName, const char* message, const char* file,
                int line);
 
@@ -40,9 +40,9 @@ private:
     const char* keep(std::string_view source);
 
     std::filesystem::path m_path;
-    // An asynchronous appender reads a source file's name when the caller's text may be gone.
+    // Source file names are kept: an asynchronous appender reads them when the caller's pointer may dangle.
     std::set<std::string, std::less<>> m_sources;
-    // Not log4cxx's global one: that is the program's, and configures itself from whatever it finds.
+    // Not log4cxx's global repository, which belongs to the program and configures itself by default.
     log4cxx::HierarchyPtr m_pRepository;
     std::vector<zvLogFile> m_files;
     zvLogFolderLock m_lock;

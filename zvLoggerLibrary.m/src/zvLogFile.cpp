@@ -11,11 +11,11 @@ using log4cxx::rolling::RollingFileAppender;
 
 zvLogFile::zvLogFile(log4cxx::FileAppenderPtr appender)
     : m_pAppender(std::move(appender)), m_pRolling(log4cxx::cast<RollingFileAppender>(m_pAppender)) {
-    // Without a writer when another process made the folder at the same moment: the second try finds it.
+    // There is no writer if another process won the race to create the folder: the retry finds it.
     if (!m_pAppender->getAppend() || m_pAppender->getBufferedIO() || m_pAppender->getWriter() == nullptr) {
         m_pAppender->setAppend(true);
         m_pAppender->setBufferedIO(false);
-        // The base class's: it opens the file and leaves the rollover policy alone.
+        // The base class's version opens the file without initialising the rollover policy again.
         Pool pool;
         m_pAppender->FileAppender::activateOptions(pool);
     }
@@ -35,8 +35,7 @@ void zvLogFile::catchUp() {
     m_length = m_pRolling == nullptr ? 0 : m_pRolling->getFileLength();
 }
 
-// A file that was rolled over is shorter; one that is not found out so is opened once more before the next
-// line.
+// A file that was rolled over is shorter. A rollover that this misses only makes catchUp() reopen the file.
 void zvLogFile::remember() {
     if (m_pRolling != nullptr && m_pRolling->getFileLength() < m_length) {
         look(m_own);

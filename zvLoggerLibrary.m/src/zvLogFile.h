@@ -8,21 +8,21 @@
 #include <memory>
 #include <string>
 
-/// A log file that other processes write to, and roll over, at the same time.
+/// A log file to which other processes append, and which they roll over, at the same time.
 ///
-/// catchUp() and remember() stand around every line, while zvLogFolderLock keeps the other processes away.
+/// Every line is written between catchUp() and remember(), under a zvLogFolderLock.
 class zvLogFile {
 public:
-    /// From now on the file is never emptied and no line waits in memory, whatever was configured.
+    /// Overrides the configuration: the file is always appended to, never truncated, and not buffered.
     explicit zvLogFile(log4cxx::FileAppenderPtr appender);
 
     bool belongsTo(const log4cxx::FileAppenderPtr& appender) const { return m_pAppender == appender; }
     log4cxx::LogString path() const { return m_pAppender->getFile(); }
 
-    /// Lets the appender know what the others did: it goes on with the file that bears the name now, and
-    /// counts what they wrote, so that the file is rolled over when it is due.
+    /// Synchronises the appender with the other processes: reopens the file if it was replaced, and updates
+    /// the length, on which the rollover depends.
     void catchUp();
-    /// Takes the file that the appender has open now for its own, rolled over or not.
+    /// Records the identity of the appender's file, which may have been rolled over.
     void remember();
 
 private:
@@ -33,7 +33,7 @@ private:
         m_pRolling;  // null for a file that is never rolled over
     std::string m_path;
     apr_finfo_t m_own{};
-    std::size_t m_length = 0;  // when a line was about to be written
+    std::size_t m_length = 0;  // before the current line
 };
 
 #endif

@@ -5,17 +5,16 @@
 #include <log4cxx/helpers/pool.h>
 #include <log4cxx/logstring.h>
 
-/// Keeps other processes from a folder of log files while a line is written.
+/// An advisory lock on a folder of log files, held while a line is written.
 ///
-/// log4cxx writes a long line in pieces, and rolls a file over by renaming it and its predecessors: no other
-/// process may come in between. The lock is the system's own, on the file "log4cxx.lock" in the folder, and
-/// ends with the process at the latest.
+/// log4cxx neither writes long lines nor rolls files over atomically. The lock is a system lock on the file
+/// "log4cxx.lock" in the folder, and is released when the process exits at the latest.
 class zvLogFolderLock {
 public:
-    /// Names the folder: that of `logFile`. Where the lock file cannot be opened nothing is ever locked.
+    /// Opens the lock file in the folder of `logFile`. If that fails, lock() and unlock() do nothing.
     void open(const log4cxx::LogString& logFile);
 
-    /// The two ends of the lock, for std::lock_guard.
+    /// Lockable by std::lock_guard.
     void lock();
     void unlock();
 

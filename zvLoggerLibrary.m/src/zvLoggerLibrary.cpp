@@ -25,15 +25,14 @@ using log4cxx::helpers::LogLog;
 namespace {
 
 std::mutex mutex;
-// Owned; null while there is nothing to write to. Plain values, which hold when the process ends.
+// Owned; null if there is nothing to write to. Trivially destructible, and so valid during process exit.
 zvLogConfiguration* configuration = nullptr;
 bool isExiting = false;
 
-/// Lives from the loading of this library to the end of the process, and with it what a line needs of
-/// log4cxx.
+/// Keeps the parts of log4cxx that a line needs alive from the loading of this library to process exit.
 ///
-/// log4cxx destroys its static objects at exit, in the reverse order of their making. Those that are made
-/// here outlive the static objects of the program, which may log until they are destroyed themselves.
+/// log4cxx's static objects are destroyed at exit in the reverse order of their construction. Those
+/// constructed here outlive the static objects of the program, whose destructors may log.
 class Lifetime {
 public:
     Lifetime() {
@@ -58,7 +57,7 @@ public:
         configuration = nullptr;
     }
 
-    /// Tells of the first line that could not be written; more of the same help nobody.
+    /// Reports the first line that could not be written, and only that.
     void report(const std::exception& failure) {
         m_errorHandler.error(LOG4CXX_STR("A message could not be logged"), failure, 0);
     }
@@ -67,8 +66,8 @@ private:
     log4cxx::helpers::OnlyOnceErrorHandler m_errorHandler;
 } lifetime;
 
-/// Made after the first configuration, and so gone before what log4cxx made for it: another one would meet
-/// ruins.
+/// Constructed after the first configuration, and so destroyed before the static objects that it created in
+/// log4cxx: no configuration is possible after that.
 struct ConfigurationPhase {
     ConfigurationPhase() = default;
     ConfigurationPhase(const ConfigurationPhase&) = delete;
@@ -83,7 +82,7 @@ bool configure(const std::filesystem::path& path) {
     if (configuration != nullptr && configuration->path() == path) {
         return true;
     }
-    // A missing file is no fault, and so is not told: the program goes without a log.
+    // A missing file is no error and not reported: the program runs without a log.
     if (isExiting || !std::filesystem::exists(path)) {
         return false;
     }
@@ -97,7 +96,7 @@ bool configure(const std::filesystem::path& path) {
     return true;
 }
 
-/// Not below any threshold, "off" included.
+/// Above every threshold, "off" included.
 LevelPtr alwaysLevel() { return std::make_shared<Level>(Level::OFF_INT, LOG4CXX_STR("ALWAYS"), 0); }
 
 void write(LevelPtr (*level)(), const char* loggerName, const char* message, const char* file, int line) {

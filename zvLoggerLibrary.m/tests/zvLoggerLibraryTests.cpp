@@ -39,8 +39,8 @@ protected:
         return (m_folder / name).string();
     }
 
-    /// A configuration whose root logger has `level` and writes to "logs/out.log", a folder yet to be made;
-    /// `parameters` are the appender's.
+    /// Writes a configuration whose root logger has `level` and an appender with `parameters` to
+    /// "logs/out.log", in a missing folder.
     std::string configuration(const std::string& level, const std::string& parameters,
                               const std::string& type = "FileAppender") const {
         return documentStart + (R"(<appender name="file" class="org.apache.log4j.)" + type + "\">") +
@@ -51,7 +51,7 @@ protected:
                R"("/><appender-ref ref="file"/></root></log4j:configuration>)";
     }
 
-    /// The lines of all log files.
+    /// The lines of all log files, backups included.
     Lines lines() const {
         Lines found;
         for (const auto& entry : fs::directory_iterator(m_folder / "logs")) {
@@ -63,7 +63,7 @@ protected:
         return found;
     }
 
-    /// Runs the test program; true when it exits with 0.
+    /// Runs the test program; true if its exit code is 0.
     static bool run(const std::string& path, const std::string& name, int count) {
         const std::string command = std::string("\"") + ZV_LOGGER_TEST_PROGRAM + "\" \"" + path + "\" " +
                                     name + " " + std::to_string(count);
@@ -76,7 +76,7 @@ protected:
 
 }  // namespace
 
-TEST_F(zvLoggerLibraryTest, levelsPassTheThresholdsOfLoggerAndAppender) {
+TEST_F(zvLoggerLibraryTest, LevelsAreFilteredByLoggerAndAppender) {
     const struct {
         const char* root;
         const char* appender;
@@ -104,7 +104,7 @@ TEST_F(zvLoggerLibraryTest, levelsPassTheThresholdsOfLoggerAndAppender) {
     }
 }
 
-TEST_F(zvLoggerLibraryTest, everyTextArrivesAndNullIsHarmless) {
+TEST_F(zvLoggerLibraryTest, LogsAnyTextAndIgnoresNull) {
     const std::string content = configuration("info", parameter("Encoding", "UTF-8"));
     ASSERT_TRUE(InitializeLogger(write("log4cxx.xml", content).c_str()));
     Lines expected = {"INFO|a|?|2|no file"};
@@ -124,7 +124,7 @@ TEST_F(zvLoggerLibraryTest, everyTextArrivesAndNullIsHarmless) {
         << *found.begin();
 }
 
-TEST_F(zvLoggerLibraryTest, refusesWhatIsNoConfigurationAndSaysWhy) {
+TEST_F(zvLoggerLibraryTest, RefusesInvalidConfigurationsWithAReason) {
     const std::string content = configuration("info", "");
     const std::string refused[] = {
         m_folder.string(),
@@ -151,7 +151,7 @@ TEST_F(zvLoggerLibraryTest, refusesWhatIsNoConfigurationAndSaysWhy) {
     EXPECT_EQ(lines(), Lines{"INFO|a|f|1|goes on"});
 }
 
-TEST_F(zvLoggerLibraryTest, onlyAnotherPathConfiguresAgain) {
+TEST_F(zvLoggerLibraryTest, OnlyAnotherPathConfiguresAgain) {
     const std::string content =
         configuration("info", parameter("Append", "false") + parameter("BufferedIO", "true"));
     const std::string path = write("log4cxx.xml", content);
@@ -169,7 +169,7 @@ TEST_F(zvLoggerLibraryTest, onlyAnotherPathConfiguresAgain) {
     EXPECT_EQ(lines(), expected);
 }
 
-TEST_F(zvLoggerLibraryTest, aLoggerWithoutAppendersIsSilent) {
+TEST_F(zvLoggerLibraryTest, ALoggerWithoutAppendersIsSilent) {
     std::string content =
         std::regex_replace(configuration("info", ""), std::regex("<root"), "<logger name=\"heard\"");
     content = std::regex_replace(content, std::regex("</root"), "</logger");
@@ -181,8 +181,8 @@ TEST_F(zvLoggerLibraryTest, aLoggerWithoutAppendersIsSilent) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
-TEST_F(zvLoggerLibraryTest, logsUntilTheProcessHasEnded) {
-    // So small a file is rolled over at every line, for which log4cxx needs most of what it has.
+TEST_F(zvLoggerLibraryTest, LogsUntilTheProcessHasEnded) {
+    // A file this small is rolled over at every line, which exercises most of log4cxx.
     const std::string parameters = parameter("MaxFileSize", "10") + parameter("MaxBackupIndex", "9");
     ASSERT_TRUE(
         run(write("log4cxx.xml", configuration("info", parameters, "RollingFileAppender")), "program", 1));
@@ -192,7 +192,7 @@ TEST_F(zvLoggerLibraryTest, logsUntilTheProcessHasEnded) {
                               "ALWAYS|early.object.always|early/object.cpp|2|destroyed"}));
 }
 
-TEST_F(zvLoggerLibraryTest, manyProcessesLoseAndTearNoLineOfARollingFile) {
+TEST_F(zvLoggerLibraryTest, ManyProcessesShareARollingFile) {
     constexpr int processes = 100;
     constexpr int messages = 40;
     constexpr int linesAtExit = 3;
@@ -214,7 +214,7 @@ TEST_F(zvLoggerLibraryTest, manyProcessesLoseAndTearNoLineOfARollingFile) {
     EXPECT_TRUE(fs::exists(m_folder / "logs" / "out.log.7"));
 }
 
-TEST_F(zvLoggerLibraryTest, aLogFolderThatDisappearsIsMadeAgain) {
+TEST_F(zvLoggerLibraryTest, ADeletedLogFolderIsRecreated) {
     ASSERT_TRUE(InitializeLogger(write("log4cxx.xml", configuration("info", "")).c_str()));
     LogInfoMessage("a", "before", "f", 1);
     fs::remove_all(m_folder / "logs");
@@ -228,7 +228,7 @@ TEST_F(zvLoggerLibraryTest, aLogFolderThatDisappearsIsMadeAgain) {
     EXPECT_EQ(lines(), Lines{"INFO|a|f|4|once it is possible"});
 }
 
-TEST_F(zvLoggerLibraryTest, theSampleHomeLogsBelowItself) {
+TEST_F(zvLoggerLibraryTest, TheSampleHomeLogsBelowItself) {
     ::setenv("GATEWAY_HOME", m_folder.c_str(), 1);
     ASSERT_TRUE(InitializeLogger(ZV_SAMPLE_LOG_CONFIGURATION));
     LogDebugMessage("com.qrsl.products.lkbridge.product", "unseen", "x.m/src/y", 7);

@@ -3,7 +3,7 @@
 
 #include <string>
 
-/// The message that a test program of that name logs as its `index`th: every fourth one is longer than 4 KiB.
+/// Message number `index` of the test program with that name: every fourth one is longer than 4 KiB.
 inline std::string zvLoggerTestMessage(const std::string& program, int index) {
     const std::size_t length = index % 4 == 0 ? 6000 : index % 4 == 1 ? 1500 : 60;
     return program + " " + std::to_string(index) + " " +

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Made before the logging library is configured, so that it is destroyed after most other things.
+/// Constructed before the logging library is configured, and so destroyed after most other static objects.
 struct EarlyObject {
     ~EarlyObject() {
         LogInfoMessage("early.object", "destroyed \xC3\xBC", "early/object.cpp", 1);

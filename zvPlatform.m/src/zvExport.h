@@ -1,7 +1,7 @@
 #ifndef ZV_EXPORT_H
 #define ZV_EXPORT_H
 
-/// ZV_EXPORT marks what zvCommonUtilsExport offers to other programs; everything else stays hidden.
+/// ZV_EXPORT marks the public symbols of zvCommonUtilsExport; everything else has hidden visibility.
 /// ZV_LOGGER_API does the same for the logging library.
 #if defined(_WIN32)
 #if defined(ZV_STATIC)
@@ -19,8 +19,8 @@
 #if defined(__i386__) && defined(__GNUC__) && !defined(ZV_STATIC) && !defined(zvCommonUtilsExport_EXPORTS)
 namespace zvPlatform {
 
-/// The compiler's runtime in a program makes its tables for the program's first exception, and needs them for
-/// one that comes out of the DLL: so the program throws its first itself.
+/// The unwinder in the executable initialises its tables at the first throw in the executable, and needs them
+/// for an exception that comes out of the DLL: so the executable throws once at start-up.
 inline const bool unwinderIsReady = []() noexcept {
     try {
         throw false;

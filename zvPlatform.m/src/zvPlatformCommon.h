@@ -3,10 +3,10 @@
 
 #include "zvPlatform.h"
 
-/// What the seam's source files have in common.
+/// Shared by the implementations of zvPlatform.
 namespace zvPlatform {
 
-/// The last second of the year 3000 in UTC: the end of what the home platform's runtime can tell.
+/// The last second of the year 3000 in UTC: the upper limit of the time functions in the Windows C runtime.
 constexpr zvInt64 lastSecond = 32535215999;
 
 constexpr bool isAccessMode(int mode) { return (mode & ~readAndWrite) == 0; }

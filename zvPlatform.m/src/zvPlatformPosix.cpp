@@ -24,7 +24,7 @@
 namespace zvPlatform {
 namespace {
 
-// Kept apart from errno, which a log line written in between would change.
+// Not errno itself, which a log line written in between would overwrite.
 thread_local int lastFailure = 0;
 
 bool succeeded(bool success) {
@@ -37,7 +37,8 @@ bool succeeded(bool success) {
 constexpr mode_t directoryMode = 0777;
 constexpr mode_t fileMode = 0666;
 
-// Empty, with errno set, for a path that has no narrow form: no system call takes an empty path.
+// Empty, with errno set, for a path that cannot be encoded in the locale: no system call accepts an empty
+// path.
 std::string nativePath(const wchar16* path) {
     std::size_t length = 0;
     while (path[length] != 0) {
@@ -54,7 +55,7 @@ std::string nativePath(const wchar16* path) {
     return narrow;
 }
 
-// Splits as the home platform's shell does: at blanks outside double quotes.
+// Splits as the Windows command shell does: at blanks outside double quotes.
 std::vector<std::string> splitArguments(const char* arguments) {
     std::vector<std::string> paths;
     bool quoted = false;
@@ -77,7 +78,7 @@ std::vector<std::string> splitArguments(const char* arguments) {
     return paths;
 }
 
-// A link to a directory is removed itself; what it points to stays.
+// A symlink to a directory is removed itself; its target stays.
 bool removeDirectory(const std::string& path) {
     std::error_code error;
     if (!std::filesystem::is_directory(path, error)) {
@@ -118,7 +119,7 @@ Handle createFile(const wchar16* path) {
     const std::string native = nativePath(path);
     const int descriptor =
         native.empty() ? -1 : ::open(native.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, fileMode);
-    // Descriptor 0 is a good one, handle 0 is not.
+    // Descriptor 0 is valid, handle 0 is not.
     return succeeded(descriptor >= 0) ? static_cast<Handle>(descriptor) + 1 : refusedHandle;
 }
 
@@ -166,7 +167,7 @@ void* loadLibrary(const char* name) {
     if (library != nullptr || path.find('/') != std::string::npos) {
         return library;
     }
-    // A bare name, as in "jvm", goes by this system's file name for it.
+    // A bare name such as "jvm" gets this system's prefix and suffix for libraries.
     return ::dlopen(("lib" + path + ".so").c_str(), RTLD_NOW);
 }
 

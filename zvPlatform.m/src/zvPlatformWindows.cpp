@@ -18,7 +18,7 @@ namespace {
 
 static_assert(sizeof(wchar_t) == sizeof(wchar16), "wide characters are UTF-16 code units here");
 
-// Kept apart from the system's own, which a log line written in between would change.
+// Not GetLastError() itself, which a log line written in between would overwrite.
 thread_local unsigned long lastFailure = 0;
 
 bool succeeded(bool success) {
@@ -34,7 +34,7 @@ const wchar_t* wide(const wchar16* text) { return reinterpret_cast<const wchar_t
 
 std::string nativePath(const char* path) { return path; }
 
-// Left to itself, the standard library takes narrow paths for UTF-8 and throws for those that are not.
+// The standard library's own conversion assumes UTF-8 and throws for any other bytes.
 std::filesystem::path pathOf(const std::string& path) {
     const std::size_t length = zvTextCodec::wideLength(path.c_str());
     if (length == zvTextCodec::unconvertible) {

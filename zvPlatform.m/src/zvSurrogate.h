@@ -3,18 +3,18 @@
 
 #include "zvTypes.h"
 
-/// The code units that stand in pairs, high before low, for the characters beyond 16 bits.
+/// UTF-16 surrogates: pairs of code units, high before low, that encode the characters beyond U+FFFF.
 namespace zvSurrogate {
 
 constexpr bool isAny(wchar16 unit) { return (unit & 0xF800U) == 0xD800U; }
 constexpr bool isHigh(wchar16 unit) { return (unit & 0xFC00U) == 0xD800U; }
 constexpr bool isLow(wchar16 unit) { return (unit & 0xFC00U) == 0xDC00U; }
 
-/// The character of a pair.
+/// The character that a surrogate pair encodes.
 constexpr char32_t join(wchar16 high, wchar16 low) {
     return 0x10000U + ((high & 0x3FFU) << 10U) + (low & 0x3FFU);
 }
-/// The halves of a character beyond 16 bits.
+/// The surrogate pair that encodes a character beyond U+FFFF.
 constexpr wchar16 highOf(char32_t character) {
     return static_cast<wchar16>(0xD800U + ((character - 0x10000U) >> 10U));
 }

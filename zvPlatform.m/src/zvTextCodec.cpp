@@ -11,10 +11,10 @@
 namespace zvTextCodec {
 namespace {
 
-constexpr char32_t lastCharacter = 0x10FFFF;  // some runtimes read bytes as numbers beyond it
+constexpr char32_t lastCharacter = 0x10FFFF;  // some runtimes decode to values beyond it
 constexpr bool unitsAreWideCharacters = sizeof(wchar_t) == sizeof(wchar16);
 
-// Whether the locale's multibyte texts are UTF-8, asked of the runtime by a character that tells.
+// Whether the locale's encoding is UTF-8, tested by decoding one character.
 bool isUtf8Locale() {
     constexpr char euro[] = "\xE2\x82\xAC";
     std::mbstate_t state{};
@@ -24,8 +24,8 @@ bool isUtf8Locale() {
            character == L'\u20AC';
 }
 
-// Hands every code unit of `text` to `put`; false for what is no well-formed UTF-8. Looks no further than the
-// first byte that continues nothing, which at the latest is the text's terminator.
+// Calls `put` with every UTF-16 code unit of `text`; false for malformed UTF-8. Never reads past the first
+// byte that is not a continuation byte, at the latest the terminator.
 template <typename Put>
 bool decodeUtf8(const char* text, Put put) {
     for (;;) {
@@ -37,7 +37,7 @@ bool decodeUtf8(const char* text, Put put) {
         if (lead == 0) {
             return true;
         }
-        // Below 0x40 for a byte that continues a character.
+        // Below 0x40 for a continuation byte.
         const auto tail = [text](std::size_t i) { return static_cast<unsigned char>(text[i]) ^ 0x80u; };
         if (lead < 0xC2 || lead > 0xF4 || tail(1) > 0x3F) {
             return false;
@@ -69,8 +69,8 @@ bool decodeUtf8(const char* text, Put put) {
     }
 }
 
-// Writes `text` in UTF-8 and returns the bytes written. `lone` stands in for a lone surrogate; when that is
-// 0, a text that has one is `unconvertible`.
+// Writes `text` as UTF-8 and returns the number of bytes written. `lone` replaces a lone surrogate; if it is
+// 0, text with a lone surrogate is `unconvertible`.
 std::size_t encodeUtf8(const wchar16* text, std::size_t length, char* out, char32_t lone) {
     const wchar16* const end = text + length;
     char* next = out;
@@ -114,7 +114,7 @@ std::size_t encodeUtf8(const wchar16* text, std::size_t length, char* out, char3
     return static_cast<std::size_t>(next - out);
 }
 
-// Hands every wide character of `text` to `take` until that answers false; false for invalid text.
+// Calls `take` with every wide character of `text` until it returns false; false for invalid text.
 template <typename Take>
 bool decode(const char* text, Take take) {
     std::mbstate_t state{};
@@ -136,8 +136,8 @@ bool decode(const char* text, Take take) {
 
 std::size_t unitsOf(wchar_t character) { return static_cast<char32_t>(character) >> 16U == 0 ? 1 : 2; }
 
-// The sum of `count`, two at most, of every position below `length`. Added up in blocks whose sums are no
-// wider than the units of a text, so that many are counted at a time.
+// The sum of `count(i)`, at most 2 each, over all positions below `length`. Summed in blocks whose sums fit
+// 16 bits, so that the compiler can vectorise the loop.
 template <typename Count>
 std::size_t sumOf(std::size_t length, Count count) {
     constexpr std::size_t longestBlock = 0x4000;
@@ -153,8 +153,8 @@ std::size_t sumOf(std::size_t length, Count count) {
     return sum;
 }
 
-// The bytes of `text` in UTF-8; `unconvertible` when it has a lone surrogate. A pair's halves count for two
-// bytes each.
+// The length of `text` in UTF-8; `unconvertible` if it has a lone surrogate. Each half of a pair counts for
+// two bytes.
 std::size_t utf8Length(const wchar16* text, std::size_t length) {
     const std::size_t further = sumOf(
         length, [text](std::size_t i) { return (text[i] >= 0x80 ? 1 : 0) + (text[i] >= 0x800 ? 1 : 0); });
@@ -167,7 +167,7 @@ std::size_t utf8Length(const wchar16* text, std::size_t length) {
     return 2 * pairs == surrogates ? length + further - surrogates : unconvertible;
 }
 
-// Hands the bytes of every character of `text` to `take`; false for a text that has no narrow form.
+// Calls `take` with the bytes of every character of `text`; false for text that the locale cannot encode.
 template <typename Take>
 bool encode(const wchar16* text, std::size_t length, Take take) {
     std::mbstate_t state{};
@@ -222,7 +222,7 @@ std::size_t widen(const char* text, wchar16* out, std::size_t capacity) {
         }
     };
     if (isUtf8Locale() && decodeUtf8(text, put)) {
-        // No half of a pair that has no room.
+        // Never half a surrogate pair: drop a high one at the end of the capacity.
         return written > 0 && zvSurrogate::isHigh(out[written - 1]) ? written - 1 : written;
     }
     written = 0;

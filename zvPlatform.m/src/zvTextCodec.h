@@ -6,18 +6,17 @@
 
 #include "zvTypes.h"
 
-/// Conversion between narrow text (multibyte, in the process's locale) and wide text (UTF-16 code units).
+/// Converts between narrow text (multibyte, in the process's locale) and wide text (UTF-16 code units).
 ///
-/// Callers allocate, and measure or know the most that a text can take, so that nothing in here allocates.
-/// Where the runtime's wide character is larger than a code unit, surrogate pairs are joined and split on the
-/// way.
+/// Nothing here allocates: callers provide the buffer, sized by a measurement or by an upper bound. Where
+/// wchar_t is wider than a code unit, surrogate pairs are joined and split as needed.
 namespace zvTextCodec {
 
-/// What a measurement answers for a text that has no counterpart on the other side.
+/// Returned for text that cannot be converted.
 constexpr std::size_t unconvertible = static_cast<std::size_t>(-1);
 
-/// Whether `text` is ASCII, which every encoding has as it stands. Folded over the whole text rather than
-/// left at the first hit, so that it is done many characters at a time.
+/// Whether `text` is ASCII, which is the same in every encoding. No early exit, so that the compiler can
+/// vectorise the loop.
 template <typename Character>
 bool isAscii(const Character* text, std::size_t length) {
     unsigned bits = 0;
@@ -27,22 +26,25 @@ bool isAscii(const Character* text, std::size_t length) {
     return bits < 0x80U;
 }
 
-/// Code units that `text` needs, terminator excluded.
+/// The number of code units that `text` converts to, terminator excluded; `unconvertible` for invalid text.
 std::size_t wideLength(const char* text);
 
-/// Writes at most `capacity` code units, no terminator, never half a surrogate pair.
-/// @return the number of units written; 0 for a text that cannot be converted.
+/// Converts `text` to at most `capacity` code units, without a terminator and never ending in half a pair.
+/// @return the number of code units written; 0 for invalid text.
 std::size_t widen(const char* text, wchar16* out, std::size_t capacity);
 
-/// Bytes that the `length` code units of `text` need, terminator excluded.
+/// The number of bytes that the `length` code units of `text` convert to, terminator excluded;
+/// `unconvertible` if the locale cannot encode them.
 std::size_t narrowLength(const wchar16* text, std::size_t length);
 
-/// Writes the bytes that narrowLength counts, at most MB_CUR_MAX for each unit, no terminator.
-/// @return the number of bytes written; `unconvertible`, with some written, for a text without a narrow form.
+/// Converts `text` to the bytes that narrowLength() counts, at most MB_CUR_MAX per code unit, without a
+/// terminator.
+/// @return the number of bytes written; `unconvertible`, with `out` partly written, if the locale cannot
+/// encode them.
 std::size_t narrow(const wchar16* text, std::size_t length, char* out);
 
-/// Writes UTF-8 whatever the process's locale, three bytes at most for each unit, no terminator. Half a
-/// surrogate pair, which has no UTF-8 form, becomes U+FFFD.
+/// Converts `text` to UTF-8, whatever the locale: at most three bytes per code unit, without a terminator. A
+/// lone surrogate, which UTF-8 cannot encode, becomes U+FFFD.
 /// @return the number of bytes written.
 std::size_t toUtf8(const wchar16* text, std::size_t length, char* out);
 

@@ -8,7 +8,7 @@
 
 namespace {
 
-TEST(zvPlatform, TranslatesPathsAtTheLastMoment) {
+TEST(zvPlatformTest, TranslatesPathSeparators) {
     const zvTemporaryFolder folder;
     const std::string path = folder.path().string() + "\\a\\b";
     EXPECT_EQ(zvPlatform::nativePath("\\a/b\\"), onWindows ? "\\a/b\\" : "/a/b/");
@@ -21,7 +21,7 @@ TEST(zvPlatform, TranslatesPathsAtTheLastMoment) {
     EXPECT_FALSE(zvPlatform::isAccessible(path.c_str(), 0));
 }
 
-TEST(zvPlatform, TheReasonOfARefusalOutlivesWhatFollows) {
+TEST(zvPlatformTest, TheLastErrorSurvivesLaterCalls) {
     const zvTemporaryFolder folder;
     const zvString existing(folder.write("file", "").c_str());
     EXPECT_EQ(zvPlatform::createFile(existing.data()), zvPlatform::refusedHandle);
@@ -38,8 +38,8 @@ TEST(zvPlatform, TheReasonOfARefusalOutlivesWhatFollows) {
     EXPECT_EQ(zvPlatform::accessError(folder.path().string().c_str(), 6), 0UL);
 }
 
-// A program that was started without a standard input gets descriptor 0 for its first file.
-TEST(zvPlatform, NoOpenedFileHasTheHandle0) {
+// A program that is started with standard input closed gets descriptor 0 for its first file.
+TEST(zvPlatformTest, NoFileHasTheHandle0) {
     EXPECT_EXIT(
         {
             const zvTemporaryFolder folder;
@@ -51,7 +51,7 @@ TEST(zvPlatform, NoOpenedFileHasTheHandle0) {
         testing::ExitedWithCode(0), "");
 }
 
-TEST(zvPlatform, OpensNoDirectoryForReading) {
+TEST(zvPlatformTest, RefusesToOpenADirectory) {
     const zvTemporaryFolder folder;
     EXPECT_EQ(zvPlatform::openForReading(folder.path().string().c_str()), nullptr);
     zvPlatform::File file = zvPlatform::openForReading(folder.write("file", "x").c_str());

@@ -11,7 +11,7 @@
 
 namespace {
 
-// UTF-8 is read and written here; any other encoding is left to the runtime.
+// Only UTF-8 has its own codec; other encodings are converted by the runtime.
 class zvTextCodecTest : public testing::Test {
 protected:
     void SetUp() override {
@@ -21,8 +21,8 @@ protected:
     }
 };
 
-// What the runtime itself makes of the text, each character beyond the 16 bits as a surrogate pair; nothing
-// for a text that it refuses, or that has a number beyond the last character, which the runtime lets pass.
+// The reference: the runtime's conversion as UTF-16. Empty for invalid text, and for code points beyond
+// U+10FFFF, which the runtime accepts.
 std::vector<wchar16> widenedByRuntime(const std::string& text) {
     std::vector<wchar_t> wide(text.size() + 1);
     const std::size_t length = std::mbstowcs(wide.data(), text.c_str(), wide.size());
@@ -52,9 +52,9 @@ void expectSameAsRuntime(const std::string& text) {
         << testing::PrintToString(text);
 }
 
-// Every lead byte before the bytes at which UTF-8 turns from well-formed to overlong, to a surrogate, to a
-// number that is too high, and to the start of the next character.
-TEST_F(zvTextCodecTest, ReadsAndRefusesWhatTheRuntimeReadsAndRefuses) {
+// Every lead byte followed by the boundary values of continuation bytes: overlong forms, surrogates, code
+// points beyond U+10FFFF and truncated characters.
+TEST_F(zvTextCodecTest, DecodesLikeTheRuntime) {
     const std::string edges = "A\x7F\x80\x8F\x90\x9F\xA0\xBF\xC0\xE2";
     for (int lead = 0x80; lead <= 0xFF; ++lead) {
         const std::string first = "a" + std::string(1, static_cast<char>(lead));
@@ -70,7 +70,7 @@ TEST_F(zvTextCodecTest, ReadsAndRefusesWhatTheRuntimeReadsAndRefuses) {
     }
 }
 
-TEST_F(zvTextCodecTest, WritesEveryCharacterSoThatItIsReadAgain) {
+TEST_F(zvTextCodecTest, EveryCharacterRoundTrips) {
     for (char32_t character = 1; character <= 0x10FFFF; character += character < 0x11000 ? 1 : 251) {
         wchar16 units[2] = {static_cast<wchar16>(character), 0};
         const std::size_t count = character > 0xFFFF ? 2 : 1;
@@ -90,7 +90,7 @@ TEST_F(zvTextCodecTest, WritesEveryCharacterSoThatItIsReadAgain) {
     }
 }
 
-TEST_F(zvTextCodecTest, ALoneSurrogateAmongPairsHasNoNarrowForm) {
+TEST_F(zvTextCodecTest, ALoneSurrogateIsUnconvertible) {
     using namespace std::string_literals;
     for (const std::u16string& text :
          {u"\xD83D\xDE00\xD83D"s, u"\xDE00\xD83D\xDE00"s, u"\xD83D\xD83D\xDE00"s, u"\xD83Dz\xDE00"s}) {

@@ -10,7 +10,7 @@ XERCES_CPP_NAMESPACE_BEGIN
 class DOMNode;
 XERCES_CPP_NAMESPACE_END
 
-/// Nodes in the order of their addition. The nodes stay owned by their document, and are valid as long as it.
+/// A list of nodes in insertion order. The nodes are owned by their document and valid as long as it.
 class ZV_EXPORT zvXERCESDOMNODEList : public zvCoreObject {
 public:
     zvXERCESDOMNODEList();
@@ -21,7 +21,7 @@ public:
     /// Always true.
     bool addDOMNode(xercesc::DOMNode* node);
     int numDOMNode() const;
-    /// Node `i`; null for any other index.
+    /// Node `i`; null if `i` is out of range.
     xercesc::DOMNode* getDOMNode(int i) const;
     bool empty() const;
     /// The last node; null for an empty list.

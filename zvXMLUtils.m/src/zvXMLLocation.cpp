@@ -17,7 +17,7 @@ bool isSchemeCharacter(char c) {
     return std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '+' || c == '-' || c == '.';
 }
 
-// What stands before the colon of a URI, in lower case. A single letter is a drive: such a text is a path.
+// The scheme of a URI in lower case; empty for a path, also one with a drive letter.
 std::string schemeOf(const std::string& location) {
     const auto end = std::find_if_not(location.begin(), location.end(), isSchemeCharacter);
     if (end - location.begin() < 2 || end == location.end() || *end != ':' || !isLetter(location.front())) {
@@ -42,7 +42,7 @@ std::string decoded(const std::string& text) {
     return out;
 }
 
-// The path behind "file:"; none when it names another machine.
+// The path of a "file:" URI; nothing if it has another host.
 std::optional<std::string> pathOfFileUri(std::string uri) {
     constexpr bool hasDrives = fs::path::preferred_separator == '\\';
     uri.erase(0, uri.find(':') + 1);

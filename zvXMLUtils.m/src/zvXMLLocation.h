@@ -5,17 +5,17 @@
 #include <optional>
 #include <string>
 
-/// Where documents and their external entities stand: paths and "file:" URIs, never a network.
+/// Locations of documents and external entities: paths and "file:" URIs, never the network.
 namespace zvXMLLocation {
 
-/// The path that `location`, a path or a URI, names on this machine, as it stands; none for a URI that leads
-/// elsewhere.
+/// The local path of `location`, which is a path or a URI, without percent-decoding; nothing for a URI with
+/// another scheme or host.
 std::optional<std::filesystem::path> localPath(const std::string& location);
 
-/// What `path` names when it is read as a URI reference: "%20" is a blank.
+/// Percent-decodes `path`: "%20" becomes a blank.
 std::filesystem::path percentDecoded(const std::filesystem::path& path);
 
-/// Whether `path` stands in `folder` or below it; both are canonical.
+/// Whether `path` is in `folder` or below it. Precondition: both are canonical.
 bool isWithin(const std::filesystem::path& folder, const std::filesystem::path& path);
 
 }  // namespace zvXMLLocation

@@ -22,14 +22,14 @@ constexpr std::uintmax_t unlimited = std::numeric_limits<std::uintmax_t>::max();
 constexpr std::uintmax_t megabyte = 1'000'000;
 constexpr XMLSize_t largeAllocation = 65'536;
 
-// `base` and `perByte` for each of `bytes`, without an overflow.
+// `base` + `perByte` * `bytes`, saturated.
 std::uintmax_t raised(std::uintmax_t base, std::uintmax_t perByte, std::uintmax_t bytes) {
     return bytes > (unlimited - base) / perByte ? unlimited : base + perByte * bytes;
 }
 
 }  // namespace
 
-// The greediest documents without malice hold 90 bytes for a byte of source; an expansion hands out 160 KiB.
+// Benign documents hold at most 90 bytes per byte of source; each expansion of an entity allocates 160 KiB.
 const zvXMLMemory::Bytes zvXMLMemory::forAnySource = {64 * megabyte, 2'000 * megabyte};
 const zvXMLMemory::Bytes zvXMLMemory::forSourceByte = {128, 256};
 
@@ -49,7 +49,7 @@ void zvXMLMemory::allowFor(std::uintmax_t sourceBytes) {
 void zvXMLMemory::lift() { m_limits = {unlimited, unlimited}; }
 
 MemoryManager* zvXMLMemory::getExceptionMemoryManager() {
-    // An exception may outlive this object.
+    // Exceptions may outlive this object.
     return XMLPlatformUtils::fgMemoryManager->getExceptionMemoryManager();
 }
 
@@ -78,8 +78,8 @@ zvXMLMemory::Block* zvXMLMemory::take(XMLSize_t size) {
     return new (memory) Block{nullptr, m_pBlocks, size};
 }
 
-// After a refusal everything stays until the end: the XML library may then give back twice what it was about
-// to replace.
+// After a refusal nothing is freed before the destructor: the XML library may free a block twice when its
+// replacement fails.
 void zvXMLMemory::deallocate(void* memory) {
     if (memory != nullptr && !m_bRefused) {
         giveBack(static_cast<Block*>(memory) - 1);

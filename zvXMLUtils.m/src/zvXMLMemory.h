@@ -4,22 +4,22 @@
 #include <cstdint>
 #include <xercesc/framework/MemoryManager.hpp>
 
-/// The memory of one parse and its document, in proportion to what is parsed: a document whose entities
-/// multiply meets the limits as the XML library's OutOfMemoryException.
+/// The memory manager of one parse and its document, with limits in proportion to the size of the source:
+/// entity expansion beyond them ends in the XML library's OutOfMemoryException.
 ///
-/// Only large allocations are refused, which are those that entities lead to: readers, buffers and blocks of
-/// nodes, none of which the XML library asks for in the middle of something that it could not leave again.
+/// Only large allocations are refused: readers, buffers and blocks of nodes. They are the ones that entities
+/// cause, and the XML library is exception-safe at these points.
 class zvXMLMemory : public xercesc::MemoryManager {
 public:
     zvXMLMemory();
     zvXMLMemory(const zvXMLMemory&) = delete;
     zvXMLMemory& operator=(const zvXMLMemory&) = delete;
-    /// Gives back what the XML library has left behind.
+    /// Frees whatever the XML library has leaked.
     ~zvXMLMemory() override;
 
-    /// Raises the limits for so many more bytes of source.
+    /// Raises the limits for `sourceBytes` more bytes of source.
     void allowFor(std::uintmax_t sourceBytes);
-    /// Ends all limits, once the document is there and belongs to the program.
+    /// Removes the limits, after the parse: the document belongs to the program.
     void lift();
 
     xercesc::MemoryManager* getExceptionMemoryManager() override;
@@ -29,7 +29,7 @@ public:
 private:
     struct Bytes {
         std::uintmax_t held;
-        std::uintmax_t handedOut;  // what was given back included: each expansion of an entity takes a lot
+        std::uintmax_t handedOut;  // in total, freed or not: entity expansion allocates much
     };
     struct Block;
 

@@ -9,19 +9,19 @@
 
 #include "zvString.h"
 
-/// The one place where text meets the XML library. Both keep UTF-16 code units, so a text crosses unit by
-/// unit: nothing can fail or get lost on the way, in any locale.
+/// Conversion between zvString and the XML library's strings. Both are UTF-16, so that it is lossless, cannot
+/// fail and does not depend on the locale.
 namespace zvXMLText {
 
 static_assert(std::is_same_v<XMLCh, char16_t>, "zvString reads the XML library's characters as char16_t");
 
-/// Empty for null, as is the text in `out`, which keeps its buffer.
+/// Null gives an empty string. assign() reuses the buffer of `out`.
 inline zvString toString(const XMLCh* text) { return {text}; }
 inline void assign(zvString& out, const XMLCh* text) { out = text; }
 
 }  // namespace zvXMLText
 
-/// A zvString as the XML library takes it: 0-terminated, never null.
+/// A copy of a zvString for the XML library: null-terminated, never null.
 class zvXMLChars {
 public:
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): most of the inline buffer is never looked at
@@ -43,7 +43,7 @@ public:
     bool equals(const XMLCh* other) const { return other != nullptr && view() == other; }
 
 private:
-    static constexpr std::size_t inlineCapacity = 64;  // names fit, so that a query does not allocate
+    static constexpr std::size_t inlineCapacity = 64;  // most names fit, so that a lookup does not allocate
 
     std::u16string_view view() const { return {get(), m_length}; }
 

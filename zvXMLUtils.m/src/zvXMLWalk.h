@@ -4,12 +4,12 @@
 #include <xercesc/dom/DOMElement.hpp>
 #include <xercesc/dom/DOMNode.hpp>
 
-/// Walks over a document from node to node: without a stack, so that no depth is too deep, and without the
-/// XML library's live node lists, which search again from the start.
+/// Iterative traversal of a document: without recursion, so that depth is not limited by the stack, and
+/// without the XML library's live node lists, which search from the start each time.
 namespace zvXMLWalk {
 
-/// The node behind `node` in document order, `top`'s descendants only; null at the end. `depth` follows: one
-/// more for each step down, one less for each step up.
+/// The node after `node` in document order, among the descendants of `top`; null at the end. `depth` is
+/// incremented for each step down and decremented for each step up.
 inline xercesc::DOMNode* next(xercesc::DOMNode* node, const xercesc::DOMNode* top, int& depth) {
     if (xercesc::DOMNode* const child = node->getFirstChild()) {
         ++depth;
@@ -28,7 +28,7 @@ inline xercesc::DOMNode* next(xercesc::DOMNode* node, const xercesc::DOMNode* to
     return next(node, top, depth);
 }
 
-/// `node` or the nearest sibling behind it that has the type; null when none has.
+/// The first node of the type among `node` and the siblings after it; null if there is none.
 inline xercesc::DOMNode* firstOf(xercesc::DOMNode::NodeType type, xercesc::DOMNode* node) {
     while (node != nullptr && node->getNodeType() != type) {
         node = node->getNextSibling();

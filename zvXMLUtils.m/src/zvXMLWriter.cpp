@@ -37,7 +37,7 @@ namespace {
 
 constexpr zvLogSource logger("zvXMLUtils.m/src/zvXMLWriter");
 
-// The XML library's serialiser descends by recursion, less than 200 bytes of stack a level.
+// The XML library's serialiser is recursive and takes less than 200 bytes of stack per level.
 constexpr int deepestLevel = 2'000;
 
 bool isTooDeep(DOMNode& top) {

@@ -9,17 +9,18 @@ XERCES_CPP_NAMESPACE_BEGIN
 class DOMDocument;
 XERCES_CPP_NAMESPACE_END
 
-/// Writing a document: first into bytes, which are then put where they belong, so that a document that cannot
-/// be written does not cost a file its content. Each operation throws the zvException of a failure, which is
-/// logged.
+/// Serialises documents: first into memory, so that a failure does not truncate an existing file. Each
+/// operation logs a failure and throws it as a zvException.
 namespace zvXMLWriter {
 
-/// The document with its declaration, lines ended by a single line feed, in `encoding`. Fails for an encoding
-/// that is unknown or lacks a character of a name, and for a document that is too deep to be written.
+/// Serialises the document in `encoding`, with an XML declaration and line feeds as line ends. Fails for an
+/// unknown encoding, for a name that it cannot encode and for a document that is nested too deeply.
 void write(xercesc::DOMDocument& document, xercesc::XMLFormatTarget& target, const zvString& encoding);
 
+/// Writes the bytes to the file `path`, which is overwritten.
 void toFile(const xercesc::MemBufFormatTarget& bytes, const zvString& path);
 void toStandardOutput(const xercesc::MemBufFormatTarget& bytes);
+/// Decodes the bytes from `encoding`.
 zvString toText(const xercesc::MemBufFormatTarget& bytes, const zvString& encoding);
 
 }  // namespace zvXMLWriter

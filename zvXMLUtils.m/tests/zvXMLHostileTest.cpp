@@ -15,8 +15,7 @@ using Lines = std::vector<std::string>;
 using List = std::unique_ptr<zvXERCESDOMNODEList>;
 
 constexpr int many = 100'000;
-constexpr std::chrono::seconds bearable(
-    20);  // far more than is needed, also under a sanitizer on a busy machine
+constexpr std::chrono::seconds bearable(20);  // generous, for sanitizers on a busy machine
 
 std::string repeated(const std::string& text, int times) {
     std::string all;
@@ -34,7 +33,7 @@ std::string numbered(const std::string& before, const std::string& after, int ti
     return all;
 }
 
-// Entities of which each holds the one before it so many times over.
+// Nested entities, each of which contains the one before it `fold` times.
 std::string nested(const std::string& head, const std::string& innermost, const std::string& reference,
                    int levels, int fold) {
     std::string all = "<!ENTITY " + head + "e0 '" + innermost + "'>";
@@ -45,7 +44,7 @@ std::string nested(const std::string& head, const std::string& innermost, const 
     return all;
 }
 
-// Elements w0, w1 and so on, each of which consists of a thousand others: a million transitions.
+// Declares elements w0, w1 and so on, each with a thousand child elements: a million transitions.
 std::string largeModels(int count) {
     const std::string model = numbered("n", ",", 999) + "n";
     return numbered("<!ELEMENT w", " (" + model + ")>", count);
@@ -57,7 +56,7 @@ std::string document(const std::string& declarations, const std::string& content
 
 class zvXMLHostileTest : public zvLoggedTest {
 protected:
-    // Loads and tells how the one error in the log begins or, for a document that loads, its text.
+    // Loads the document; returns the start of the only error in the log or, on success, its text.
     static std::string outcome(const std::string& source, bool isFile = false) {
         zvRecordingLogger::reset();
         zvXMLParser parser;
@@ -75,7 +74,7 @@ protected:
     }
 };
 
-TEST_F(zvXMLHostileTest, refusesWhatExplodes) {
+TEST_F(zvXMLHostileTest, RefusesWhatExplodes) {
     constexpr const char* tooMuch =
         "Unexpected exception during parsing: 'no memory left, or more of it taken than a document of its "
         "size may "
@@ -124,14 +123,14 @@ TEST_F(zvXMLHostileTest, refusesWhatExplodes) {
     }
 }
 
-TEST_F(zvXMLHostileTest, errorsWithoutEndAreCutOff) {
+TEST_F(zvXMLHostileTest, EndlessErrorsAreCutOff) {
     const std::string huge(200'000, 't');
     EXPECT_NE("loaded ",
               outcome(document("", "<r>" + huge + "<x" + numbered(" a", "=''", 5'000) + "/></r>")));
     EXPECT_LT(zvRecordingLogger::lines("error").size(), 20U);
 }
 
-TEST_F(zvXMLHostileTest, readsEntitiesFromItsFolderOnly) {
+TEST_F(zvXMLHostileTest, ReadsEntitiesFromItsFolderOnly) {
     m_folder.write("outside.txt", "secret");
     m_folder.write("docs/part.txt", "part");
     m_folder.write("docs/sub/more parts.ent", "<?xml encoding='ISO-8859-1'?>\xE4&up;");
@@ -148,7 +147,7 @@ TEST_F(zvXMLHostileTest, readsEntitiesFromItsFolderOnly) {
     const std::string root = onWindows ? "/" + m_folder.path().generic_string() : folder;
     const struct {
         std::string systemId;
-        const char* refusal;  // null: it is read
+        const char* refusal;  // null: it is loaded
         bool isOfPosix = false;
     } cases[] = {
         {"part.txt", nullptr},
@@ -185,12 +184,12 @@ TEST_F(zvXMLHostileTest, readsEntitiesFromItsFolderOnly) {
         EXPECT_EQ("XML document refused: it is not in a file and yet has the external entity \"" +
                       c.systemId + "\"",
                   outcome(document(entity, "<r>&e;</r>")));
-        // An entity that nobody refers to is not read.
+        // An entity without a reference is not loaded.
         EXPECT_EQ("loaded ", outcome(document(entity, "<r/>")));
     }
 }
 
-TEST_F(zvXMLHostileTest, readsTypeDefinitionsFromItsFolderOnly) {
+TEST_F(zvXMLHostileTest, ReadsTypeDefinitionsFromItsFolderOnly) {
     m_folder.write("outside.dtd", "<!ELEMENT r ANY>");
     m_folder.write("docs/part.txt", "part");
     m_folder.write("docs/sub/latin 1.ent", "<?xml encoding='ISO-8859-1'?>\xE4 &up;");
@@ -209,7 +208,7 @@ TEST_F(zvXMLHostileTest, readsTypeDefinitionsFromItsFolderOnly) {
               outcome("<!DOCTYPE r SYSTEM 'sub/rules.dtd'><r/>"));
 }
 
-TEST_F(zvXMLHostileTest, readsAnEntityAgainOnlySoOften) {
+TEST_F(zvXMLHostileTest, LimitsRepeatedReadsOfAnEntity) {
     m_folder.write("big.txt", std::string(1'000'000, ' '));
     m_folder.write("doc.dtd", "<!ELEMENT r ANY><!ENTITY % p SYSTEM 'big.txt'>" + repeated("%p;", 1'000));
     const std::string path = m_folder.write("doc.xml", "<!DOCTYPE r SYSTEM 'doc.dtd'><r/>");
@@ -217,7 +216,7 @@ TEST_F(zvXMLHostileTest, readsAnEntityAgainOnlySoOften) {
               outcome(path, true));
 }
 
-TEST_F(zvXMLHostileTest, hundredThousandSiblingsTakeLinearTime) {
+TEST_F(zvXMLHostileTest, HundredThousandSiblingsTakeLinearTime) {
     zvXMLParser parser(("<r>" + repeated("<a x='1'>t</a>", many) + "<z/></r>").c_str(), false);
     const auto start = std::chrono::steady_clock::now();
     zvString tag;
@@ -236,7 +235,7 @@ TEST_F(zvXMLHostileTest, hundredThousandSiblingsTakeLinearTime) {
     EXPECT_LT(std::chrono::steady_clock::now() - start, bearable);
 }
 
-TEST_F(zvXMLHostileTest, hundredThousandLevelsNeedNoStack) {
+TEST_F(zvXMLHostileTest, HundredThousandLevelsNeedNoStack) {
     zvXMLParser parser((repeated("<a>", many) + "<z/>" + repeated("</a>", many)).c_str(), false);
     const auto start = std::chrono::steady_clock::now();
     ASSERT_NE(nullptr, parser.getRootElement());
@@ -256,7 +255,7 @@ TEST_F(zvXMLHostileTest, hundredThousandLevelsNeedNoStack) {
     EXPECT_LT(std::chrono::steady_clock::now() - start, bearable);
 }
 
-TEST_F(zvXMLHostileTest, buildsAndWritesDeepDocuments) {
+TEST_F(zvXMLHostileTest, BuildsAndWritesDeepDocuments) {
     for (const int levels : {1'999, 2'000, many}) {
         zvXMLParser parser;
         ASSERT_TRUE(parser.createXMLTree("a"));

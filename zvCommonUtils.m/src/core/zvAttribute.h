@@ -18,7 +18,7 @@ public:
     void setName(const zvString& name);
     zvValue getValue() const;
     void setValue(const zvValue& value);
-    /// The value itself, owned by the attribute.
+    /// The value by reference, owned by the attribute.
     const zvValue& value() const { return m_value; }
 
 protected:

@@ -4,7 +4,7 @@
 
 namespace {
 
-// Stands in when even one byte is not to be had, so that data() is never null.
+// The fallback when out of memory, so that data() is never null.
 char emptyText[1] = "";
 
 }  // namespace

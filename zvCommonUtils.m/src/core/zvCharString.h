@@ -3,7 +3,7 @@
 
 #include "zvString.h"
 
-/// Owns the narrow form of a zvString, for an interface that takes plain characters.
+/// Owns a null-terminated narrow copy of a zvString, for interfaces that take plain characters.
 class ZV_EXPORT zvCharString {
 public:
     explicit zvCharString(const zvString& text);
@@ -11,12 +11,13 @@ public:
     zvCharString& operator=(const zvCharString&) = delete;
     ~zvCharString();
 
-    /// The narrow text, owned by this object; "", never null, for a text that is empty or has no narrow form.
+    /// The narrow copy, owned by this object; "", never null, for a string that is empty or cannot be
+    /// converted.
     const char* data() const { return m_pText; }
 
 private:
     zvCharString() : m_pText(nullptr) {}
-    // Made from a zvString only: a narrow text needs no conversion.
+    // Not constructible from narrow text, which needs no conversion.
     explicit zvCharString(const char*) : m_pText(nullptr) {}
 
     char* m_pText;

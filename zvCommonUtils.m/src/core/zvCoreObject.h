@@ -3,7 +3,7 @@
 
 #include "zvExport.h"
 
-/// The empty root of the library's object classes: deletable through a pointer to it, and nothing more.
+/// The empty base of the library's object classes, with a virtual destructor.
 class ZV_EXPORT zvCoreObject {
 public:
     zvCoreObject() = default;
@@ -12,10 +12,10 @@ public:
     virtual ~zvCoreObject();
 };
 
-/// The root of the common utilities' objects.
+/// The base of the common utilities' classes.
 class ZV_EXPORT zvCoreObjectCommon : public zvCoreObject {};
 
-/// The root of the configuration's objects.
+/// The base of the configuration's classes.
 class ZV_EXPORT zvCoreObjectCfg : public zvCoreObject {};
 
 #endif

@@ -13,8 +13,8 @@ constexpr int longestFieldText = 5;
 
 bool isSeparator(wchar16 unit) { return unit == u':' || unit == u'/' || unit == u'-'; }
 
-// Reads one number at `valueAt`, and moves both positions behind the field and its separator. The two move
-// separately: the second ":" of "::" is passed over in the value here, in the format by the caller.
+// Reads one number at `valueAt` and advances both positions past the field and its separator. The second ":"
+// of "::" is skipped here in the value, but by the caller in the format.
 int extractField(const zvString& value, int& valueAt, const zvString& format, int& formatAt) {
     const int begin = valueAt;
     while (valueAt < value.size() && valueAt - begin < longestFieldText) {
@@ -90,7 +90,7 @@ void zvDateTime::copy(const zvDateTime& other) {
     }
 }
 
-// An empty pattern of the value's own has a buffer.
+// An empty pattern that was set has a buffer, the default pattern has none.
 void zvDateTime::setFormat(const zvString& format) {
     m_strFormat = format.empty() ? zvString(zvDefaultDatePattern) : format;
     if (format.empty()) {

@@ -4,13 +4,13 @@
 #include "zvCoreObject.h"
 #include "zvString.h"
 
-/// A date and a time of day as six numbers, none of them checked, with the pattern in which they are written.
+/// A date and a time of day in local time, as six numbers that are not validated, and a pattern.
 ///
-/// A pattern is made of the fields "DD", "MM", "YYYY", "hh", "mm" and "ss", between separators "/", "-" and
-/// ":"; "::" stands between date and time. Seconds are counted from 1970 and the numbers are local time.
+/// A pattern consists of the fields "DD", "MM", "YYYY", "hh", "mm" and "ss", separated by "/", "-" or ":",
+/// with "::" between date and time. Seconds are counted from 1970-01-01 00:00:00 UTC.
 class ZV_EXPORT zvDateTime : public zvCoreObject {
 public:
-    /// Six zeros with the pattern "DD/MM/YYYY::hh-mm-ss".
+    /// All numbers 0, with the pattern "DD/MM/YYYY::hh-mm-ss".
     zvDateTime();
     explicit zvDateTime(const zvString& format);
     zvDateTime(short year, short month, short day, short hour, short minute, short second);
@@ -36,25 +36,25 @@ public:
     /// Whether any of the six numbers is not 0.
     bool isInitialized() const;
 
-    /// Reads `value` by the pattern `format`, which becomes the value's own. Fields that the value or the
-    /// pattern lacks keep their numbers; failures are logged and leave the fields read until then.
+    /// Parses `value` by the pattern `format`, which becomes this object's pattern. Fields missing from
+    /// either keep their numbers; an empty `value` or `format` is logged and changes nothing.
     void setDate(const zvString& value, const zvString& format);
-    /// Writes the value by the pattern `format`, without leading zeros. A pattern without "D" has no date in
-    /// the result, one without "h" no time.
+    /// Formats the value by the pattern `format`, without leading zeros. A pattern without "D" gives no date,
+    /// one without "h" no time.
     zvString getDateTime(const zvString& format, const zvString& dateSeparator,
                          const zvString& timeSeparator) const;
     zvString getDate(const zvString& format, const zvString& separator) const;
     zvString getTime(const zvString& format, const zvString& separator) const;
-    /// As in "Day: |21/5/2011| Time: |11-12-22|".
+    /// For example "Day: |21/5/2011| Time: |11-12-22|".
     zvString toString() const;
 
-    /// -1 for an instant before 1970 or after 3000.
+    /// Seconds since 1970-01-01 00:00:00 UTC; -1 before 1970 and after the year 3000.
     zvInt64 getDateTimeInSeconds() const;
-    /// Seconds before 1970 or after 3000 change nothing.
+    /// Sets all six numbers from seconds since 1970-01-01 00:00:00 UTC; no effect before 1970 and after 3000.
     void setDateTimeInSeconds(zvInt64 seconds);
     void setCurrentDateTime();
 
-    /// Compared are the seconds: 31 April equals 1 May.
+    /// Comparisons are by getDateTimeInSeconds(): 31 April equals 1 May.
     bool operator==(const zvDateTime& other) const;
     bool operator!=(const zvDateTime& other) const;
     bool operator<(const zvDateTime& other) const;
@@ -76,7 +76,7 @@ private:
     short m_hour = 0;
     short m_minute = 0;
     short m_second = 0;
-    zvString m_strFormat;  // without a buffer for the default pattern: most dates have it, and never write it
+    zvString m_strFormat;  // no buffer for the default pattern, which spares most dates an allocation
 };
 
 #endif

@@ -3,10 +3,10 @@
 
 #include "zvResult.h"
 
-/// The one exception type that the library throws, by value.
+/// The only exception type that the library throws, by value.
 ///
-/// Most throwers put the text into the result: read it with getResult().getMessage(). Only those that use the
-/// message constructor fill getMessage().
+/// Most exceptions carry their message in the result: read getResult().getMessage(). getMessage() is set only
+/// by the constructor that takes a message and by setMessage().
 class ZV_EXPORT zvException {
 public:
     zvException();

@@ -6,8 +6,8 @@
 
 #include "zvString.h"
 
-/// A text that a collection or a value keeps: a copy is complete, or does not come about and throws
-/// std::bad_alloc, where one of a plain zvString would be empty and the text lost.
+/// A string stored in a collection or a value. Copying throws std::bad_alloc when out of memory, where a copy
+/// of a plain zvString would silently be empty.
 class zvKeptString : public zvString {
 public:
     zvKeptString() = default;

@@ -5,16 +5,17 @@
 #include "zvLogLevel.h"
 #include "zvTextBuilder.h"
 
-/// The way from every layer to the logger, which itself stands on this layer: implemented beside the logger.
+/// Decouples all layers from the logger, which depends on this layer itself: declared here, implemented next
+/// to the logger.
 namespace zvLogSink {
 
-/// Whether somebody reads what is logged: a logger, created on first use, that can write.
+/// Whether a message would be written: by a configured logger, which is created on first use.
 bool isReady();
 void write(zvLogLevel level, const zvString& message, const char* file, int line);
 
 }  // namespace zvLogSink
 
-/// The first piece of a message, with the line of the call that it stands in.
+/// The first piece of a message, together with the line number of the logging call.
 struct zvLogHead {
     zvLogHead(const char* head, int callLine = __builtin_LINE()) : text(head), line(callLine) {}
 
@@ -22,9 +23,9 @@ struct zvLogHead {
     int line;
 };
 
-/// The one way of logging: a source file names itself once and then logs messages in pieces,
-/// `logger.error("Error in opening file : \"", path, "\"")`. The pieces, each a zvString, a narrow text or an
-/// int, are put together only when somebody will read the message.
+/// The logger of one source file: it is constructed with the file's name and then logs messages in pieces,
+/// `logger.error("Error in opening file : \"", path, "\"")`. The pieces, each a zvString, a narrow string or
+/// an int, are concatenated only if the message will be read.
 class zvLogSource {
 public:
     explicit constexpr zvLogSource(const char* file) : m_pFile(file) {}
@@ -50,7 +51,7 @@ public:
         log(zvLogLevel::fatal, head, rest...);
     }
 
-    /// Logs an error and throws it as the message of a zvException's result.
+    /// Logs an error and throws a zvException with the same message in its result.
     template <typename... Pieces>
     [[noreturn]] void raise(zvLogHead head, const Pieces&... rest) const {
         raiseAt(zvLogLevel::error, head, zvTextBuilder::concat(head.text, rest...));

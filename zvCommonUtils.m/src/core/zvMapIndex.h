@@ -3,13 +3,13 @@
 
 #include <iterator>
 
-/// The entry that an index names in an ordered map; null when it names none.
+/// Entry `i` of an ordered map; null for an index out of range.
 template <typename Map>
 const typename Map::value_type* zvMapEntryAt(const Map& map, int i) {
     return i >= 0 && i < static_cast<int>(map.size()) ? &*std::next(map.begin(), i) : nullptr;
 }
 
-/// The value under `key` in a map; null without one.
+/// The value of `key`; null for a missing key.
 template <typename Map, typename Key>
 auto* zvMapFind(Map& map, const Key& key) {
     const auto found = map.find(key);

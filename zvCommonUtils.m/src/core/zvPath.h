@@ -8,15 +8,14 @@
 
 namespace zvPath {
 
-/// The part behind the last backslash or slash; empty for a bare name.
+/// The part after the last backslash or slash; empty for a path without either.
 zvString fileName(const zvString& path);
 std::string_view fileName(std::string_view path);
 
-/// The path in narrow text, as this system's own interfaces expect it; empty for a path without a narrow
-/// form.
+/// The path in narrow text with this system's delimiters; empty for a path without a narrow form.
 std::string native(const zvString& path);
 
-/// `folder`, a backslash and `name`.
+/// `folder` and `name`, joined by a backslash.
 zvString join(const zvString& folder, const zvString& name);
 
 }  // namespace zvPath

@@ -3,8 +3,8 @@
 
 #include "zvCoreObject.h"
 
-/// Counts the owners of an object on the heap, on one thread at a time. The count starts at 0: the creator
-/// calls AddRef() to own the object, and a Release() without that deletes it.
+/// The base of reference-counted heap objects. The count is not atomic: one thread at a time. It starts at 0,
+/// so that the creator has to call AddRef() to own the object.
 class ZV_EXPORT zvReferenceCtr : public zvCoreObject {
 public:
     zvReferenceCtr() = default;
@@ -14,7 +14,7 @@ public:
 
     /// @return the new count.
     virtual int AddRef();
-    /// @return the new count; at 0 the object has deleted itself.
+    /// @return the new count; at 0 or below the object has deleted itself.
     virtual int Release();
 
 private:

@@ -3,26 +3,27 @@
 
 #include "zvString.h"
 
-/// The outcome of an operation: a code, a message, the kind of failure and free additional information.
+/// The outcome of an operation: a code, a message, the type of failure and additional information as free
+/// text.
 ///
-/// A result is a failure until an operation says otherwise, so that every early return reports one.
+/// A new result is a failure, so that an early return reports one unless success is set explicitly.
 class ZV_EXPORT zvResult {
 public:
-    /// Code -1, business failure, no texts.
+    /// Code -1, business failure, no message.
     zvResult();
-    /// 0 means success and -1 the generic failure; an operation may have codes of its own.
+    /// 0 is success and -1 generic failure; an operation may define further codes.
     zvResult(int code);
     zvResult(const zvResult& other);
     virtual ~zvResult();
 
     zvResult& operator=(const zvResult& other);
-    /// Sets the code and keeps everything else.
+    /// Sets the code only.
     zvResult& operator=(int code);
 
     void setResult(int code);
     int getResult() const;
     bool isOk() const;
-    /// Sets the code to 0 and keeps everything else, an earlier message too.
+    /// Sets the code to 0; an earlier message stays.
     void setOk();
 
     void setMessage(const zvString& message);
@@ -30,14 +31,14 @@ public:
     void setAdditionalInformation(const zvString& information);
     zvString getAdditionalInformation() const;
 
-    /// 0 for a business failure, 1 for a file-transfer failure; it says nothing about success.
+    /// 0 for a business failure, 1 for a file-transfer failure; independent of the code.
     int getFailureType() const;
     void setBusinessFailure();
     void setFileTransferFailure();
     static bool isBusinessFailure(int type);
     static bool isFileTransferFailure(int type);
 
-    /// Equal codes and failure types; the texts are not compared.
+    /// Compares code and failure type, not the message and the additional information.
     bool operator==(const zvResult& other) const;
     bool operator!=(const zvResult& other) const;
 

@@ -4,21 +4,21 @@
 #include "zvExport.h"
 #include "zvTypes.h"
 
-/// The library's one text type: UTF-16 code units in a 0-terminated buffer that the string owns.
+/// The library's string class: UTF-16 code units in a null-terminated buffer that the string owns.
 ///
-/// Positions are 0-based code unit indices and -1 means "not found". Narrow text is multibyte text in the
-/// process's locale, which the library never changes. Nothing in here throws: a failed conversion or
-/// allocation leaves the string empty or unchanged.
+/// Positions are 0-based code unit indices; -1 means "not found". Narrow text is multibyte text in the
+/// process's locale, which the library never changes. Nothing throws: a failed conversion or allocation
+/// leaves the string empty or unchanged.
 ///
-/// A buffer grows to exactly what is needed and is kept when the text becomes shorter. A string that never
-/// held text has no buffer at all: data() is then null.
+/// The buffer grows to an exact fit and never shrinks. A string that never held text has no buffer: data() is
+/// null.
 class ZV_EXPORT zvString {
 public:
     zvString();
     zvString(const zvString& other);
-    /// Takes the other's buffer and leaves it as a string that never held text.
+    /// Takes over the other's buffer, which leaves the other without one.
     zvString(zvString&& other) noexcept;
-    /// Null gives an empty string in each of these; text is read up to its terminator, and to `n` at most.
+    /// Copies text up to its terminator, at most `n` characters; null gives an empty string.
     zvString(const char* text);
     zvString(const char* text, int n);
     zvString(const wchar16* text);
@@ -33,14 +33,14 @@ public:
     explicit zvString(bool b);
     explicit zvString(int v);
     explicit zvString(long v);
-    /// Six decimals, as in "2.500000"; empty when that takes more than 63 characters.
+    /// With six decimals, for example "2.500000"; empty if that takes more than 63 characters.
     explicit zvString(double v);
     virtual ~zvString();
 
     zvString& operator=(const zvString& other);
-    /// Null gives an empty text.
+    /// Null gives an empty string.
     zvString& operator=(const char16_t* text);
-    /// Exchanges the two texts with their buffers.
+    /// Swaps the buffers.
     void swap(zvString& other) noexcept;
 
     zvString& append(const zvString& other);
@@ -50,84 +50,94 @@ public:
     zvString& operator+=(char c);
     zvString& operator+=(const char* text);
 
-    /// The text, owned by the string and valid until it changes; null for a string that never held text.
+    /// The null-terminated text, owned by the string and valid until it is modified; null for a string that
+    /// never held text.
     const wchar16* data() const { return m_pBuffer; }
-    /// Code units before the terminator.
+    /// The length in code units, terminator excluded.
     int size() const { return m_length; }
     bool empty() const { return m_length == 0; }
-    /// The code unit at `i`, which is not checked; 0 without a buffer.
+    /// The code unit at `i`, without a range check; 0 for a string without a buffer.
     wchar16 operator[](int i) const { return m_pBuffer == nullptr ? wchar16{0} : m_pBuffer[i]; }
-    /// The text as narrow text, owned by the string and valid until it changes; null for an empty string and
-    /// for a text without a narrow form.
+    /// The text converted to narrow text, cached, owned by the string and valid until it is modified; null
+    /// for an empty string and for text that the locale cannot encode.
     const char* getChars() const;
-    /// Byte `i`, which is not checked, of getChars(); 0 when that is null.
+    /// Byte `i` of getChars(), without a range check; 0 if that is null.
     char getCharAt(int i) const;
 
     bool equals(const zvString& other) const;
     bool equalsIgnoreCase(const zvString& other) const;
     bool operator==(const zvString& other) const { return equals(other); }
     bool operator!=(const zvString& other) const { return !equals(other); }
-    /// Ordinal order of the code units; a string without a buffer comes before every other text.
+    /// Ordinal comparison of the code units; a string without a buffer sorts first.
     bool operator<(const zvString& other) const;
     bool operator>(const zvString& other) const;
 
-    /// First position of `s` in the range `start` .. `end`, both inclusive; `end` -1 means the last position.
+    /// The first match of `s` within the range `start` .. `end`, both inclusive; `end` -1 is the last
+    /// position.
     int find(const zvString& s, int start = 0, int end = -1) const;
+    /// The same, case-insensitively.
     int findNoCase(const zvString& s, int start = 0, int end = -1) const;
-    /// Last position of `s` in the range `lowest` .. `from`, both inclusive; `from` -1 means the last
+    /// The last match of `s` within the range `lowest` .. `from`, both inclusive; `from` -1 is the last
     /// position.
     int reverseFind(const zvString& s, int from = -1, int lowest = 0) const;
+    /// The same, case-insensitively.
     int reverseFindNoCase(const zvString& s, int from = -1, int lowest = 0) const;
-    /// Occurrences of `s`, which do not overlap, in the range of find().
+    /// The number of non-overlapping matches of `s`; the range is that of find().
     int count(const zvString& s, int start = 0, int end = -1) const;
+    /// The same, case-insensitively.
     int countNoCase(const zvString& s, int start = 0, int end = -1) const;
-    /// Replaces what count() counts; an empty `to` deletes it. @return the number of replacements; 0 as well
-    /// when `from` equals `to` or one of them is this very string.
+    /// Replaces the matches that count() finds; an empty `to` deletes them.
+    /// @return the number of replacements; 0 also if `from` equals `to` or one of them is this string itself.
     int replace(const zvString& from, const zvString& to, int start = 0, int end = -1);
+    /// The same, case-insensitively.
     int replaceNoCase(const zvString& from, const zvString& to, int start = 0, int end = -1);
 
-    /// Inserts `s` before position `pos`; at size() it appends. @return false for an empty `s`, this very
-    /// string and a position outside the text. When the buffer has room for the result, the text behind `pos`
-    /// is moved up lowest position first, over itself: a tail longer than `s` then repeats its beginning.
+    /// Inserts `s` at `pos`; size() appends.
+    /// @return false for an empty `s`, for this string itself and for a `pos` out of range. If the buffer
+    /// already has room for the result, the tail is moved forward from its lowest position and overwrites
+    /// itself: a tail longer than `s` then repeats its beginning.
     bool insert(const zvString& s, int pos);
-    /// At most `n` characters from `pos`; empty when `n` is below 1 or `pos` outside the text.
+    /// At most `n` code units from `pos`; empty if `n` is below 1 or `pos` out of range.
     zvString substr(int pos, int n) const;
-    /// Removes white space from both ends.
+    /// Removes leading and trailing white space.
     void trim();
     void reverse();
     void toLower();
     void toUpper();
     /// Frees the buffer.
     void clear();
-    /// Empties the text and keeps the buffer.
+    /// Sets the length to 0 and keeps the buffer.
     void reset();
 
-    /// True for "true" and "1", ignoring case.
+    /// True for "true", case-insensitively, and for "1".
     bool toBoolean() const;
 
-    /// The integer at the start of the text, after white space; 0 without one, and the nearest 32-bit number
-    /// for one that is out of range.
+    /// The integer at the start of the text, after white space; 0 if there is none. Out of range, it is
+    /// clamped to 32 bits.
     static int convertUnicodeToInt(const zvString& text);
     static long convertUnicodeToLong(const zvString& text);
-    /// The number at the start of the text, after white space; 0.0 without one.
+    /// The number at the start of the text, after white space; 0.0 if there is none.
     static double convertUnicodeToDouble(const zvString& text);
-    /// Whether convertUnicodeToInt is not 0: unlike toBoolean(), "true" is false and "2" is true.
+    /// Whether convertUnicodeToInt() gives a number other than 0: unlike in toBoolean(), "true" is false and
+    /// "2" is true.
     static bool convertUnicodeToBool(const zvString& text);
 
-    /// The converters below return new buffers, which the caller owns and gives back to releaseString or
-    /// releaseUnicode, and null where there is nothing to return.
+    /// The converters below return new null-terminated buffers, which the caller owns and frees with
+    /// releaseString() or releaseUnicode(); null for null, for empty and for unconvertible text.
     ///
-    /// At most `n` characters are converted. @return the number of characters in `out`.
+    /// Converts at most `n` characters.
+    /// @return the number of characters in `out`.
     static int convertStringToUnicode(const char* text, int n, wchar16*& out);
     static wchar16* convertStringToUnicode(const char* text);
-    /// At most `n` characters are converted. @return the number of bytes in `out`.
+    /// Converts at most `n` characters.
+    /// @return the number of bytes in `out`.
     static int convertUnicodeToString(const wchar16* text, int n, char*& out);
     static char* convertUnicodeToString(const wchar16* text);
     static char* convertToLowerCase(const char* text);
     static char* convertToUpperCase(const char* text);
     static wchar16* convertToLowerCase(const wchar16* text);
     static wchar16* convertToUpperCase(const wchar16* text);
-    /// Deletes the buffer, which may be null, and sets the pointer to null.
+    /// Frees the buffer, which may be null, and sets the pointer to null.
     static void releaseString(char*& text);
     static void releaseUnicode(wchar16*& text);
 

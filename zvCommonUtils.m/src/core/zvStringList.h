@@ -6,7 +6,7 @@
 
 class zvStringListImpl;
 
-/// Strings in the order of their addition, duplicates included.
+/// A list of strings in insertion order; duplicates are allowed.
 class ZV_EXPORT zvStringList : public zvCoreObject {
 public:
     zvStringList();
@@ -15,14 +15,14 @@ public:
     ~zvStringList() override;
 
     void addString(const zvString& text);
-    /// Takes the text's buffer and leaves `text` empty.
+    /// Moves the string into the list; `text` is empty afterwards.
     void addString(zvString&& text);
     int numStrings() const;
-    /// A copy of entry `i`; an empty string for any other index.
+    /// A copy of entry `i`; an empty string if `i` is out of range.
     zvString getString(int i) const;
-    /// Entry `i` itself, owned by the list and valid until it changes; null for any other index.
+    /// Entry `i`, owned by the list and valid until the list changes; null if `i` is out of range.
     const zvString* findString(int i) const;
-    /// The first entry that equals `text`, or -1.
+    /// The index of the first entry that equals `text`; -1 if there is none.
     int getStringIndex(const zvString& text) const;
     bool empty() const;
     /// A copy of the last entry; an empty string for an empty list.

@@ -38,7 +38,7 @@ public:
         return entry->first == key ? &entry->second : zvMapFind(m_attributes, key);
     }
 
-    // The key is new. Nothing is added unless the slots have room for it as well.
+    // Precondition: the key is new. Strong guarantee: the cache grows before the entry is added.
     void add(const zvString& key, const zvAttribute& attribute) {
         if ((m_attributes.size() + 1) * slotsOfAnEntry > m_slots.size()) {
             makeSlots(std::max(fewestSlots, m_slots.size() * 2));
@@ -49,11 +49,11 @@ public:
 private:
     using Slots = std::vector<Attributes::value_type*>;
 
-    // Powers of two: enough for most entries to have a slot of their own.
+    // Powers of two, large enough for few collisions.
     static constexpr std::size_t fewestSlots = 8;
     static constexpr std::size_t slotsOfAnEntry = 4;
 
-    // The 32-bit FNV-1a hash, with the high bits folded into those that tell the slot.
+    // The 32-bit FNV-1a hash, with the high bits folded into those that select the slot.
     std::size_t slotOf(const zvString& key) const {
         std::uint32_t hash = 2166136261U;
         for (int i = 0; i < key.size(); ++i) {
@@ -75,9 +75,9 @@ private:
     }
 
     Attributes m_attributes;
-    // Spares most look-ups the walk down the tree. The slot of a key's hash holds the first entry that came
-    // for it, so that an empty one tells that there is none; whoever finds another's entry there walks, and
-    // keys that were made to meet in one slot gain nothing by it.
+    // A hash cache over the tree. A slot holds the first entry whose hash selects it, so that an empty slot
+    // means a missing key. A collision falls back to the tree, so that keys crafted to collide cost no more
+    // than without the cache.
     Slots m_slots;
 };
 

@@ -5,8 +5,8 @@
 
 class zvStringToAttrMapImpl;
 
-/// An ordered map from text to attribute. Keys are unique and in zvString's order, which the indices follow;
-/// reaching entry `i` takes `i` steps.
+/// An ordered map from string to attribute, with unique keys. Indices follow the order of the keys; access by
+/// index is linear.
 class ZV_EXPORT zvStringToAttrMap {
 public:
     zvStringToAttrMap();
@@ -14,15 +14,15 @@ public:
     zvStringToAttrMap& operator=(const zvStringToAttrMap& other);
     virtual ~zvStringToAttrMap();
 
-    /// False, with nothing changed, when the key is there already.
+    /// False, with nothing changed, if the key exists already.
     bool addAttr(const zvString& key, const zvAttribute& attribute);
     /// Adds or replaces.
     void updateAttr(const zvString& key, const zvAttribute& attribute);
-    /// Each getter copies what it finds into `out`; false, with `out` untouched, when there is nothing.
+    /// Copies into `out`; false, with `out` unchanged, for a missing key or an index out of range.
     bool getAttr(const zvString& key, zvAttribute& out) const;
     bool getAttr(int i, zvAttribute& out) const;
     bool getAttrName(int i, zvString& out) const;
-    /// The attribute itself, owned by the map and valid until its entry changes; null for an absent key.
+    /// The attribute, owned by the map and valid until its entry changes; null for a missing key.
     const zvAttribute* findAttr(const zvString& key) const;
     int size() const;
 

@@ -6,8 +6,8 @@
 
 #include "zvKeptString.h"
 
-/// An ordered map from text to text. Keys are unique and in zvString's order, which the indices follow;
-/// reaching entry `i` takes `i` steps.
+/// An ordered map from string to string, with unique keys. Indices follow the order of the keys; access by
+/// index is linear.
 class ZV_EXPORT zvStringToStringMap {
 public:
     zvStringToStringMap();
@@ -15,18 +15,18 @@ public:
     zvStringToStringMap& operator=(const zvStringToStringMap& other);
     virtual ~zvStringToStringMap();
 
-    /// False, with nothing changed, when the key is there already.
+    /// False, with nothing changed, if the key exists already.
     bool add(const zvString& key, const zvString& value);
     bool add(zvString&& key, zvString&& value);
     /// Adds or replaces.
     void setValue(const zvString& key, const zvString& value);
-    /// The value; empty for an absent key as for an empty value.
+    /// The value of `key`; empty also for a missing key.
     zvString getValue(const zvString& key) const;
-    /// Key and value of entry `i` in key order; empty for any other index.
+    /// Key and value of entry `i` in key order; empty if `i` is out of range.
     zvString getKey(int i) const;
     zvString getValue(int i) const;
     int size() const;
-    /// Calls `visit(key, value)` for every entry in key order, in one walk.
+    /// Calls `visit(key, value)` for every entry in key order, in linear time.
     template <typename Visit>
     void forEach(Visit visit) const {
         for (const auto& entry : m_map) {
@@ -34,7 +34,7 @@ public:
         }
     }
     void clear();
-    /// Replaces the content by a copy of the other's.
+    /// Replaces the content with a copy of the other's.
     void copy(const zvStringToStringMap& other);
 
 private:

@@ -44,7 +44,7 @@ zvString zvStringTokeniser::getToken(int i) const { return m_tokens.getString(i)
 
 void zvStringTokeniser::tokeniseWithCharDelimiter() {
     const View text = viewOf(m_strSource);
-    // A byte beyond ASCII stays the negative number that it is as a signed char, and matches no text.
+    // A delimiter beyond ASCII is sign-extended, and so matches no code unit of ordinary text.
     const auto delimiter = static_cast<wchar16>(static_cast<signed char>(m_delimiter));
     std::size_t start = text.find_first_not_of(delimiter);
     while (start != npos) {

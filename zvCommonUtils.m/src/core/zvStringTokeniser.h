@@ -3,25 +3,25 @@
 
 #include "zvStringList.h"
 
-/// Splits a text once, when tokenise() is called.
+/// Splits a string into tokens when tokenise() is called.
 ///
-/// By a character: leading delimiters give no token, a run of k delimiters behind a token gives k - 1 empty
-/// ones. By any character of a delimiter text, or by a delimiter text as a whole: no token is ever empty.
-/// Without a delimiter the whole text is one token.
+/// With a single delimiter character, leading delimiters give no token, and a run of k delimiters after a
+/// token gives k - 1 empty tokens. With a delimiter string, as a set of characters or as a whole, no token is
+/// empty. Without a delimiter the whole string is one token.
 class ZV_EXPORT zvStringTokeniser {
 public:
-    /// The character matches in ASCII only.
+    /// Only ASCII delimiters match.
     zvStringTokeniser(zvString source, char delimiter);
-    /// `wholeString`: `delimiters` is one separator, otherwise each of its characters is one.
+    /// With `wholeString`, `delimiters` is one delimiter; otherwise each of its characters is one.
     zvStringTokeniser(zvString source, const char* delimiters, bool wholeString);
     zvStringTokeniser(const zvStringTokeniser&) = delete;
     zvStringTokeniser& operator=(const zvStringTokeniser&) = delete;
     virtual ~zvStringTokeniser();
 
-    /// Appends the tokens to the list; a second call appends them once more.
+    /// Appends the tokens to the token list: not idempotent, a second call appends them again.
     void tokenise();
     int getNumTokens() const;
-    /// Token `i`; an empty string for any other index.
+    /// Token `i`; an empty string if `i` is out of range.
     zvString getToken(int i) const;
 
 private:

@@ -3,14 +3,14 @@
 
 #include <map>
 
-/// An ordered map whose lookup reports presence.
+/// An ordered map whose lookup reports whether the key exists.
 template <typename Key, typename Value>
 class zvTemplateMap {
 public:
-    /// False, with nothing changed, when the key is there already.
+    /// False, with nothing changed, if the key exists already.
     bool insert(const Key& key, const Value& value) { return m_map.emplace(key, value).second; }
 
-    /// Copies the value into `out`; false, with `out` untouched, when the key is absent.
+    /// Copies the value into `out`; false, with `out` unchanged, for a missing key.
     bool find(const Key& key, Value& out) const {
         const auto found = m_map.find(key);
         if (found != m_map.end()) {

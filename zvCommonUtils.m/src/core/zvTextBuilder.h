@@ -5,7 +5,7 @@
 
 #include "zvString.h"
 
-/// Puts a text together from pieces, with room to grow, before it becomes an exact-fit zvString.
+/// Concatenates pieces in a growing buffer, whose content then becomes an exact-fit zvString.
 class zvTextBuilder {
 public:
     zvTextBuilder& append(const zvString& piece);
@@ -14,14 +14,14 @@ public:
     zvTextBuilder& append(wchar16 unit);
     zvTextBuilder& append(char16_t unit) { return append(static_cast<wchar16>(unit)); }
     zvTextBuilder& append(char) = delete;  // or it would be appended as a number
-    /// At most `length` code units of `piece`.
+    /// Appends `length` code units of `piece`; nothing if `length` is below 1.
     zvTextBuilder& append(const wchar16* piece, int length);
 
     bool empty() const { return m_text.empty(); }
     void clear() { m_text.clear(); }
     zvString toString() const;
 
-    /// The pieces, each a zvString, a narrow text or an int, one behind the other.
+    /// The concatenation of the pieces, each a zvString, a narrow string or an int.
     template <typename... Pieces>
     static zvString concat(const Pieces&... pieces) {
         zvTextBuilder builder;

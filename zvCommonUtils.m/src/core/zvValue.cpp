@@ -12,7 +12,7 @@ namespace {
 
 constexpr char noOrderOfBooleans[] = "On boolean datatype only equal to and not equal to action happens";
 
-// What is too large for a float is infinite; a plain conversion of it would be undefined.
+// Out of the range of float, the plain conversion would be undefined behaviour.
 float toFloat(double value) {
     if (std::fabs(value) > static_cast<double>(FLT_MAX)) {
         return std::copysign(std::numeric_limits<float>::infinity(), value > 0 ? 1.0F : -1.0F);
@@ -31,7 +31,7 @@ zvDateTime toDate(const zvString& text) {
     return date;
 }
 
-// The text is in the exception and in its result: callers read either.
+// The message is set in both the exception and its result, since callers read either.
 [[noreturn]] void fail(const char* message) {
     zvResult result;
     result.setMessage(message);
@@ -66,7 +66,7 @@ zvValue::zvValue(zvValue&& other) noexcept = default;
 
 zvValue::~zvValue() = default;
 
-// The copy that may fail comes first.
+// Strong guarantee: the only copy that may throw comes first.
 zvValue& zvValue::operator=(const zvValue& other) {
     zvKeptString text(other.m_strValue);
     m_strValue.swap(text);
@@ -213,7 +213,7 @@ zvString zvValue::getValue() const {
     }
 }
 
-// Compares the text forms; two Strings, the usual case, are not copied for it.
+// Compares the text forms; without copies for two Strings, the common case.
 template <typename Compare>
 bool zvValue::compareText(const zvValue& other, Compare compare) const {
     if (m_dataType == zvDataTypeString && other.m_dataType == zvDataTypeString) {

@@ -5,7 +5,7 @@
 #include "zvException.h"
 #include "zvKeptString.h"
 
-/// The configuration files name these "Integer", "Float", "String", "Date" and "Boolean".
+/// Data types; "Integer", "Float", "String", "Date" and "Boolean" in configuration files.
 enum zvDataTypeEnum : int {
     zvDataTypeNone = 0,
     zvDataTypeInteger = 1,
@@ -15,13 +15,13 @@ enum zvDataTypeEnum : int {
     zvDataTypeBoolean = 5
 };
 
-/// One typed value: an integer, a float, a text, a date or a boolean, converted on reading.
+/// A typed value: an integer, a float, a string, a date or a boolean, converted by the getters.
 ///
-/// There is a slot for each type, and a setter touches its own slot and the type only. Dates pass through
-/// texts in the pattern "DD/MM/YYYY::hh-mm-ss".
+/// Each type has a slot of its own; a setter changes only its slot and the type. Dates convert to and from
+/// strings in the pattern "DD/MM/YYYY::hh-mm-ss".
 class ZV_EXPORT zvValue {
 public:
-    /// Type None, which reads as an empty text and as nothing else.
+    /// Type None, which converts to an empty string only.
     zvValue();
     explicit zvValue(bool value);
     explicit zvValue(int value);
@@ -38,20 +38,19 @@ public:
 
     void setBoolValue(bool value);
     void setIntValue(int value);
-    /// `precision` is the number of decimals that the float was given with.
+    /// `precision` is the number of decimals of the float's original text.
     void setFloatValue(float value, int precision);
     void setStrValue(const zvString& value);
     void setStrValue(zvString&& value);
     void setDateValue(const zvDateTime& value);
-    /// Changes the type alone.
+    /// Changes the type only, no slot.
     void setDataType(zvDataTypeEnum type);
     zvDataTypeEnum getDataType() const { return m_dataType; }
-    /// Reads `text` as a value of `type`. Text that is no number gives 0, a boolean is true when its text
-    /// reads as an integer other than 0, and an unknown type gives a String.
+    /// Parses `text` as a value of `type`. An invalid number gives 0; a boolean is true if its text parses as
+    /// an integer other than 0; an unknown type gives a String.
     void setValue(const zvString& text, zvDataTypeEnum type, int precision);
 
-    /// From a Boolean or a String. Every getter throws a zvException with a message when the type cannot be
-    /// converted.
+    /// From a Boolean or a String. Like the other typed getters it throws a zvException for any other type.
     bool getBoolValue() const;
     /// From an Integer, a String or a Float (towards 0); INT_MIN for a float beyond 32 bits and for NaN.
     int getIntValue() const;
@@ -61,15 +60,15 @@ public:
     zvDateTime getDateValue() const;
     /// The same as getValue().
     zvString getStrValue() const;
-    /// The text form of a value of any type; it never throws. A Boolean's, "True" or "False", is not what
-    /// setValue reads.
+    /// The text form of a value of any type; never throws. A Boolean's, "True" or "False", does not
+    /// round-trip through setValue().
     zvString getValue() const;
-    /// The text slot itself, owned by the value: a String's text form, and of no meaning for the other types.
+    /// The string slot by reference, owned by the value; meaningful for the type String only.
     const zvString& text() const { return m_strValue; }
 
-    /// The left value's type decides: the right one is converted to it by the getters, which may throw.
-    /// On texts `<=` and `>=` are strict, so that equal texts are both `<` and `>`; on dates `<=` alone is,
-    /// so that equal dates are `>`. Booleans throw for everything but `==` and `!=`.
+    /// Compares as the type of the left operand, to which the right operand is converted by the getters,
+    /// which may throw. On strings `<=` and `>=` are strict, so that equal strings are both `<` and `>`; on
+    /// dates only `<=` is strict, so that equal dates are `>`. Booleans throw for all but `==` and `!=`.
     bool operator==(const zvValue& other) const;
     bool operator!=(const zvValue& other) const;
     bool operator<(const zvValue& other) const;
@@ -78,7 +77,7 @@ public:
     bool operator>=(const zvValue& other) const;
 
 protected:
-    /// Resets everything but the text and the date.
+    /// Resets everything but the string slot and the date slot.
     void initialize();
     void copy(const zvValue& other);
 

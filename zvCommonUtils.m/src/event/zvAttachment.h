@@ -6,11 +6,10 @@
 
 /// A file that accompanies an event.
 ///
-/// Its transfer mode is a number of its own, 0 for BINARY and 1 for ASCII: zvTransferModeEnum counts the
-/// other way round.
+/// Its transfer mode is 0 for BINARY and 1 for ASCII: the opposite of zvTransferModeEnum.
 class ZV_EXPORT zvAttachment : public zvCoreObjectCommon {
 public:
-    /// No path, BINARY, to be deleted.
+    /// No path, binary transfer, to be deleted.
     zvAttachment();
     zvAttachment(const zvAttachment& other);
     zvAttachment& operator=(const zvAttachment& other);
@@ -20,18 +19,18 @@ public:
     zvString getFilePath() const;
 
     void setFileTransferMode(int mode);
-    /// As getFileTransferModeInt reads the text.
+    /// Converts `mode` with getFileTransferModeInt().
     void setFileTransferMode(const zvString& mode);
     int getFileTransferMode() const;
 
-    /// Whether the file is deleted once it is transferred.
+    /// Whether the local file is deleted after the transfer.
     void setToBeDeleted(bool toBeDeleted);
     bool getToBeDeleted() const;
 
-    /// As in "Attachment[FilePath:C:\x\a.txt FileType:BINARY ToBeDeleted:TRUE]".
+    /// For example "Attachment[FilePath:C:\x\a.txt FileType:BINARY ToBeDeleted:TRUE]".
     zvString toString() const;
 
-    /// 1 for "ASCII" exactly, 0 for any other text.
+    /// 1 for "ASCII", case-sensitively; 0 for anything else.
     static int getFileTransferModeInt(const zvString& mode);
     /// "ASCII" for 1, "BINARY" for any other number.
     static zvString getFileTransferModeStr(int mode);

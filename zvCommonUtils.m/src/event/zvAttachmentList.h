@@ -9,7 +9,7 @@
 #include "zvString.h"
 #include "zvStringList.h"
 
-/// An event's attachments in the order of their addition, which the list owns.
+/// An event's attachments in insertion order. The list owns them.
 class ZV_EXPORT zvAttachmentList : public zvCoreObjectCommon {
 public:
     zvAttachmentList();
@@ -20,7 +20,7 @@ public:
     /// Takes ownership; null is ignored.
     void addAttachment(zvAttachment* attachment);
     int numAttachments() const;
-    /// Attachment `i`, which the list keeps; null for any other index.
+    /// Attachment `i`, owned by the list; null if `i` is out of range.
     zvAttachment* getAttachment(int i) const;
     bool empty() const;
     /// Deletes the attachments.
@@ -28,7 +28,7 @@ public:
 
     /// Appends the attachments' paths to `files`.
     void getFileList(zvStringList& files) const;
-    /// "Attachments[", each attachment's text on a new line, "]".
+    /// "Attachments[", each attachment's toString() on a new line, "]".
     zvString toString() const;
 
 private:

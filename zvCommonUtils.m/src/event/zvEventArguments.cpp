@@ -78,13 +78,13 @@ constexpr const char* eventNames[] = {"mirror",
                                       "broadcastTransferLOCFromLk",
                                       "mirrorFromLK"};
 
-// The next number that may name a directory; the numbers are 32-bit seconds and start again behind the last.
+// The next candidate for a directory name: seconds as a 32-bit number that wraps around.
 std::int32_t nextCandidate(std::int32_t candidate) {
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(candidate) + 1U);
 }
 
-// Creates the event's directory under the first free number, and tells that and the path. Other processes
-// make directories under the same root: a number that one of them takes first is not free any more.
+// Creates the event's directory under the first free number and sets `name` and `path`. Retries when another
+// process wins the race for a number under the same root.
 zvResult createEventDirectory(const zvString& root, zvString& name, zvString& path) {
     for (auto candidate = static_cast<std::int32_t>(zvPlatform::currentTime());;
          candidate = nextCandidate(candidate)) {
@@ -148,7 +148,7 @@ bool zvEventArguments::addKeyValueToEventArgument(zvString& arg, zvEventArgument
     if (args == nullptr) {
         return false;
     }
-    // What is kept of the key so far; `from` is where the text behind it begins.
+    // The key unescaped so far; `from` is the start of the rest.
     zvTextBuilder key;
     int from = 0;
     int separator = arg.find("=");
@@ -166,7 +166,7 @@ bool zvEventArguments::addKeyValueToEventArgument(zvString& arg, zvEventArgument
     const zvString name = key.toString();
     const zvString value = found ? arg.substr(separator + 1, arg.size() - separator - 1) : zvString();
     if (from > 0) {
-        // The caller sees the argument without the backslashes.
+        // Callers get the argument back unescaped.
         arg = found ? zvTextBuilder::concat(name, "=", value) : name;
     }
     if (!found) {

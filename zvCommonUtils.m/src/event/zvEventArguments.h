@@ -8,7 +8,7 @@
 #include "zvString.h"
 #include "zvStringToStringMap.h"
 
-/// The events; getStringForEventNameEnum gives the texts that receiving programs match on.
+/// The events; getStringForEventNameEnum() returns the names that receiving programs match.
 enum zvEventNameEnum : int {
     zvEventMirror = 0,
     zvEventPublishKpdmPart = 1,
@@ -78,55 +78,55 @@ enum zvEventNameEnum : int {
     zvEventMirrorFromLK = 65
 };
 
-/// The arguments of one event: keys with their values, in key order.
+/// The arguments of one event: key-value pairs, ordered by key.
 ///
-/// A copy is a copy of the arguments. The values of "LoginPassword" and "KPDMPasswd" never reach the log.
+/// Copies are deep. The values of "LoginPassword" and "KPDMPasswd" are never logged.
 class ZV_EXPORT zvEventArguments : public zvCoreObject {
 public:
-    /// The arguments "EventName" and "EventTriggeredByUser".
+    /// Sets the arguments "EventName" and "EventTriggeredByUser".
     zvEventArguments(zvEventNameEnum event, const zvString& user);
     zvEventArguments(const zvEventArguments& other);
     zvEventArguments& operator=(const zvEventArguments& other);
     ~zvEventArguments() override;
 
-    /// False, with nothing changed, when the key is there already.
+    /// False, with nothing changed, if the key exists already.
     bool addEventArgument(const zvString& key, const zvString& value) const;
     /// Adds or replaces.
     void setEventArgument(const zvString& key, const zvString& value) const;
-    /// The value; empty for an absent key.
+    /// The value of `key`; empty also for a missing key.
     zvString getEventArgumentValue(const zvString& key) const;
-    /// Key and value of argument `index` in key order; empty for any other index.
+    /// Key and value of argument `index` in key order; empty if `index` is out of range.
     zvString getEventArgumentNameAt(int index) const;
     zvString getEventArgumentValueAt(int index) const;
     int numEventArguments() const;
-    /// Calls `visit(key, value)` for every argument in key order, in one walk.
+    /// Calls `visit(key, value)` for every argument in key order, in linear time.
     template <typename Visit>
     void forEach(Visit visit) const {
         m_pArguments->forEach(visit);
     }
-    /// Deletes this object, one that a parse operation made.
+    /// Deletes this object, which a parse operation created.
     void destroy();
 
-    /// The event's text; empty for a value outside the enumeration.
+    /// The event's name; empty for a value outside the enumeration.
     static zvString getStringForEventNameEnum(zvEventNameEnum event);
 
-    /// Reads a process's arguments, the first of which is the program's name. `key=value` is split at the
-    /// first
-    /// "=" without a backslash before it; `\=` puts a "=" into the key. What has no "=" is skipped; an empty
-    /// key and a repeated one are refused, with a warning.
-    /// @return a new set, to be released with destroy().
+    /// Parses the arguments of main(), without the program's name. `key=value` is split at the first
+    /// unescaped "="; `\=` escapes a "=" in the key. Arguments without "=" are skipped; empty and duplicate
+    /// keys are refused with a warning.
+    /// @return a new object, owned by the caller and released with destroy().
     static zvEventArguments* parseEventArguments(int argc, char** argv);
-    /// The same from one text of the form `"A=1" "B=2" "C=3"`.
+    /// Parses the arguments from one line of the form `"A=1" "B=2" "C=3"`.
     static zvEventArguments* parseEventArguments(const zvString& line);
 
-    /// Makes a new directory for the event in `rootShadowDir`, named by the time in seconds or the next free
-    /// number, with an empty data file and an empty attachments file in it, and sets "EventShadowDir"
-    /// (relative to the root), "DataFileName" and "AttachmentsFileName".
-    /// @return the outcome of the last file's creation, which is 0 also for a file that the system refused.
-    /// The message is the system's reason for a refusal.
+    /// Creates a new directory for the event in `rootShadowDir`, named by the current time in seconds or the
+    /// next free number, creates an empty data file and an empty attachments file in it, and sets
+    /// "EventShadowDir" (relative to the root), "DataFileName" and "AttachmentsFileName".
+    /// @return a failure if the directory cannot be created. Otherwise the result of
+    /// zvDirFileUtils::createFile() for the last file: 0 even if the system refused to create it. The message
+    /// is the system's reason.
     static zvResult populateEventArguments(const zvString& rootShadowDir, zvEventArguments& args);
-    /// Sets "EventShadowDir" of `out` to that of `in` without its "RootShadowDir", with which it has to
-    /// begin.
+    /// Sets "EventShadowDir" of `out` to that of `in` without the prefix "RootShadowDir" of `in` and the
+    /// separator; fails without that prefix.
     static zvResult populateEventArguments(const zvEventArguments& in, zvEventArguments& out);
 
 private:

@@ -4,35 +4,38 @@
 #include "zvExport.h"
 #include "zvString.h"
 
-/// What ties a gateway program to its installation: the gateway home, the client configuration below it, and
-/// a few services of the host. Nothing throws; what is missing reads as an empty text or null.
+/// The environment of a gateway program: the gateway home, the client configuration in it and a few services
+/// of the host. Nothing throws; whatever is missing is returned as an empty string or null.
 class ZV_EXPORT zvCommonUtils {
 public:
     zvCommonUtils();
     virtual ~zvCommonUtils();
 
-    /// Fixes the name of the environment variable that holds the gateway home. The first call with a name
-    /// wins, for the life of the process; false for every other.
+    /// Sets the name of the environment variable that holds the gateway home. Only the first call with a name
+    /// takes effect, for the lifetime of the process; any other returns false.
     static bool setGatewayHomeEnvVariable(const zvString& name);
-    /// The variable's name; "GATEWAY_HOME" is fixed when no other is.
+    /// The variable's name. If none was set, this sets it to "GATEWAY_HOME".
     static zvString getGatewayHomeEnvVariable();
-    /// The variable's value, read afresh; without one a line on standard output says so.
+    /// The variable's current value; if it is unset, a line on standard output says so.
     static zvString getGatewayHomePath();
     /// The path of the file `name` in the gateway home's folder "config"; empty without a gateway home.
     static zvString getConfigurationFile(const zvString& name);
+    /// The value of the environment variable `name`; empty if it is unset.
     static zvString getEnvironmentalVariable(const zvString& name);
-    /// The value of "local-server-url" in the file "client-config.ini" of the gateway home's folder "config".
-    /// What is missing is logged.
+    /// The value of "local-server-url" in "config/client-config.ini" under the gateway home. A missing home,
+    /// file or key is logged.
     static zvString getLocalServerUrl();
-    /// The address of `function` in `library`, which is loaded if need be and never released.
+    /// The address of `function` in the dynamic library `library`, which is loaded on demand and never
+    /// unloaded; null if either is missing.
     static void* getFunctionPtr(const char* library, const char* function);
-    /// Local time as in "Sat May 21 11:12:22 2011", with a line feed behind it.
+    /// The local time, for example "Sat May 21 11:12:22 2011", followed by a line feed.
     static zvString getCurrentTime();
+    /// Blocks the calling thread.
     static void sleep(unsigned long milliseconds);
-    /// For the start of a program's main(): sets the locale to the user's, or to C.UTF-8 where the user's is
-    /// not UTF-8 and the system has a choice. Nothing else in the library changes the locale.
+    /// For the start of a program's main(): sets the locale to the user's, or to C.UTF-8 if the user's encoding is
+    /// not UTF-8 and the system has that locale. Nothing else in the library changes the locale.
     static void adoptUserLocale();
-    /// Whether the text is "true" or "false", ignoring case.
+    /// Whether `text` is "true" or "false", case-insensitively.
     static bool validBooleanValue(const zvString& text);
 };
 

@@ -14,7 +14,7 @@ constexpr zvLogSource logger("zvCommonUtils.m/src/zvDirFileUtils");
 
 zvString lastErrorCode() { return zvString(static_cast<long>(zvPlatform::lastError())); }
 
-// Reads up to a line feed, in pieces of 1023 characters; a zero byte ends the line as it ends a text.
+// Reads a line in pieces of 1023 bytes, without its line feed. A zero byte ends the piece that it is in.
 void readLine(std::FILE* file, std::string& line) {
     constexpr std::size_t pieceCapacity = 1024;
     char piece[pieceCapacity];
@@ -71,8 +71,8 @@ zvResult zvDirFileUtils::createFile(const zvString& path) {
         logger.warn("File \"", path, "\" already exist");
         return result;
     }
-    // A refused creation gives a handle too, which then cannot be closed: callers rely on the success it
-    // reads as. No system answers 0.
+    // A refused creation is success as well, since callers rely on that: it returns a handle too, one that
+    // cannot be closed. No system returns 0.
     const zvPlatform::Handle handle = zvPlatform::createFile(path.data());
     result.setOk();
     if (!zvPlatform::closeHandle(handle)) {

@@ -5,10 +5,10 @@
 #include "zvString.h"
 #include "zvStringList.h"
 
-/// Directories, files and paths. Failures are told by the result (-1) or by false, and logged.
+/// Operations on directories, files and paths. Failures are logged and reported as a result of -1 or as
+/// false.
 ///
-/// The path delimiter is the backslash; on a system with another one, paths are translated when they reach
-/// it.
+/// The path separator is the backslash; on other systems it is translated when a path is used.
 class ZV_EXPORT zvDirFileUtils {
 public:
     zvDirFileUtils();
@@ -16,33 +16,33 @@ public:
     zvDirFileUtils& operator=(const zvDirFileUtils& other);
     virtual ~zvDirFileUtils();
 
-    /// Appends one backslash, also behind another one.
+    /// Appends a backslash, even if the path ends in one.
     static void appendPathDelimiter(zvString& path);
-    /// Creates one directory, not its parents. An existing one is a failure. What the system refuses, here
-    /// and in createFile(), has the system's reason as the result's message.
+    /// Creates one directory, not its parents; fails if it exists. If the system refuses, the result's
+    /// message is the system's reason, as in createFile().
     static zvResult createDirectory(const zvString& path);
-    /// Creates a new, empty file; an existing one is a failure. A file that the system refuses to create is
-    /// logged and yet answered with 0: who needs the file tests for it with isAccessible().
+    /// Creates a new, empty file; fails if it exists. If the system refuses, that is logged, but the code is
+    /// 0: check with isAccessible() whether the file exists.
     static zvResult createFile(const zvString& path);
-    /// Removes one file.
+    /// Deletes one file; false if that fails.
     static bool deleteFile(const zvString& path);
-    /// Removes directory trees through the command "rmdir /s/q", which `path` follows at once: it begins with
-    /// a blank, and a path with blanks stands in double quotes.
+    /// Removes directory trees with the command "rmdir /s/q", to which `path` is appended as it is: it has to
+    /// begin with a blank, and a path with blanks has to be quoted.
     static bool deleteDir(const zvString& path);
     /// What an access test asks for.
     enum AccessMode : int { existence = 0, writable = 2, readable = 4, readAndWrite = 6 };
-    /// False for a `mode` that is none of AccessMode's.
+    /// Whether the file or directory is accessible; false for a `mode` that is not one of AccessMode's.
     static bool isAccessible(const zvString& path, int mode);
-    /// The system's reason why the path is not accessible in that mode; empty when it is.
+    /// The system's reason why the path is not accessible in that mode; empty if it is.
     static zvString getAccessError(const zvString& path, int mode);
     /// The path with this system's delimiters, for other libraries.
     static zvString nativePath(const zvString& path);
-    /// Appends the file's lines, without their line feeds and without the empty ones, to `lines`, which a
-    /// failure empties.
+    /// Appends the file's lines to `lines`, without line feeds and without empty lines; on failure `lines` is
+    /// cleared.
     static zvResult readFile(const zvString& path, zvStringList& lines);
     /// The part before the last backslash; empty for a path without a dot or a backslash.
     static zvString extractDirName(const zvString& path);
-    /// The part behind the last backslash or slash; empty for a bare name.
+    /// The part after the last backslash or slash; empty for a path without either.
     static zvString extractFileName(const zvString& path);
 };
 

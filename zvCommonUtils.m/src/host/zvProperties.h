@@ -8,11 +8,10 @@
 #include "zvStringList.h"
 #include "zvStringToStringMap.h"
 
-/// The properties of a text file with one `name=value` a line.
+/// The properties of a text file with one `name=value` per line.
 ///
-/// Names and values are taken exactly as they stand around the first "=", blanks included, and neither may be
-/// empty. Empty lines and lines that begin with "#" are skipped. The first of several lines with one name
-/// wins.
+/// Lines are split at the first "="; name and value keep their blanks, and neither may be empty. Empty lines
+/// and lines that begin with "#" are skipped. Of duplicate names the first wins.
 class ZV_EXPORT zvProperties : public zvCoreObject {
 public:
     zvProperties();
@@ -20,17 +19,17 @@ public:
     zvProperties& operator=(const zvProperties& other);
     ~zvProperties() override;
 
-    /// Replaces the properties by those of the file at `path`. The result is a failure for an empty path and
-    /// a file that cannot be read only: a bad line is logged and ends the reading, with what was read before
-    /// it kept and the result 0.
+    /// Replaces the properties with those of the file at `path`. Fails only for an empty path and an
+    /// unreadable file: an invalid line is logged and ends the parse with the properties before it and the
+    /// result 0.
     zvResult parse(const zvString& path);
-    /// The value; empty for a name that is not defined.
+    /// The value of `name`; empty if it is not defined.
     zvString getPropertyValue(const zvString& name) const;
-    /// Appends all names, in the map's key order; false when there are none.
+    /// Appends all names in order; false if there are none.
     bool getAllPropertyNames(zvStringList& names) const;
 
 protected:
-    /// Handles one line; false for a bad one and for a name that is there already.
+    /// Parses one line; false for an invalid line and for a duplicate name.
     bool addPropertyToMap(const zvString& line);
 
 private:

@@ -23,9 +23,9 @@ constexpr const char* searchPathHints[] = {
 constexpr const char* versionProperties[] = {"java.runtime.name", "java.runtime.version", "java.vm.name",
                                              "java.vm.version"};
 
-// A starting machine takes the encoding of file names from the environment's locale, which it makes that of
-// the whole process. It is shown the process's own instead, unless that was never chosen, and the process
-// keeps it.
+// RAII guard for the start of the JVM, which takes the encoding of file names from the environment's locale
+// and sets that locale for the process. It sees the process's own locale there, if one was set, and
+// afterwards locale and environment are restored.
 class LocaleKeeper {
 public:
     LocaleKeeper()
@@ -50,7 +50,7 @@ private:
     const std::string m_value;
 };
 
-// Java has to forget a thread that it was told of before the thread ends.
+// A thread that was attached to the JVM has to be detached before it ends.
 struct AttachedThread {
     ~AttachedThread() {
         if (machine != nullptr) {
@@ -66,7 +66,7 @@ bool findFunction(void* library, const char* name, Function& function) {
     return function != nullptr;
 }
 
-// What the class of that name prints. Java 9 and its successors do not have it.
+// The output of sun.misc.Version, a class that Java 9 removed.
 zvString printedVersion(const zvJniFrame& frame) {
     jobject const buffer = frame.create("java.io.ByteArrayOutputStream", "()V");
     jobject const stream = frame.create("java.io.PrintStream", "(Ljava/io/OutputStream;)V", buffer);
@@ -85,7 +85,7 @@ zvString versionFromProperties(const zvJniFrame& frame) {
     return text.toString();
 }
 
-// An exception may throw when it is asked for its texts: it then has none.
+// The methods of an exception may throw themselves: the text is empty then.
 template <typename Ask>
 zvString textOrNone(Ask ask) {
     try {

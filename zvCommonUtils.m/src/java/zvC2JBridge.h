@@ -8,25 +8,25 @@
 #include "zvException.h"
 #include "zvJniFrame.h"
 
-/// The Java virtual machine in this process: one that already runs is used, else one is started with the
-/// class path of the environment variable CLASSPATH. It stays until the process ends.
+/// The bridge to the in-process Java virtual machine: one that already runs, else one that is started with
+/// the class path in the environment variable CLASSPATH. The JVM lives until the process ends.
 class zvC2JBridge {
 public:
     zvC2JBridge(const zvC2JBridge&) = delete;
     zvC2JBridge& operator=(const zvC2JBridge&) = delete;
 
-    /// The bridge, which belongs to the class; null, with the reasons logged, when there is no machine to be
-    /// had. A later call tries again.
+    /// The singleton, created on first use and owned by the class; null, with the reasons logged, if no JVM
+    /// can be started. A later call retries.
     static zvC2JBridge* getInstance();
 
-    /// The calling thread's environment; a thread that Java does not know is made known until it ends. Null
-    /// when Java refuses it.
+    /// The calling thread's JNI environment; the thread is attached on demand and detached when it ends. Null
+    /// on failure.
     JNIEnv* getEnv() const;
 
-    /// The exception as the library throws it: its own message is the message form, the result's the stack
-    /// trace.
+    /// Converts a Java exception: the message is exceptionMessage(), the result's message is
+    /// exceptionStackTrace().
     static zvException toException(const zvJniFrame& frame, jthrowable exception);
-    /// What "getMessage" answers, empty for null. The class is printed on standard output.
+    /// The result of getMessage(), empty for null. Also prints the exception's class on standard output.
     static zvString exceptionMessage(const zvJniFrame& frame, jthrowable exception);
     static zvString exceptionStackTrace(const zvJniFrame& frame, jthrowable exception);
 

@@ -10,7 +10,7 @@ constexpr zvLogSource logger("zvCommonUtils.m/src/zvFSClient");
 
 constexpr char factoryClass[] = "com.vantorel.ep.products.fsclient.FileServerClientFactory";
 
-// A method of the Java client, and what the operation behind it is called.
+// A method of the Java client and the name of the operation in messages.
 struct Operation {
     const char* name;
     const char* method;
@@ -28,7 +28,7 @@ constexpr Operation testExistence{"exists", "exists", "(Ljava/lang/String;)Z"};
 constexpr Operation listDirectory{"list", "list", "(Ljava/lang/String;)[Ljava/lang/String;"};
 constexpr Operation setTransferMode{"setFileType", "setFileTransferMode", "(I)V"};
 
-// The path as Java's classes for files expect it here; its characters need no narrow form.
+// The path with this system's separators; Java needs no narrow copy.
 zvString native(const zvString& path) {
     zvString translated(path);
     translated.replace("\\", zvPlatform::nativePath("\\").c_str());
@@ -57,7 +57,7 @@ struct zvFSClient::Impl {
         return *environment;
     }
 
-    // Runs `action` on a frame of local references and throws what Java throws in it as a zvException.
+    // Runs `action` with a frame of local references and converts a Java exception to a zvException.
     template <typename Action>
     auto run(Action action) const {
         const zvJniFrame frame(env());
@@ -70,8 +70,7 @@ struct zvFSClient::Impl {
         }
     }
 
-    // Calls the operation's method on the connected client and hands the answer, if there is one, to
-    // `receive`.
+    // Calls the operation's method on the connected client and passes its return value, if any, to `receive`.
     template <typename Result, typename Receive, typename... Arguments>
     auto invokeAndReceive(const Operation& operation, Receive receive, const Arguments&... arguments) const {
         if (!connected) {
@@ -117,7 +116,7 @@ struct zvFSClient::Impl {
         });
     }
 
-    // The object's own text, for the log; empty when nobody reads that or the object has none.
+    // The object's toString() for the log; empty if the log is not read or the call fails.
     static zvString describe(const zvJniFrame& frame, jobject object) {
         try {
             return zvLogSink::isReady() && object != nullptr ? frame.describe(object) : zvString();
@@ -158,7 +157,7 @@ void zvFSClient::destroyInstance() {
     try {
         m_pFSClient->disconnect();
     } catch (const zvException&) {
-        // It has been logged, and there is nothing left that could be disconnected.
+        // Logged already; the instance is deleted in any case.
     }
     delete m_pFSClient;
     m_pFSClient = nullptr;

@@ -7,45 +7,48 @@
 #include "zvString.h"
 #include "zvStringList.h"
 
-/// The process's connection to the file server, through the Java file-server client on CLASSPATH.
+/// The connection to the file server, a singleton over the Java file-server client on CLASSPATH.
 ///
-/// Local paths may separate folders with "\" on every system; remote paths go to the server as they are
-/// given. A list names files without their folders.
+/// Local paths may use "\" as separator on every system; remote paths are passed to the server unchanged.
+/// File lists contain bare names.
 ///
-/// Every operation throws a zvException when it fails, with the failure logged before: for a failure in Java,
-/// its message is Java's own and its result's message the Java stack trace; an operation without a connection
-/// says in the result's message that the client is not initialized.
+/// Every operation logs a failure and throws it as a zvException. For a Java exception, its message is Java's
+/// and its result's message is the Java stack trace; without a connection, its result's message says that the
+/// client is not initialized.
 class ZV_EXPORT zvFSClient : public zvCoreObjectCommon {
 public:
     zvFSClient(const zvFSClient&) = delete;
     zvFSClient& operator=(const zvFSClient&) = delete;
 
-    /// The instance, owned by the class. The first call creates it, starts Java if need be, configures the
-    /// Java client from the file `configPath` and connects. When that fails there is an instance all the
-    /// same, without a connection: destroyInstance() makes way for another attempt.
+    /// The instance, owned by the class. The first call creates it, starts the JVM on demand, configures the
+    /// Java client from the file `configPath` and connects. If that fails, the instance exists without a
+    /// connection: call destroyInstance() before a retry.
     static zvFSClient* getInstance(const zvString& configPath);
-    /// The instance; null when there is none.
+    /// The instance; null if it was not created.
     static zvFSClient* getInstance();
-    /// Disconnects, a failure of which is only logged, and deletes the instance, if any. Java keeps running.
+    /// Disconnects and deletes the instance, if any; a failure is only logged. The JVM keeps running.
     static void destroyInstance();
 
-    /// Fetches one remote file.
+    /// Downloads one file.
     void get(const zvString& remote, const zvString& local);
-    /// Fetches the files of a remote directory that `files` lists.
+    /// Downloads the files in `files` from a remote directory.
     void get(const zvString& remoteDir, const zvString& localDir, const zvStringList* files);
-    /// Fetches the files of a remote directory that match `filter`, as the Java client understands it.
+    /// Downloads the files of a remote directory that match the glob pattern `filter`.
     void get(const zvString& remoteDir, const zvString& localDir, const zvString& filter);
-    /// Sends one local file.
+    /// Uploads one file.
     void put(const zvString& local, const zvString& remote);
-    /// Sends the files of a local directory that `files` lists.
+    /// Uploads the files in `files` from a local directory.
     void put(const zvString& localDir, const zvString& remoteDir, const zvStringList* files);
-    /// Sends the files of a local directory that match `filter`.
+    /// Uploads the files of a local directory that match the glob pattern `filter`.
     void put(const zvString& localDir, const zvString& remoteDir, const zvString& filter);
+    /// Creates a remote directory and its missing parents.
     void mkDir(const zvString& dir);
+    /// Whether a file or directory exists on the server.
     bool exists(const zvString& path);
-    /// Appends the names of what is in a remote directory to `out`, which a failure leaves as it was.
+    /// Appends the names of the entries of a remote directory to `out`, which is unchanged on failure.
     void list(const zvString& dir, zvStringList& out);
-    /// How files travel from now on: 0 binary, 1 ASCII, as in zvAttachment (not as in zvTransferModeEnum).
+    /// Sets the transfer mode of later transfers: 0 for binary, 1 for ASCII, as in zvAttachment (the opposite
+    /// of zvTransferModeEnum).
     void setFileType(int mode);
 
 private:

@@ -22,7 +22,7 @@ constexpr zvLogSource logger("zvCommonUtils.m/src/zvFSClientUtil");
 constexpr int binary = 0;
 constexpr int ascii = 1;
 
-// One of the event's files, where it was before it ever was sent, and how it is to be transferred.
+// One of the event's files: its local path, its name on the file server and its transfer mode.
 struct EventFile {
     zvString path;
     zvString name;
@@ -31,7 +31,7 @@ struct EventFile {
 };
 using EventFiles = std::vector<EventFile>;
 
-// The two ways that an event's files go.
+// The two directions of a transfer.
 struct Direction {
     const char* failure;
     void (*transfer)(zvFSClient& client, const zvString& local, const zvString& remote);
@@ -68,7 +68,7 @@ zvString fileName(const zvString& path) {
     return name;
 }
 
-// The event's files under their names on the file server, where they must not overwrite each other.
+// Collects the event's files by name, since they must not overwrite each other on the file server.
 class EventFileCollector {
 public:
     void add(const EventFile& file) {
@@ -114,7 +114,8 @@ zvString localDirectory(const zvEventArguments& args) {
     return zvPath::join(required(args, "RootShadowDir"), required(args, "EventShadowDir"));
 }
 
-// Runs `action`; what it throws is the file server's fault and becomes a failure to do `what` with `subject`.
+// Runs `action`, and converts its exceptions to file-transfer failures with the message `what`, `subject` and
+// the reason.
 template <typename Action>
 void onFileServer(const char* what, const zvString& subject, Action action) {
     try {
@@ -166,7 +167,7 @@ zvString removeLocal(const EventFiles& files) {
     return left.toString();
 }
 
-// Every failure inside is thrown, as business failure or as file-transfer failure, and logged.
+// Runs `action`; converts its exceptions, which are logged already, to results.
 template <typename Action>
 zvResult resultOf(Action action) {
     try {

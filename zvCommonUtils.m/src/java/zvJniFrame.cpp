@@ -9,10 +9,10 @@ namespace {
 
 static_assert(std::is_same_v<jchar, wchar16>, "Java's characters are the library's");
 
-// What a method call and its conversions need at once; more are possible.
+// Enough for one method call and its conversions; not a limit.
 constexpr jint localReferences = 16;
 
-// Frees a local reference before its frame does.
+// RAII guard that frees a local reference before its frame does.
 class LocalReference {
 public:
     LocalReference(JNIEnv& env, jobject object) : m_env(env), m_pObject(object) {}
@@ -27,8 +27,7 @@ private:
 
 }  // namespace
 
-// Without memory for a frame of its own it lives in the one around it: the calls themselves tell what is
-// wrong.
+// Out of memory, the enclosing frame is used instead: the calls themselves will report the failure.
 zvJniFrame::zvJniFrame(JNIEnv& env) : m_env(env), m_bPushed(env.PushLocalFrame(localReferences) == JNI_OK) {
     if (!m_bPushed) {
         m_env.ExceptionClear();

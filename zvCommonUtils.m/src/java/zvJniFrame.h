@@ -9,18 +9,17 @@
 #include "zvString.h"
 #include "zvStringList.h"
 
-/// A Java exception on its way through native code: no longer pending, and valid as long as the frame in
-/// which it came up.
+/// A Java exception that propagates through native code: no longer pending, and valid as long as the frame
+/// that it was thrown in.
 struct zvJavaThrown {
     jthrowable exception;
 };
 
-/// The one way into Java. A frame stands for some calls that belong together: the local references that they
-/// make are freed with it. Every lookup and call is checked, and a Java exception comes out as a
-/// zvJavaThrown.
+/// A facade over JNI and an RAII guard of a local reference frame: the local references that its calls create
+/// are freed with it. Every lookup and call is checked, and a Java exception is thrown as a zvJavaThrown.
 ///
-/// Names of classes are dotted, signatures of methods are those of JNI. To call a method on a null object is
-/// a NullPointerException, as in Java.
+/// Class names are dotted, method signatures are those of JNI. Calling a method on null is a
+/// NullPointerException, as in Java.
 class zvJniFrame {
 public:
     explicit zvJniFrame(JNIEnv& env);
@@ -30,7 +29,8 @@ public:
 
     JNIEnv& env() const { return m_env; }
 
-    /// A class's dotted name as JNI writes it, as in "java/util/List". A failed allocation ends the process.
+    /// Converts a dotted class name to that of JNI, for example "java/util/List". Out of memory, it ends the
+    /// process.
     static zvMalloc::Array<char> jniClassName(const char* name);
 
     jclass findClass(const char* name) const;
@@ -76,16 +76,16 @@ public:
         return checked([&] { return m_env.NewObjectA(type, constructor, values); });
     }
 
-    /// The same characters in a Java string.
+    /// A Java string with the same UTF-16 code units.
     jstring toJava(const zvString& text) const;
-    /// An "ArrayList" of the texts; a null list gives null.
+    /// An ArrayList of the strings; null for a null list.
     jobject toJava(const zvStringList* texts) const;
     jint toJava(int number) const { return number; }
-    /// The characters of a Java string, up to a U+0000; empty for null.
+    /// The code units of a Java string up to the first U+0000; empty for null.
     zvString toText(jobject string) const;
-    /// What "toString" answers.
+    /// The result of toString().
     zvString describe(jobject object) const;
-    /// Appends the elements of an array of strings, which may be null.
+    /// Appends the elements of an array of strings to `out`; nothing for a null array.
     void appendTexts(jobjectArray strings, zvStringList& out) const;
 
 private:

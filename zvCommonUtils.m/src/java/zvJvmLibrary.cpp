@@ -10,8 +10,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Where the systems' Java releases keep the library below their home; of a development kit before Java 9 the
-// home is one folder up.
+// The library's possible paths relative to the Java home; in a JDK before Java 9 it is in the subdirectory
+// "jre".
 constexpr const char* files[] = {"lib/server/libjvm.so",
                                  "jre/lib/amd64/server/libjvm.so",
                                  "jre/lib/aarch64/server/libjvm.so",
@@ -44,7 +44,7 @@ void loadFromPath(zvJvmLibrary& library) {
     std::istringstream folders(zvPlatform::environment("PATH"));
     for (std::string folder; library.handle == nullptr && std::getline(folders, folder, separator);) {
         for (const char* const program : programs) {
-            // The program on the path is a link into the home, as a rule.
+            // The program on PATH is usually a symlink into the Java home.
             std::error_code error;
             const fs::path java =
                 folder.empty() ? fs::path() : fs::canonical(zvPlatform::pathOf(folder) / program, error);

@@ -3,17 +3,17 @@
 
 #include <string>
 
-/// The dynamic library of a Java virtual machine, wherever Java is installed.
+/// Finds and loads the dynamic library of the Java virtual machine.
 struct zvJvmLibrary {
     static constexpr char name[] = "jvm";
 
-    /// Looks in the system's search order, then in the Java home that JAVA_HOME names, then in that of each
-    /// "java" program on PATH.
+    /// Tries the system's search order, then the Java home in JAVA_HOME, then the Java home of each "java"
+    /// program on PATH.
     static zvJvmLibrary load();
 
-    /// For the platform seam; null when there is no library to be loaded.
+    /// The library for zvPlatform::findFunction(); null if none could be loaded.
     void* handle = nullptr;
-    /// Where the library was looked for, for a person who has to find out why there is none.
+    /// The places that were tried, for the message that no library was found.
     std::string tried;
 };
 

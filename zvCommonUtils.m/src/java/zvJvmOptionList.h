@@ -5,7 +5,7 @@
 
 #include "zvMalloc.h"
 
-/// The options that a Java virtual machine is started with. A failed allocation ends the process.
+/// The options for starting the JVM. Out of memory, its operations end the process.
 class zvJvmOptionList {
 public:
     zvJvmOptionList() = default;
@@ -13,9 +13,9 @@ public:
     zvJvmOptionList& operator=(const zvJvmOptionList&) = delete;
     ~zvJvmOptionList();
 
-    /// Appends an option; the list owns its text.
+    /// Appends an option and takes ownership of its text.
     void add(zvMalloc::Array<char> option, void* extraInformation = nullptr);
-    /// Appends the class path, in the form that the system's own list of folders has.
+    /// Appends the class path, with this system's path list separator.
     void addClassPath(const char* classPath);
 
     int count() const { return m_count; }

@@ -6,8 +6,7 @@
 #include <cstdlib>
 #include <memory>
 
-/// Memory for what the Java virtual machine is started with: without it the process cannot do its job, and
-/// ends.
+/// Memory for the start of the JVM, without which the process cannot do its job and exits.
 namespace zvMalloc {
 
 struct Free {
@@ -17,8 +16,8 @@ struct Free {
 template <typename Element>
 using Array = std::unique_ptr<Element[], Free>;
 
-/// An array of `count` elements of a plain type, not initialised. A failure prints "malloc" with the system's
-/// reason and ends the process with exit code 1.
+/// An uninitialised array of `count` elements of a trivial type. Out of memory, it prints "malloc" with the
+/// system's reason and ends the process with exit code 1.
 template <typename Element>
 Array<Element> allocate(std::size_t count) {
     void* const memory = count <= SIZE_MAX / sizeof(Element) ? std::malloc(count * sizeof(Element)) : nullptr;

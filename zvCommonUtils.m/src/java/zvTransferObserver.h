@@ -4,17 +4,17 @@
 #include "zvString.h"
 #include "zvTypes.h"
 
-/// Follows a transfer, file by file. `local` is a file's path on this host.
+/// The observer of a transfer, called for each file with its local path.
 class ZV_EXPORT zvTransferObserver {
 public:
     virtual ~zvTransferObserver();
 
-    /// Whether an earlier upload sent the file: it is not sent again and need not be there any more.
-    /// Otherwise every file is sent.
+    /// Whether the file was uploaded by an earlier attempt: it is then skipped and need not exist locally any
+    /// more. The default is false.
     virtual bool hasArrived(const zvString& local);
-    /// The transfer of the file begins.
+    /// Called before the file is transferred.
     virtual void fileBegins(const zvString& local);
-    /// It is over; the duration is in milliseconds.
+    /// Called after the file was transferred successfully, with its size and the duration.
     virtual void fileTransferred(const zvString& local, zvInt64 bytes, zvInt64 milliseconds) = 0;
 };
 

@@ -8,7 +8,7 @@ namespace {
 
 using LoggerMap = zvTemplateMap<zvString, zvDebugLogger*>;
 
-// Never destroyed: its loggers live until the process ends, and may be used until then.
+// Never destroyed: the loggers may be used until the process exits, also by static destructors.
 LoggerMap& mapLoggers() {
     static auto* const loggers = new LoggerMap;
     return *loggers;

@@ -8,15 +8,15 @@
 
 class zvLogChannel;
 
-/// Debug messages under a logger name of the caller's own: one instance for each name.
+/// Logs debug messages under a logger name of the caller's choice, with one instance per name.
 ///
-/// Everything else is as with zvLogger, and each instance configures the logging library once more.
+/// Otherwise the same as zvLogger. Each new instance initialises the logging library again.
 class ZV_EXPORT zvDebugLogger : public zvCoreObject {
 public:
     /// The instance of that name, owned by the class and created on first use.
     static zvDebugLogger* getInstance(const zvString& name);
-    /// Ends the instance of that name, if any: it stays the name's instance, without a channel, so that
-    /// whoever still holds it or asks for it again gets a logger that drops its messages.
+    /// Closes the instance of that name, if any, for good: it is not deleted, so that no pointer to it
+    /// dangles, but drops its messages from now on.
     static void destroyInstance(const zvString& name);
 
     void logMsg(const zvString& message, const char* file, int line);

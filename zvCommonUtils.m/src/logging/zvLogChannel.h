@@ -3,10 +3,10 @@
 
 #include "zvString.h"
 
-/// One logger name's way into the logging library, which is configured when the channel is made.
+/// Writes to the logging library under one logger name; the constructor initialises the library.
 ///
-/// Without a gateway home, or when the logging library refuses the configuration, a channel is never ready
-/// and drops its messages.
+/// Without a gateway home, or if the logging library refuses the configuration, the channel is not ready and
+/// drops its messages.
 class zvLogChannel {
 public:
     explicit zvLogChannel(const zvString& name);
@@ -14,7 +14,7 @@ public:
     zvLogChannel& operator=(const zvLogChannel&) = delete;
     virtual ~zvLogChannel();
 
-    /// Each writes "file name[line] message"; a null `file` and one without a folder give no such prefix.
+    /// Each writes "file name[line] message", without the prefix if `file` is null or a bare name.
     virtual void logDebug(const char* message, const char* file, int line);
     virtual void logInfo(const char* message, const char* file, int line);
     virtual void logWarn(const char* message, const char* file, int line);

@@ -1,4 +1,4 @@
-// What crosses the border of the DLL: texts, objects, exceptions, virtual calls and the calls of the logging
+// Whatever crosses the DLL's boundary: strings, objects, exceptions, virtual calls and calls of the logging
 // library.
 #include <gtest/gtest.h>
 
@@ -20,7 +20,7 @@ namespace {
 
 std::string narrow(const zvString& text) { return zvCharString(text).data(); }
 
-TEST(zvLibrary, TextsAndObjectsAreMadeOnOneSideAndFreedOnTheOther) {
+TEST(zvLibraryTest, TextsAndObjectsAreMadeOnOneSideAndFreedOnTheOther) {
     zvString text("a");
     text += u"\u20ACb";
     EXPECT_TRUE(("x" + text) == u"xa\u20ACb");
@@ -36,7 +36,7 @@ TEST(zvLibrary, TextsAndObjectsAreMadeOnOneSideAndFreedOnTheOther) {
     EXPECT_EQ(narrow(value->getValue()), "7");
 }
 
-TEST(zvLibrary, ExceptionsArriveInTheProgram) {
+TEST(zvLibraryTest, ExceptionsArriveInTheProgram) {
     for (int times = 0; times < 3; ++times) {
         try {
             zvValue().getIntValue();
@@ -48,7 +48,7 @@ TEST(zvLibrary, ExceptionsArriveInTheProgram) {
     }
 }
 
-TEST(zvLibrary, LogsThroughTheSitesLibrary) {
+TEST(zvLibraryTest, LogsThroughTheSitesLibrary) {
     ::_putenv(("GATEWAY_HOME=" + std::filesystem::temp_directory_path().string()).c_str());
     zvLogger::destroyInstance();
     zvRecordingLogger::reset();

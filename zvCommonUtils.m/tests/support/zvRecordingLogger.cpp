@@ -14,7 +14,7 @@ struct Record {
     std::function<bool(const std::string&)> initialize;
 };
 
-// Never destroyed: something may log until the process ends.
+// Never destroyed: static destructors may log.
 Record& record() {
     static auto* const instance = new Record;
     return *instance;

@@ -8,13 +8,13 @@
 
 #include "zvExport.h"
 
-/// A logging library for the tests: it has the same seven functions as the real one and remembers the calls.
+/// A logging library for the tests that records the calls of its seven functions.
 namespace zvRecordingLogger {
 
 struct Event {
     std::string level;  // "debug", "info", "warn", "error", "fatal" or "always"
     std::string loggerName;
-    std::string message;  // as it arrived: with "file name[line] " in front
+    std::string message;  // as received, with the prefix "file name[line] "
     std::string file;
     int line;
 };
@@ -22,17 +22,17 @@ struct Event {
 /// The events since the last reset().
 ZV_LOGGER_API const std::vector<Event>& events();
 
-/// The events' texts without "file name[line] ", each behind its level, as in "error: Empty file path."
+/// The messages without the prefix "file name[line] ", each after its level: "error: Empty file path."
 ZV_LOGGER_API std::vector<std::string> lines();
-/// The same for one level only, without the level.
+/// The same for one level, without the level.
 ZV_LOGGER_API std::vector<std::string> lines(const std::string& level);
 
-/// The paths with which the library was configured since the last reset().
+/// The paths passed to InitializeLogger since the last reset().
 ZV_LOGGER_API const std::vector<std::string>& configurations();
 
-/// Forgets everything, and answers configurations with true from now on.
+/// Discards everything recorded; InitializeLogger returns true from now on.
 ZV_LOGGER_API void reset();
-/// What InitializeLogger does from now on: it is handed the path and answers the result.
+/// Replaces InitializeLogger: `action` receives the path and returns the result.
 ZV_LOGGER_API void onInitialize(std::function<bool(const std::string&)> action);
 
 }  // namespace zvRecordingLogger

@@ -17,7 +17,7 @@ void removeFolder(const std::filesystem::path& folder) {
     std::filesystem::remove_all(folder, ignored);
 }
 
-// A process that a test ends by exit() destroys no folder but those in here.
+// exit() in a test skips the destructors of local objects: folders registered here are removed nevertheless.
 struct OpenFolders {
     OpenFolders() = default;
     OpenFolders(const OpenFolders&) = delete;

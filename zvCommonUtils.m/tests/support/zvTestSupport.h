@@ -10,19 +10,18 @@
 #include "zvException.h"
 #include "zvString.h"
 
-/// The library's home platform, which reads files as text, has errors of its own and knows no links.
+/// Windows has text mode for files, its own error numbers, and no symlinks in these tests.
 constexpr bool onWindows = std::filesystem::path::preferred_separator == '\\';
-/// Whether narrow texts can hold every character: not in the locales of the home platform.
+/// Whether the locale's encoding is UTF-8, which it never is on Windows.
 bool localeIsUtf8();
 
-/// Lets GoogleTest print texts.
+/// Lets GoogleTest print strings.
 void PrintTo(const zvString& text, std::ostream* out);
 
-/// The text as narrow text, "" for an empty one.
+/// The string converted to narrow text; "" for an empty one.
 std::string narrow(const zvString& text);
 
-/// The message in the result of the zvException that `action` throws; a failed expectation when it throws
-/// none.
+/// The message in the result of the zvException that `action` throws; a failed expectation if it throws none.
 template <typename Action>
 std::string messageThrownBy(Action action) {
     try {
@@ -34,7 +33,7 @@ std::string messageThrownBy(Action action) {
     return {};
 }
 
-/// A folder of the test's own, removed with everything in it.
+/// A temporary folder, removed recursively by the destructor.
 class zvTemporaryFolder {
 public:
     zvTemporaryFolder();
@@ -45,17 +44,17 @@ public:
     const std::filesystem::path& path() const { return m_path; }
     /// The path of `name` in the folder, as narrow text.
     std::string file(const std::string& name) const;
-    /// Writes `content` to `name`, folders on the way included, and returns its path.
+    /// Writes `content` to `name`, creates missing folders, and returns its path.
     std::string write(const std::string& name, const std::string& content) const;
 
 private:
     std::filesystem::path m_path;
 };
 
-/// The whole content of a file.
+/// The content of a file.
 std::string readAll(const std::filesystem::path& path);
 
-/// A test with a gateway home in a folder of its own and a logger whose events the recording logger keeps.
+/// A fixture with a temporary gateway home and a logger whose events are recorded.
 class zvLoggedTest : public testing::Test {
 protected:
     zvLoggedTest();

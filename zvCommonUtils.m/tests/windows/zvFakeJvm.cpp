@@ -1,4 +1,4 @@
-// A jvm.dll for the tests: nothing runs in it, and it remembers what it is asked for.
+// A fake jvm.dll for the tests that records the calls.
 #include <jni.h>
 
 #include <algorithm>
@@ -7,7 +7,7 @@
 
 namespace {
 
-// A class, an object or a text; its address is the reference to it.
+// A class, an object or a string; its address is the reference.
 struct Thing {
     std::u16string text;
 };
@@ -40,7 +40,7 @@ std::string textOf(jobject object) {
     return {text.begin(), text.end()};
 }
 
-// The call with its texts and numbers.
+// Records a call with its string and number arguments.
 void recordCall(const char* kind, jmethodID id, const jvalue* arguments) {
     const auto& [name, signature] = *reinterpret_cast<const Method*>(id);
     std::string call = std::string(kind) + ' ' + name;
@@ -181,7 +181,7 @@ JNIEXPORT jint JNICALL JNI_CreateJavaVM(JavaVM** vm, void** env, void* arguments
     return JNI_OK;
 }
 
-/// The calls since the last time, one a line.
+/// The calls since the last invocation, one per line.
 JNIEXPORT const char* takeRecordedCalls() {
     static std::string taken;
     taken.swap(calls);

@@ -1,4 +1,4 @@
-// The search of PATH for a Java virtual machine, and what that is asked for through its C interface.
+// The search for a JVM on PATH, and the JNI calls to it.
 #include "zvC2JBridge.h"
 #include "zvFSClient.h"
 #include "zvPlatform.h"
@@ -16,7 +16,7 @@ std::string takeRecordedCalls() {
     return take == nullptr ? "no fake Java" : take();
 }
 
-// The order matters: what has been loaded stays loaded.
+// The order of the tests matters: a loaded library stays loaded.
 TEST_F(zvJvmOnPathTest, WithoutAJavaNothingStarts) {
     zvPlatform::setEnvironment("PATH", m_folder.path().string().c_str());
     zvPlatform::setEnvironment("JAVA_HOME", "");

@@ -1,5 +1,5 @@
-// The sizes of the value classes and the places of their members for 32 bits, which programs built long ago
-// rely on. Compiled without access control, since members are private, and never run.
+// ABI check: the sizes of the value classes and the offsets of their members on 32-bit Windows, on which
+// existing programs rely. Compiled without access control, since members are private, and never run.
 #include <cstddef>
 
 #include "zvAttachment.h"

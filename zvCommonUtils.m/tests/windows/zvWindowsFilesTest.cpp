@@ -1,4 +1,4 @@
-// Files, folders, texts and times as only the home platform has them.
+// Files, folders, text mode and time as on Windows only.
 #include <clocale>
 
 #include "zvCharString.h"
@@ -17,7 +17,7 @@ class zvWindowsFilesTest : public zvLoggedTest {
 protected:
     std::string inFolder(const std::string& name) const { return m_folder.path().string() + "\\" + name; }
     bool isThere(const fs::path& name) const { return fs::exists(m_folder.path() / name); }
-    /// "rmdir /s/q" of the paths, as they stand.
+    /// Runs "rmdir /s/q" with the arguments unchanged.
     static bool removes(const std::string& arguments) { return zvDirFileUtils::deleteDir(arguments.c_str()); }
 };
 
@@ -39,15 +39,15 @@ TEST_F(zvWindowsFilesTest, PathsHaveDrivesAndEitherSeparator) {
     fs::current_path(before);
 }
 
-// A name goes to the system in its wide form: it needs none in the locale.
-TEST_F(zvWindowsFilesTest, NamesMayHaveCharactersThatTheLocaleHasNot) {
+// Names are passed to the system as wide strings: the locale need not be able to encode them.
+TEST_F(zvWindowsFilesTest, NamesMayHaveCharactersThatTheLocaleCannotEncode) {
     const zvString name = zvString(inFolder("").c_str()) + u"\u4E2D \u20AC";
     ASSERT_EQ(zvString(u"\u4E2D").getChars(), nullptr);
     EXPECT_TRUE(zvDirFileUtils::createDirectory(name).isOk());
     EXPECT_TRUE(isThere(u"\u4E2D \u20AC"));
 }
 
-TEST_F(zvWindowsFilesTest, RefusalsAreToldByTheSystemsNumbers) {
+TEST_F(zvWindowsFilesTest, FailuresHaveTheSystemsErrorNumbers) {
     m_folder.write("file", "");
     const struct {
         std::string path;
@@ -101,7 +101,7 @@ TEST_F(zvWindowsFilesTest, TreesAreRemovedByTheCommandShell) {
     }
     EXPECT_EQ(zvRecordingLogger::lines("info").back(),
               "Successfully Deleted Dir: " + inFolder("second") + " \"" + inFolder("third") + "\"");
-    // What the shell refuses is not tested: wine's own says that all went well.
+    // Failures of the shell are not tested: wine's cmd reports success.
     EXPECT_FALSE(removes("")) << "no command at all";
 }
 
@@ -114,7 +114,7 @@ TEST_F(zvWindowsFilesTest, FilesAreReadAsText) {
                  {"a\rb\r\n", {"a\rb"}},
                  {"a\x1A"
                   "b\r\nc\r\n",
-                  {"a"}},  // control-Z ends a text
+                  {"a"}},  // control-Z is the end of file in text mode
                  {std::string(1023, 'x') + "\r\n" + std::string(3000, 'y') + "\r\n",
                   {std::string(1023, 'x'), std::string(3000, 'y')}}};
     for (const auto& [content, expected] : cases) {

@@ -1,6 +1,7 @@
-// A part of the 32-bit DLL alone. With the compiler's runtime linked in, the DLL's own copy unwinds what it
-// throws, and that copy knows the frames of the DLL only: an exception would end the process at its border.
-// It is told of the program's frames too. (For 64 bits the system keeps one table for all.)
+// Compiled into the 32-bit DLL only. With the compiler's runtime linked in statically, the DLL's copy of the
+// unwinder knows only the DLL's own frames, and an exception that leaves the DLL would terminate the process.
+// So the frame tables of the executable are registered with it too. (On 64-bit Windows the system keeps one
+// table for all modules.)
 #include <windows.h>
 
 #include <cstring>
@@ -9,8 +10,8 @@ extern "C" void __register_frame_info(const void* frames, void* record);
 
 namespace {
 
-// By its first eight letters; a program with symbols has a number for a longer name, and debug sections
-// besides, which can be thrown away.
+// Section names are cut to eight characters. An executable with symbols stores longer names as "/number"; its
+// debug sections do too, but are discardable.
 bool holdsFrames(const IMAGE_SECTION_HEADER& section) {
     constexpr char name[] = ".eh_fram";
     const bool isNumbered =
@@ -33,7 +34,7 @@ public:
     }
 
 private:
-    void* m_record[16] = {};  // the runtime's own, which is smaller
+    void* m_record[16] = {};  // storage for the runtime's record, which is smaller
 };
 
 ProgramFrames programFrames;

@@ -2,7 +2,7 @@ package com.vantorel.ep.products.fsclient;
 
 import java.util.List;
 
-/** Has the methods of the real client. */
+/** A test double of the real client. */
 public final class FileServerClient {
     public void connect() throws Exception {
         Recorder.record("connect");

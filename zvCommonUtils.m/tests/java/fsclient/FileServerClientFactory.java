@@ -1,6 +1,6 @@
 package com.vantorel.ep.products.fsclient;
 
-/** Has the methods of the real factory. */
+/** A test double of the real factory. */
 public final class FileServerClientFactory {
     public static FileServerClientFactory getInstance() {
         return new FileServerClientFactory();

@@ -12,8 +12,9 @@ import java.util.Properties;
 import java.util.stream.Collectors;
 
 /**
- * Keeps the calls of a test, one a line, in a file beside the configuration file, and reads from the latter what they
- * answer. {@code throw.METHOD} names a class of exception and, behind a blank, its message if it is to have one.
+ * Records the calls, one per line, in a file next to the configuration file, from which it reads their return
+ * values. {@code throw.METHOD} is the class of an exception to throw, optionally followed by a blank and a
+ * message.
  */
 final class Recorder {
     private static final Properties SCRIPT = new Properties();

@@ -2,7 +2,7 @@ package com.vantorel.ep.products.fsclient;
 
 import java.io.PrintWriter;
 
-/** Fails when it is asked what is wrong. */
+/** An exception whose own methods throw. */
 final class SpeechlessException extends RuntimeException {
     private static final long serialVersionUID = 1L;
 

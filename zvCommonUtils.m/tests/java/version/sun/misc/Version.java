@@ -2,7 +2,7 @@ package sun.misc;
 
 import java.io.PrintStream;
 
-/** Tells a version that no Java has. */
+/** A test double that prints a fictitious version. */
 public final class Version {
     private Version() {}
 

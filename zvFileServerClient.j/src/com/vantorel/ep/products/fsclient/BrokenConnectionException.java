@@ -1,6 +1,6 @@
 package com.vantorel.ep.products.fsclient;
 
-/** A failure that another attempt over a new connection may overcome. */
+/** A failure for which a retry over a new connection may succeed. */
 final class BrokenConnectionException extends FileServerException {
     private static final long serialVersionUID = 1L;
 

@@ -6,8 +6,8 @@ import java.nio.file.Path;
 import java.nio.file.StandardCopyOption;
 
 /**
- * Fetches one file whole or not at all: it is written under a temporary name beside its target, compared in size, and
- * only then renamed over the target.
+ * Downloads one file atomically: it is written to a temporary file in the target's directory, checked for its
+ * size, and only then renamed over the target.
  */
 final class Download {
     private final Transport transport;
@@ -21,7 +21,7 @@ final class Download {
     }
 
     /**
-     * Fetches a file. An existing target is replaced; after a failure it is as it was.
+     * Downloads the file. An existing target is replaced; on failure it is unchanged.
      */
     void run(RemotePath source, Path target) throws FileServerException {
         if (Files.exists(target) && !Files.isRegularFile(target)) {
@@ -43,7 +43,7 @@ final class Download {
     }
 
     private void receive(RemotePath source, Path temporary) throws FileServerException {
-        // The line ends of a text may change on the way, and with them its size.
+        // In ASCII mode, the conversion of line ends may change the size.
         long expected = mode == TransferMode.BINARY ? transport.size(source) : Transport.UNKNOWN_SIZE;
         try (LocalTarget target = LocalTarget.create(temporary, expected)) {
             transport.receive(source, mode, target);
@@ -60,7 +60,7 @@ final class Download {
         try {
             Files.deleteIfExists(temporary);
         } catch (IOException e) {
-            // What failed before is what the caller has to know; the name tells what the leftover is.
+            // The original failure is more important; the name identifies the leftover as a temporary file.
         }
     }
 }

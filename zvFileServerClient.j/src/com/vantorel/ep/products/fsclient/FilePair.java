@@ -15,7 +15,7 @@ final class FilePair {
         this.local = local;
     }
 
-    /** A pair of names that the caller gave. */
+    /** A pair from names that the caller gave. */
     static FilePair of(String remote, String local) throws FileServerException {
         return new FilePair(RemotePath.of(remote), LocalFiles.path(local));
     }
@@ -24,7 +24,7 @@ final class FilePair {
      * Files of the same name in two directories.
      *
      * @param localDir an existing directory
-     * @throws FileServerException when any of the names would lead out of the directories
+     * @throws FileServerException when any of the names would escape the directories
      */
     static List<FilePair> of(String remoteDir, String localDir, Collection<String> names) throws FileServerException {
         if (names == null) {

@@ -8,18 +8,20 @@ import java.util.List;
 import java.util.Map;
 
 /**
- * Moves files between this host and a file server.
+ * Transfers files between this host and a file server.
  *
- * <p>A file arrives whole or not at all, in both directions: an existing file is replaced only by a complete one.
- * When a connection breaks, the operation is repeated over a new one, as often as configured. An operation that moves
- * several files checks every name first, and ends with the first file that fails; what arrived before stays.
+ * <p>The transfer of a file is atomic in both directions: an existing file is replaced only by a complete
+ * one. When a connection breaks, the operation is retried over a new one, as often as configured. An
+ * operation on several files validates all names first and stops at the first failure; files transferred
+ * before stay.
  *
- * <p>Remote names are taken from the configured root. {@code /} and {@code \} both separate, also in front; no name
- * leads out of the root. Local names are those of this host. Files that are still arriving ({@code .zv-*.part}) or
- * being replaced ({@code .zv-*.old}) are invisible to listings and filters.
+ * <p>Remote paths are relative to the configured root, even with a leading separator; {@code /} and {@code \}
+ * are both separators, and no path escapes the root. Local paths are those of this host. Temporary files of a
+ * transfer ({@code .zv-*.part}) and files being replaced ({@code .zv-*.old}) are hidden from listings and
+ * filters.
  *
- * <p>Every failure is a {@link FileServerException} that names the file and the reason. One thread at a time may use a
- * client.
+ * <p>Every failure is a {@link FileServerException} that names the file and the reason. Not thread-safe: one
+ * thread at a time may use a client.
  */
 public final class FileServerClient {
     private final String url;
@@ -34,39 +36,39 @@ public final class FileServerClient {
         this.retry = retry;
     }
 
-    /** Connects and logs in; every operation on files needs it first. Does nothing when that is already so. */
+    /** Connects and logs in, which is required before any file operation. Idempotent. */
     public void connect() throws FileServerException {
         explained("connect to " + url, () -> retry.run(() -> null));
         connected = true;
     }
 
-    /** Ends the connection. Does nothing when there is none. */
+    /** Disconnects. Idempotent. */
     public void disconnect() {
         transport.disconnect();
         connected = false;
     }
 
     /**
-     * Says how the files travel from now on; at first it is binary.
+     * Sets the transfer mode of later transfers; the default is binary.
      *
-     * @param code 0 for binary (unchanged), 1 for ASCII (line ends become those of the receiving system; with a
-     *     directory as file server, those of this one)
+     * @param code 0 for binary (unchanged), 1 for ASCII (line ends are converted to those of the receiving system;
+     *     with a directory as file server, to those of this host)
      */
     public void setFileTransferMode(int code) throws FileServerException {
         mode = explained("set the file transfer mode " + code, () -> TransferMode.ofCode(code));
     }
 
     /**
-     * Fetches a file.
+     * Downloads a file.
      *
-     * @param local the file's name on this host, in an existing directory
+     * @param local the file's path on this host, in an existing directory
      */
     public void get(String remote, String local) throws FileServerException {
         fetch(explained(fetching(remote, local), () -> FilePair.of(remote, local)));
     }
 
     /**
-     * Fetches some files of a directory into an existing local one.
+     * Downloads some files of a directory into an existing local one.
      *
      * @param files the names, without directories
      */
@@ -78,9 +80,9 @@ public final class FileServerClient {
     }
 
     /**
-     * Fetches the regular files of a directory whose names match, into an existing local one.
+     * Downloads the regular files of a directory whose names match into an existing local one.
      *
-     * @param filter a pattern with {@code *}, {@code ?} and {@code [...]}; {@code *} matches every name
+     * @param filter a glob pattern; {@code *} matches every name, even with a leading dot
      */
     public void get(String remoteDir, String localDir, String filter) throws FileServerException {
         String what = "get files '" + filter + "' from remote directory '" + remoteDir + "' to local directory '"
@@ -92,13 +94,13 @@ public final class FileServerClient {
         }
     }
 
-    /** Sends a file into an existing directory. */
+    /** Uploads a file into an existing directory. */
     public void put(String local, String remote) throws FileServerException {
         send(explained(sending(local, remote), () -> FilePair.of(remote, local)));
     }
 
     /**
-     * Sends some files of a local directory into an existing remote one.
+     * Uploads some files of a local directory into an existing remote one.
      *
      * @param files the names, without directories
      */
@@ -110,9 +112,9 @@ public final class FileServerClient {
     }
 
     /**
-     * Sends the regular files of a local directory whose names match, into an existing remote one.
+     * Uploads the regular files of a local directory whose names match into an existing remote one.
      *
-     * @param filter a pattern with {@code *}, {@code ?} and {@code [...]}; {@code *} matches every name
+     * @param filter a glob pattern; {@code *} matches every name, even with a leading dot
      */
     public void put(String localDir, String remoteDir, String filter) throws FileServerException {
         String what = "put files '" + filter + "' from local directory '" + localDir + "' to remote directory '"
@@ -124,7 +126,7 @@ public final class FileServerClient {
         }
     }
 
-    /** Makes a directory and those above it, as far as they do not exist. */
+    /** Creates a directory and its missing parents. Idempotent. */
     public void mkDir(String dir) throws FileServerException {
         onServer("make directory '" + dir + "' on the file server", () -> {
             RemotePath directory = RemotePath.of(dir);
@@ -135,7 +137,7 @@ public final class FileServerClient {
         });
     }
 
-    /** Whether there is a file, a directory or anything else of that name. */
+    /** Whether a file, a directory or anything else exists at the path. */
     public boolean exists(String path) throws FileServerException {
         return onServer("tell whether '" + path + "' exists on the file server", () -> {
             RemotePath name = RemotePath.of(path);
@@ -143,7 +145,7 @@ public final class FileServerClient {
         });
     }
 
-    /** The names of everything in a directory, sorted. */
+    /** The names of all entries of a directory, sorted. */
     public String[] list(String dir) throws FileServerException {
         return onServer("list directory '" + dir + "' of the file server", () -> {
             List<String> names = new ArrayList<>();
@@ -154,7 +156,7 @@ public final class FileServerClient {
         });
     }
 
-    /** The url of the file server. */
+    /** The URL of the file server. */
     @Override
     public String toString() {
         return url;
@@ -220,7 +222,7 @@ public final class FileServerClient {
         } catch (BrokenConnectionException e) {
             throw e;
         } catch (FileServerException e) {
-            // Another process may have been faster.
+            // Another process may have won the race.
             if (transport.kind(directory) != Transport.Kind.DIRECTORY) {
                 throw e;
             }

@@ -1,8 +1,7 @@
 package com.vantorel.ep.products.fsclient;
 
 /**
- * Makes file-server clients from a configuration file. There is one factory in a process; it serves one thread at a
- * time.
+ * Creates file-server clients from a configuration file. A singleton; not thread-safe.
  */
 public final class FileServerClientFactory {
     private static final FileServerClientFactory INSTANCE = new FileServerClientFactory();
@@ -11,16 +10,17 @@ public final class FileServerClientFactory {
 
     private FileServerClientFactory() {}
 
-    /** The one factory. */
+    /** The singleton. */
     public static FileServerClientFactory getInstance() {
         return INSTANCE;
     }
 
     /**
-     * Reads the configuration for the clients that are made from now on. May be called again.
+     * Reads the configuration for clients that are created afterwards. May be called again.
      *
      * @param configPath a properties file, as described by this package's {@code fileserver.properties}
-     * @throws FileServerException when it cannot be read or is wrong, naming the file, the key and the reason
+     * @throws FileServerException when the file cannot be read or is invalid, naming the file, the key and
+     * the reason
      */
     public void initialize(String configPath) throws FileServerException {
         try {
@@ -31,13 +31,13 @@ public final class FileServerClientFactory {
     }
 
     /**
-     * Makes a client. It is not yet connected.
+     * Creates a client, which is not connected yet.
      *
      * @throws FileServerException when the factory has not been initialized
      */
     public FileServerClient getFileServerClient() throws FileServerException {
         if (settings == null) {
-            throw new FileServerException("The file-server client is not configured: initialize comes first");
+            throw new FileServerException("The file-server client is not configured: call initialize first");
         }
         Transport transport = settings.scheme == Settings.Scheme.FILE ? new LocalTransport(settings.directory)
                                                                       : new FtpTransport(settings);

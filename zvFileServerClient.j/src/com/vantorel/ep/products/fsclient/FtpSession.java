@@ -9,8 +9,8 @@ import org.apache.commons.net.ftp.FTPClient;
 import org.apache.commons.net.ftp.FTPReply;
 
 /**
- * One logged-in connection to an FTP or FTPS server, from its making to its first failure. This is the one place where
- * the FTP library is called, and where its failures and the server's refusals become ours.
+ * One session with an FTP or FTPS server, which ends at its first failure. Wraps the FTP library and converts
+ * its exceptions and the server's negative replies to {@link FileServerException}s.
  */
 final class FtpSession {
     private static final long LONGEST_ANSWER = 16L << 20;
@@ -23,12 +23,12 @@ final class FtpSession {
     private TransferMode currentMode;
     private volatile boolean open = true;
 
-    /** What the server is to do. */
+    /** A command for the server. */
     interface Command<T> {
         T run(FTPClient ftp) throws IOException;
     }
 
-    /** Connects, logs in and finds the root. */
+    /** Connects, logs in and determines the root. */
     FtpSession(Settings settings) throws FileServerException {
         this.settings = settings;
         ftp = settings.scheme == Settings.Scheme.FTPS ? secureClient() : new FTPClient();
@@ -43,7 +43,7 @@ final class FtpSession {
         }
     }
 
-    /** Whether it can still be used. */
+    /** Whether the session can still be used. */
     boolean isOpen() {
         return open;
     }
@@ -54,29 +54,29 @@ final class FtpSession {
             try {
                 ask(FTPClient::logout);
             } catch (FileServerException e) {
-                // A farewell that the server does not hear changes nothing.
+                // The session ends anyway.
             } finally {
                 drop();
             }
         }
     }
 
-    /** Closes the connection at once; any thread may do so. */
+    /** Closes the connection at once. Thread-safe. */
     void drop() {
         open = false;
         sockets.closeAll();
     }
 
-    /** The name of a file as the server is to hear it. */
+    /** The absolute path of a file on the server. */
     String path(RemotePath path) throws FileServerException {
         if (!settings.encoding.newEncoder().canEncode(path.toString())) {
             throw new FileServerException(
-                    "the encoding " + settings.encoding + " lacks a character of the name '" + path + "'");
+                    "the encoding " + settings.encoding + " cannot encode the name '" + path + "'");
         }
         return root + path;
     }
 
-    /** Says how the next files travel. */
+    /** Sets the transfer mode of the next files. */
     void useMode(TransferMode mode) throws FileServerException {
         if (mode != currentMode) {
             int type = mode == TransferMode.ASCII ? FTP.ASCII_FILE_TYPE : FTP.BINARY_FILE_TYPE;
@@ -85,17 +85,17 @@ final class FtpSession {
         }
     }
 
-    /** Gives a command that the server must carry out. */
+    /** Sends a command and fails on a negative reply. */
     void order(Command<Boolean> command) throws FileServerException {
         require(ask(command));
     }
 
-    /** Gives a command that brings a whole file. */
+    /** The same for a command that transfers a file, whose size is not limited. */
     void orderFile(Command<Boolean> command) throws FileServerException {
         require(ask(Long.MAX_VALUE, command));
     }
 
-    /** Gives a command that the server may refuse. When there is no answer, the session ends. */
+    /** Sends a command to which the reply may be negative. Without a reply, the session ends. */
     <T> T ask(Command<T> command) throws FileServerException {
         return ask(LONGEST_ANSWER, command);
     }
@@ -108,18 +108,18 @@ final class FtpSession {
             drop();
             throw failure(e);
         } catch (RuntimeException e) {
-            // The library's parsers throw these at answers that are none.
+            // The library's parsers throw these for malformed replies.
             drop();
-            throw new BrokenConnectionException("the server's answer makes no sense: " + masked(e.toString()));
+            throw new BrokenConnectionException("malformed reply of the server: " + masked(e.toString()));
         }
     }
 
-    /** The code of the last answer. */
+    /** The code of the last reply. */
     int replyCode() {
         return ftp.getReplyCode();
     }
 
-    /** Whether the last answer allows to go on. When it asks for another attempt, the session ends. */
+    /** Throws unless {@code success}. A transient negative reply ends the session, for a retry. */
     void require(boolean success) throws FileServerException {
         if (!success) {
             String reason = "the server answered '" + reply() + "'";
@@ -164,14 +164,14 @@ final class FtpSession {
     private void login() throws FileServerException {
         boolean welcome = ask(client -> client.login(settings.user, settings.password));
         if (!welcome && FTPReply.isNegativePermanent(replyCode())) {
-            throw new FileServerException("the server does not let user '" + settings.user + "' in: " + reply());
+            throw new FileServerException("the server refuses the login of user '" + settings.user + "': " + reply());
         }
         require(welcome);
         ask(client -> {
             if (client instanceof SecureFtpClient) {
                 ((SecureFtpClient) client).protectData();
             }
-            // Some servers speak UTF-8 only when told to; the others need not know the command.
+            // Some servers use UTF-8 only after this command; others may not support it.
             if (client.hasFeature("UTF8") && settings.encoding.name().equals("UTF-8")) {
                 client.sendCommand("OPTS", "UTF8 ON");
             }
@@ -194,7 +194,7 @@ final class FtpSession {
             if (e instanceof FileServerException) {
                 return (FileServerException) e;
             } else if (e instanceof UnknownHostException) {
-                return new BrokenConnectionException("the host '" + settings.host + "' is not known");
+                return new BrokenConnectionException("unknown host '" + settings.host + "'");
             } else if (e instanceof CertificateException) {
                 return new FileServerException("the server's certificate is not trusted: " + masked(e.toString()));
             }
@@ -208,7 +208,7 @@ final class FtpSession {
         return masked(String.join(" ", Arrays.asList(ftp.getReplyStrings())));
     }
 
-    /** A text from outside, fit for a message: a server may answer with the password that it was given. */
+    /** Sanitises external text for a message: a server may echo the password in a reply. */
     private String masked(String text) {
         String line = text.replaceAll("\\p{Cntrl}+", " ").trim();
         return settings.password.isEmpty() ? line : line.replace(settings.password, "********");

@@ -9,11 +9,11 @@ import org.apache.commons.net.ftp.FTPFile;
 import org.apache.commons.net.ftp.FTPReply;
 
 /**
- * An FTP or FTPS server as file server. Names go to it as absolute paths, so nothing depends on where the session
- * stands.
+ * An FTP or FTPS server as file server. All paths are absolute, so nothing depends on the session's working
+ * directory.
  */
 final class FtpTransport implements Transport {
-    /** A listing's line for the directory itself or its parent; its name may be a whole path. */
+    /** A listing's entry for the directory itself or its parent, whose name may be a full path. */
     private static final Pattern OWN_ENTRY = Pattern.compile("^(\\S*;)?type=[cp]dir;", Pattern.CASE_INSENSITIVE);
 
     private final Settings settings;
@@ -63,7 +63,8 @@ final class FtpTransport implements Transport {
         session.useMode(TransferMode.BINARY);
         String size = session.ask(ftp -> ftp.getSize(name));
         if (size == null && FTPReply.isNegativePermanent(session.replyCode())) {
-            // Some refuse to tell what they do send; if they refuse that too, they say better why.
+            // Some servers refuse SIZE for files that they do send; if not, the reply to RETR gives a better
+            // reason.
             return UNKNOWN_SIZE;
         }
         session.require(size != null);
@@ -73,7 +74,8 @@ final class FtpTransport implements Transport {
     @Override
     public SortedMap<String, Kind> list(RemotePath directory) throws FileServerException {
         String name = session.path(directory);
-        // Without an argument to the listing, no server takes a part of the name for an option or a pattern.
+        // Changes the working directory, since servers may interpret an argument of LIST as an option or a
+        // pattern.
         session.order(ftp -> ftp.changeWorkingDirectory(name));
         FTPFile[] files = session.ask(ftp -> ftp.hasFeature("MLST") ? ftp.mlistDir() : ftp.listFiles());
         session.require(FTPReply.isPositiveCompletion(session.replyCode()));
@@ -138,7 +140,7 @@ final class FtpTransport implements Transport {
         return list(path.parent()).getOrDefault(path.fileName(), Kind.ABSENT);
     }
 
-    /** The server has no file of a name; unless its answer was about something else. */
+    /** Returns {@code ABSENT} if the last reply means that; throws for any other. */
     private Kind absent() throws FileServerException {
         session.require(session.replyCode() == FTPReply.FILE_UNAVAILABLE);
         return Kind.ABSENT;

@@ -4,17 +4,16 @@ import java.util.regex.Pattern;
 import java.util.regex.PatternSyntaxException;
 
 /**
- * A file-name pattern as in a shell: {@code *}, {@code ?} and {@code [...]}, with {@code [!...]} or {@code [^...]} for
- * any other character. Upper and lower case differ. A leading dot needs no dot in the pattern: {@code *} means every
- * file.
+ * A glob pattern as in a shell: {@code *}, {@code ?} and {@code [...]}, negated as {@code [!...]} or {@code
+ * [^...]}. Case-sensitive. Unlike in a shell, {@code *} also matches a leading dot.
  */
 final class Glob {
     private final Pattern pattern;
 
     /**
-     * Reads a pattern.
+     * Compiles a pattern.
      *
-     * @throws FileServerException when it is empty or a bracket in it is wrong
+     * @throws FileServerException when it is empty or has an invalid bracket expression
      */
     Glob(String glob) throws FileServerException {
         if (glob == null || glob.isEmpty()) {
@@ -38,7 +37,7 @@ final class Glob {
         try {
             pattern = Pattern.compile(regex.toString(), Pattern.DOTALL);
         } catch (PatternSyntaxException e) {
-            throw new FileServerException("the filter '" + glob + "' is wrong: " + e.getDescription());
+            throw new FileServerException("invalid filter '" + glob + "': " + e.getDescription());
         }
     }
 
@@ -52,10 +51,10 @@ final class Glob {
         if (glob.startsWith("!", first) || glob.startsWith("^", first)) {
             ++first;
         }
-        // A closing bracket that comes first stands for itself.
+        // A closing bracket in the first position is literal.
         int end = glob.indexOf(']', first + 1);
         if (end < 0) {
-            throw new FileServerException("the filter '" + glob + "' is wrong: a bracket is not closed");
+            throw new FileServerException("invalid filter '" + glob + "': a bracket is not closed");
         }
         return end;
     }

@@ -16,11 +16,11 @@ import java.nio.file.Paths;
 import java.util.SortedSet;
 import java.util.TreeSet;
 
-/** What the client asks of the file system of this host, with failures in words. */
+/** Operations on this host's file system, with readable failures. */
 final class LocalFiles {
     private LocalFiles() {}
 
-    /** The path of a name that the caller gave; it is trusted and used as it stands. */
+    /** The path of a name that the caller gave, which is trusted and not restricted. */
     static Path path(String name) throws FileServerException {
         if (name == null || name.isEmpty()) {
             throw new FileServerException("no local name given");
@@ -37,7 +37,7 @@ final class LocalFiles {
         return directory;
     }
 
-    /** A file of a directory; the name is not trusted, and cannot lead out of it. */
+    /** A file in a directory. The name is not trusted and cannot escape the directory. */
     static Path child(Path directory, String name) throws FileServerException {
         Path file = parse(RemotePath.checkFileName(name));
         if (file.getRoot() != null || file.getNameCount() != 1) {
@@ -63,7 +63,7 @@ final class LocalFiles {
         return names;
     }
 
-    /** A failure with its reason in words. */
+    /** Converts an exception to one with a readable reason. */
     static FileServerException failure(IOException e) {
         return e instanceof FileServerException ? (FileServerException) e : new FileServerException(reason(e), e);
     }
@@ -72,7 +72,7 @@ final class LocalFiles {
         try {
             return Paths.get(name);
         } catch (InvalidPathException e) {
-            throw new FileServerException("'" + name + "' is no file name on this host: " + e.getReason(), e);
+            throw new FileServerException("'" + name + "' is not a valid file name on this host: " + e.getReason(), e);
         }
     }
 

@@ -5,8 +5,8 @@ import java.nio.file.Files;
 import java.nio.file.Path;
 
 /**
- * A local file being read. It counts, and its failures are {@link FileServerException}s, which tells them from those of
- * the network.
+ * An input stream of a local file that counts bytes and throws {@link FileServerException}s, which
+ * distinguishes its failures from those of the network.
  */
 final class LocalSource extends BulkInput {
     private long count;
@@ -29,7 +29,7 @@ final class LocalSource extends BulkInput {
         super(Files.newInputStream(file));
     }
 
-    /** How many bytes have been read. */
+    /** The number of bytes read. */
     long count() {
         return count;
     }

@@ -10,8 +10,8 @@ import java.nio.file.StandardOpenOption;
 import java.util.Set;
 
 /**
- * A local file being written, from its beginning. It counts, takes no more than was announced, and its failures are
- * {@link FileServerException}s, which tells them from those of the network.
+ * An output stream to a local file that counts bytes, limits the size and throws {@link
+ * FileServerException}s, which distinguishes its failures from those of the network.
  */
 final class LocalTarget extends OutputStream {
     private final FileChannel channel;
@@ -19,9 +19,9 @@ final class LocalTarget extends OutputStream {
     private long count;
 
     /**
-     * Creates the file, or empties it. A symbolic link in its place is refused.
+     * Creates or truncates the file. A symlink is refused.
      *
-     * @param limit how many bytes are expected at most, or {@link Transport#UNKNOWN_SIZE}
+     * @param limit the maximum number of bytes, or {@link Transport#UNKNOWN_SIZE}
      */
     static LocalTarget create(Path file, long limit) throws FileServerException {
         try {
@@ -37,7 +37,7 @@ final class LocalTarget extends OutputStream {
         this.limit = limit;
     }
 
-    /** How many bytes have been written. */
+    /** The number of bytes written. */
     long count() {
         return count;
     }
@@ -63,7 +63,7 @@ final class LocalTarget extends OutputStream {
         }
     }
 
-    /** Brings what was written to the disk: the file takes its name, and its source may be removed, only then. */
+    /** Flushes the file to disk, before it is renamed and its source may be deleted. */
     void force() throws FileServerException {
         try {
             channel.force(false);

@@ -25,9 +25,8 @@ import org.apache.commons.net.io.ToNetASCIIOutputStream;
 /**
  * A directory of this host as file server.
  *
- * <p>Below the root no symbolic link is followed, and the operation that meets one is refused. In ASCII mode both
- * sides are this system, so a text that travels in either direction arrives with this system's line ends, as it would
- * between two FTP hosts of its kind.
+ * <p>Symlinks below the root are not followed: an operation on one is refused. In ASCII mode, line ends are
+ * converted to those of this host in both directions, as between two FTP hosts of the same system.
  */
 final class LocalTransport implements Transport {
     private final Path directory;
@@ -74,7 +73,7 @@ final class LocalTransport implements Transport {
                     names.put(entry.getFileName().toString(), kind(entry));
                 }
             }
-            // An entry may have gone while the directory was being read.
+            // An entry may have been deleted since the directory was read.
             names.values().removeIf(Kind.ABSENT::equals);
             return names;
         });
@@ -98,7 +97,7 @@ final class LocalTransport implements Transport {
             try (FileChannel channel = FileChannel.open(file, Set.of(StandardOpenOption.CREATE,
                     StandardOpenOption.WRITE, StandardOpenOption.TRUNCATE_EXISTING, LinkOption.NOFOLLOW_LINKS))) {
                 copy(source, Channels.newOutputStream(channel), mode);
-                // The sender may remove its file once this one has its name.
+                // On disk before it is renamed, since the sender may delete its file after that.
                 channel.force(false);
                 return null;
             }
@@ -127,7 +126,7 @@ final class LocalTransport implements Transport {
         });
     }
 
-    /** The path of a name below the root, of which no part is a symbolic link. */
+    /** The path of a name below the root; refuses symlinks in any component. */
     private Path resolve(RemotePath name) throws FileServerException {
         Path path = root;
         for (String component : name.components()) {
@@ -162,7 +161,7 @@ final class LocalTransport implements Transport {
         } catch (NoSuchFileException e) {
             return Kind.ABSENT;
         } catch (FileSystemException e) {
-            // Below a file there is nothing, though the system calls it a failure.
+            // A path below a regular file is absent, although the system reports an error.
             if (Files.isDirectory(path.getParent())) {
                 throw e;
             }
@@ -178,7 +177,7 @@ final class LocalTransport implements Transport {
         if (!System.lineSeparator().equals("\r\n")) {
             return text.transferTo(target);
         }
-        // Here the network's line ends stay, and those that came without a carriage return get one.
+        // On this system, CRLF is kept and a bare LF becomes CRLF.
         BufferedOutputStream buffer = new BufferedOutputStream(target);
         long count = text.transferTo(new ToNetASCIIOutputStream(buffer));
         buffer.flush();

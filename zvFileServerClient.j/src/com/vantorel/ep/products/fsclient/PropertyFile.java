@@ -14,17 +14,17 @@ import java.util.Properties;
 import java.util.TreeSet;
 
 /**
- * A properties file in UTF-8, over the file of the same name in this package, which lists every key with its default.
- * Each failure names the file, the key and the reason.
+ * A properties file in UTF-8, with this package's {@code fileserver.properties} as defaults and as the list
+ * of valid keys. Each failure names the file, the key and the reason.
  */
 final class PropertyFile {
     private final Path file;
     private final Properties properties;
 
     /**
-     * Reads a file.
+     * Parses a file.
      *
-     * @throws FileServerException when it cannot be read, or holds a key that does not exist
+     * @throws FileServerException when it cannot be read or contains an unknown key
      */
     PropertyFile(Path file) throws FileServerException {
         this.file = file;
@@ -58,17 +58,17 @@ final class PropertyFile {
         return file;
     }
 
-    /** The value of a key as it stands; empty when neither the file nor the defaults give one. */
+    /** The value of a key, untrimmed; empty when it is not set and has no default. */
     String exactly(String key) {
         return properties.getProperty(key);
     }
 
-    /** The value of a key without blanks around it. */
+    /** The trimmed value of a key. */
     String text(String key) {
         return exactly(key).trim();
     }
 
-    /** A value that goes to the server within a command, and so may not end it. */
+    /** Validates a value that is part of an FTP command: control characters would allow injection. */
     String word(String key, String value) throws FileServerException {
         if (value.chars().anyMatch(Character::isISOControl)) {
             throw failure(key, "it holds a control character");
@@ -76,7 +76,7 @@ final class PropertyFile {
         return value;
     }
 
-    /** A whole number from 0 up. */
+    /** An integer from 0 to {@code highest}. */
     int number(String key, int highest) throws FileServerException {
         String value = text(key);
         if (!value.matches("[0-9]{1,9}") || Integer.parseInt(value) > highest) {
@@ -85,7 +85,7 @@ final class PropertyFile {
         return Integer.parseInt(value);
     }
 
-    /** One of a few words; the answer is its position. */
+    /** One of several words; returns its index. */
     int choice(String key, String... words) throws FileServerException {
         for (int i = 0; i < words.length; ++i) {
             if (words[i].equals(text(key))) {
@@ -95,7 +95,7 @@ final class PropertyFile {
         throw failure(key, "'" + text(key) + "' is none of " + String.join(", ", words));
     }
 
-    /** Some of a few words, with commas between them. */
+    /** A comma-separated list of some of the words. */
     String[] words(String key, String... words) throws FileServerException {
         String[] chosen = text(key).split(" *, *");
         if (!Arrays.asList(words).containsAll(Arrays.asList(chosen))) {
@@ -104,12 +104,12 @@ final class PropertyFile {
         return chosen;
     }
 
-    /** True or false. */
+    /** A boolean, "true" or "false". */
     boolean flag(String key) throws FileServerException {
         return choice(key, "true", "false") == 0;
     }
 
-    /** A failure in the value of a key. */
+    /** An exception for an invalid value. */
     FileServerException failure(String key, String reason) {
         return new FileServerException("'" + file + "', key '" + key + "': " + reason);
     }

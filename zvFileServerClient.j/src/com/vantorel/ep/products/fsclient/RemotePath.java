@@ -5,11 +5,10 @@ import java.util.Collections;
 import java.util.List;
 
 /**
- * A checked name on the file server. It always lies in or below the configured root, and this is the one place that
- * sees to it.
+ * A validated path on the file server, always in or below the configured root.
  *
- * <p>Both {@code /} and {@code \} separate. The name is taken from the root, whether it begins with a separator or not;
- * the empty name, {@code .} and {@code /} are the root itself.
+ * <p>{@code /} and {@code \} are both separators. The path is relative to the root, even with a leading
+ * separator; the empty path, {@code .} and {@code /} are the root itself.
  */
 final class RemotePath {
     /** The root of the file server. */
@@ -22,9 +21,9 @@ final class RemotePath {
     }
 
     /**
-     * Checks a name that came from the caller.
+     * Validates a path from the caller.
      *
-     * @throws FileServerException when it could lead out of the root, or is no name that every server can keep
+     * @throws FileServerException when it could escape the root or is not portable between servers
      */
     static RemotePath of(String name) throws FileServerException {
         if (name == null) {
@@ -44,31 +43,31 @@ final class RemotePath {
     }
 
     /**
-     * Checks that a name, from a list or a server's listing, names a file of the directory at hand and nothing else.
+     * Validates a bare file name, from a list or from a server's listing.
      *
      * @return the name
-     * @throws FileServerException when it is empty, holds a separator or leads elsewhere
+     * @throws FileServerException when it is empty, contains a separator or is {@code .} or {@code ..}
      */
     static String checkFileName(String name) throws FileServerException {
         if (name == null || name.isEmpty()) {
             throw new FileServerException("an empty file name is refused");
         }
         if (name.indexOf('/') >= 0 || name.indexOf('\\') >= 0) {
-            throw new FileServerException("the file name '" + printable(name) + "' is refused: it holds a separator");
+            throw new FileServerException("the file name '" + printable(name) + "' is refused: it contains a separator");
         }
         return checkComponent(name, name);
     }
 
     private static String checkComponent(String component, String whole) throws FileServerException {
-        // Some systems drop dots and blanks at the end of a name, so that ".. " and "..." become "..".
+        // Some systems strip trailing dots and blanks, so that ".. " and "..." become "..".
         if (component.chars().allMatch(c -> c == '.' || c == ' ')) {
             throw new FileServerException("the name '" + printable(whole)
                     + "' is refused: a part of nothing but dots or blanks may lead out of the file server's root");
         }
-        // A line end in a name would be a second command to an FTP server.
+        // A line end in a name would inject an FTP command.
         if (component.chars().anyMatch(Character::isISOControl)) {
             throw new FileServerException(
-                    "the name '" + printable(whole) + "' is refused: it holds a control character");
+                    "the name '" + printable(whole) + "' is refused: it contains a control character");
         }
         return component;
     }
@@ -81,17 +80,17 @@ final class RemotePath {
         return components.isEmpty();
     }
 
-    /** The names from the root down. */
+    /** The components from the root down. */
     List<String> components() {
         return components;
     }
 
-    /** The last name; the root has none. */
+    /** The last component. Precondition: not the root. */
     String fileName() {
         return components.get(components.size() - 1);
     }
 
-    /** The directory that holds this; the root has none. */
+    /** The parent directory. Precondition: not the root. */
     RemotePath parent() {
         return new RemotePath(components.subList(0, components.size() - 1));
     }
@@ -99,7 +98,7 @@ final class RemotePath {
     /**
      * A file of this directory.
      *
-     * @throws FileServerException when the name is not that of a file in it
+     * @throws FileServerException when the name is not a bare file name
      */
     RemotePath child(String name) throws FileServerException {
         List<String> longer = new ArrayList<>(components);
@@ -107,7 +106,7 @@ final class RemotePath {
         return new RemotePath(longer);
     }
 
-    /** The name with {@code /} between the components and none in front. */
+    /** The components joined by {@code /}, without a leading one. */
     @Override
     public String toString() {
         return String.join("/", components);

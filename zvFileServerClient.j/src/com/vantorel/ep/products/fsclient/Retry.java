@@ -2,9 +2,9 @@ package com.vantorel.ep.products.fsclient;
 
 import java.time.Duration;
 
-/** Runs an operation over a transport, and runs it again over a new connection when the connection broke. */
+/** Runs an operation over a transport and retries it over a new connection when the connection breaks. */
 final class Retry {
-    /** An operation that can be repeated from its beginning. */
+    /** An operation that can be retried from the start. */
     interface Operation<T> {
         T run() throws FileServerException;
     }
@@ -14,8 +14,8 @@ final class Retry {
     private final Duration delay;
 
     /**
-     * @param retries how often to try again after the first attempt
-     * @param delay how long to wait before each
+     * @param retries the number of retries after the first attempt
+     * @param delay the back-off before each retry
      */
     Retry(Transport transport, int retries, Duration delay) {
         this.transport = transport;
@@ -24,7 +24,7 @@ final class Retry {
     }
 
     /**
-     * Runs an operation with the transport connected.
+     * Connects the transport if necessary and runs an operation.
      *
      * @throws FileServerException the operation's own failure, or the last broken connection
      */

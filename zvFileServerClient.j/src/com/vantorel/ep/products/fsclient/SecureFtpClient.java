@@ -8,8 +8,8 @@ import javax.net.ssl.SSLSocket;
 import org.apache.commons.net.ftp.FTPSClient;
 
 /**
- * FTPS whose data connections resume the TLS session of the control connection. Many servers demand it, as proof that
- * both come from the same client.
+ * An FTPS client whose data connections resume the TLS session of the control connection. Many servers
+ * require that, as proof that both are from the same client.
  */
 final class SecureFtpClient extends FTPSClient {
     private final SSLContext context;
@@ -27,7 +27,7 @@ final class SecureFtpClient extends FTPSClient {
     void protectData() throws IOException {
         execPBSZ(0);
         execPROT("P");
-        // In the place of those that the library has just set, which know no session to resume.
+        // Replaces the library's socket factories, which do not resume the session.
         setSocketFactory(sockets);
         setServerSocketFactory(sockets.serverSockets());
     }

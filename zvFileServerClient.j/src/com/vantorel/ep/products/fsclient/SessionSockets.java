@@ -11,25 +11,25 @@ import javax.net.ServerSocketFactory;
 import org.apache.commons.net.DefaultSocketFactory;
 
 /**
- * Makes the sockets of one FTP session. It keeps hold of them, so that a stalled one can be closed from outside, and
- * limits what a server can make the client read as an answer.
+ * Creates and tracks the sockets of one FTP session, so that stalled ones can be closed from another thread,
+ * and limits the number of bytes that a server can send as a reply.
  */
 final class SessionSockets extends DefaultSocketFactory {
     private final Set<Socket> open = ConcurrentHashMap.newKeySet();
     private long allowance;
 
-    /** How many bytes may come from now on. */
+    /** Sets the number of bytes that may be received from now on. */
     void allow(long bytes) {
         allowance = bytes;
     }
 
-    /** Closes every socket, also one that another thread is writing to or reading from. */
+    /** Closes all sockets, even those in use by another thread. */
     void closeAll() {
         for (Socket socket : open) {
             try {
                 socket.close();
             } catch (IOException e) {
-                // It was to be dropped anyway.
+                // The socket is dropped anyway.
                 open.remove(socket);
             }
         }
@@ -40,7 +40,7 @@ final class SessionSockets extends DefaultSocketFactory {
         return new SessionSocket();
     }
 
-    /** Makes the sockets to which the server connects. */
+    /** Creates the sockets for active mode, to which the server connects. */
     ServerSocketFactory serverSockets() {
         return new ServerSocketFactory() {
             @Override
@@ -60,7 +60,7 @@ final class SessionSockets extends DefaultSocketFactory {
         };
     }
 
-    /** Makes a data socket count as one to another port, which is where TLS then looks for a session to resume. */
+    /** Makes a data socket report another port, for which TLS then looks up the session to resume. */
     static void presentAs(Socket socket, int port) {
         ((SessionSocket) socket).presentedPort = port;
     }

@@ -8,25 +8,25 @@ import java.nio.file.Paths;
 import java.time.Duration;
 
 /**
- * The client's configuration, checked. The keys and their defaults are described in this package's
- * {@code fileserver.properties}.
+ * The client's validated configuration. The keys and their defaults are described in this package's {@code
+ * fileserver.properties}.
  */
 final class Settings {
     private static final int IMPLICIT_FTPS_PORT = 990;
     private static final int FTP_PORT = 21;
     private static final int ONE_DAY = 24 * 60 * 60;
 
-    /** The kinds of url. */
+    /** The URL schemes. */
     enum Scheme { FILE, FTP, FTPS }
 
     final Scheme scheme;
-    /** The url as text, for messages; it holds no password. */
+    /** The URL for messages; contains no password. */
     final String url;
     /** The root directory; with {@link Scheme#FILE} only. */
     final Path directory;
     final String host;
     final int port;
-    /** The root, from the directory in which a login ends or from the server's top; empty for the former itself. */
+    /** The root, absolute or relative to the login directory; empty for the login directory itself. */
     final String serverPath;
     final String user;
     final String password;
@@ -38,12 +38,12 @@ final class Settings {
     final Charset encoding;
     final boolean implicit;
     final String[] protocols;
-    /** A PEM file, or null for what Java trusts. */
+    /** A PEM file, or null for Java's default trust store. */
     final Path certificates;
     final boolean checkHost;
 
     /**
-     * Reads a configuration file.
+     * Parses a configuration file.
      *
      * @throws FileServerException naming the file, the key and the reason
      */
@@ -123,7 +123,7 @@ final class Settings {
         if (uri.getQuery() != null || uri.getFragment() != null) {
             throw file.failure("url", "'" + uri + "' has a ? or # (write %3F or %23)");
         }
-        // An IPv6 address stands in brackets in a url, and nowhere else.
+        // Only in a URL, an IPv6 address is in brackets.
         return uri.getHost().replaceAll("[\\[\\]]", "");
     }
 

@@ -4,8 +4,8 @@ import java.time.Duration;
 import org.apache.commons.net.io.CopyStreamAdapter;
 
 /**
- * Ends an upload on which nothing moves any more: a socket has a time limit for reading but none for writing. It is
- * told of each piece that was written, and closes the connection when none was for too long.
+ * A watchdog for stalled uploads, since sockets have a time-out for reads but none for writes. It is notified
+ * of each chunk written, and closes the connection when there was none for too long.
  */
 final class StallGuard extends CopyStreamAdapter implements AutoCloseable {
     private final long limit;
@@ -14,7 +14,7 @@ final class StallGuard extends CopyStreamAdapter implements AutoCloseable {
     private volatile long lastProgress = System.nanoTime();
     private volatile boolean stalled;
 
-    /** Starts watching, until closed. */
+    /** Starts the watchdog, which runs until it is closed. */
     StallGuard(Duration limit, Runnable closeConnection) {
         this.limit = limit.toNanos();
         this.closeConnection = closeConnection;
@@ -22,7 +22,7 @@ final class StallGuard extends CopyStreamAdapter implements AutoCloseable {
         thread.start();
     }
 
-    /** Whether it has closed the connection. */
+    /** Whether the upload stalled and the connection was closed. */
     boolean stalled() {
         return stalled;
     }
@@ -45,7 +45,7 @@ final class StallGuard extends CopyStreamAdapter implements AutoCloseable {
             stalled = true;
             closeConnection.run();
         } catch (InterruptedException e) {
-            // The upload is over.
+            // The upload has finished.
             Thread.currentThread().interrupt();
         }
     }

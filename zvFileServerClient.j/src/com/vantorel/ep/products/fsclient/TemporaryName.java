@@ -4,16 +4,16 @@ import java.util.UUID;
 import java.util.regex.Pattern;
 
 /**
- * Names for files that are on their way: {@code .zv-}, 32 hexadecimal digits, and {@code .part} for one that is still
- * arriving or {@code .old} for one that is being replaced. No listing or filter shows them. They do not hold the
- * target's name, which may already be as long as the file system allows.
+ * Names of temporary files: {@code .zv-}, 32 hexadecimal digits, and {@code .part} for an incomplete file or
+ * {@code .old} for one that is being replaced. They are hidden from listings and filters. They do not contain
+ * the target's name, which may already have the maximum length.
  */
 final class TemporaryName {
     private static final Pattern PATTERN = Pattern.compile("\\.zv-[0-9a-f]{32}\\.(part|old)");
 
     private TemporaryName() {}
 
-    /** A new name for a file that is arriving. */
+    /** A new name for an incomplete file. */
     static String forArriving() {
         return create("part");
     }
@@ -23,7 +23,7 @@ final class TemporaryName {
         return create("old");
     }
 
-    /** Whether a file name is one of these. */
+    /** Whether a file name is that of a temporary file. */
     static boolean matches(String fileName) {
         return PATTERN.matcher(fileName).matches();
     }

@@ -12,11 +12,11 @@ import javax.net.ssl.SSLContext;
 import javax.net.ssl.TrustManagerFactory;
 
 /**
- * Makes the TLS context of a configuration.
+ * Creates the TLS context of a configuration.
  *
- * <p>Its sessions are resumed by their identifiers. Java can ask for tickets instead, but takes none that is valid for
- * more than a week, which some servers hand out; these then neither know an identifier nor let an unresumed data
- * connection pass. Where a server knows tickets only, Java's own property says so.
+ * <p>Sessions are resumed by session ID. Session tickets are disabled, since Java rejects those with a
+ * lifetime of more than a week: servers that issue them then know no session ID either, and refuse data
+ * connections that do not resume. For servers that support tickets only, set Java's own property.
  */
 final class TlsContext {
     private static final String TICKETS = "jdk.tls.client.enableSessionTicketExtension";
@@ -26,7 +26,7 @@ final class TlsContext {
     /**
      * A context that trusts the certificates of a PEM file.
      *
-     * @param file the file, or null for what the Java installation trusts
+     * @param file the file, or null for Java's default trust store
      */
     static SSLContext trusting(Path file) throws FileServerException {
         try {
@@ -39,7 +39,7 @@ final class TlsContext {
         }
     }
 
-    /** A context reads the property once, when it is made; nobody else is to see it changed. */
+    /** A context reads the property when it is created; it is restored afterwards. */
     private static SSLContext withoutTickets(TrustManagerFactory trust) throws GeneralSecurityException {
         boolean chosen = System.getProperty(TICKETS) != null;
         try {
@@ -65,7 +65,7 @@ final class TlsContext {
             }
         }
         if (store.size() == 0) {
-            throw new IOException("it holds none");
+            throw new IOException("the file contains none");
         }
         return store;
     }

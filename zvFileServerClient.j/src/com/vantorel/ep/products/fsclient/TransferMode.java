@@ -1,14 +1,14 @@
 package com.vantorel.ep.products.fsclient;
 
-/** How the bytes of a file travel. */
+/** The transfer mode of a file. */
 enum TransferMode {
     /** Unchanged. */
     BINARY,
-    /** As text: the file arrives with the line ends of the system that receives it. */
+    /** As text: line ends are converted to those of the receiving system. */
     ASCII;
 
     /**
-     * Finds the mode with a numeric code.
+     * The mode with a numeric code.
      *
      * @param code 0 for binary, 1 for ASCII
      * @throws FileServerException for any other code

@@ -5,47 +5,49 @@ import java.io.OutputStream;
 import java.util.SortedMap;
 
 /**
- * One way of reaching the file server. Each operation does one thing on the server, once; a failure that a new
- * connection may overcome is a {@link BrokenConnectionException} and leaves the transport disconnected. The messages
- * tell the reason only: whoever calls adds what was attempted.
+ * A protocol for access to the file server. Operations are elementary and not retried; a failure for which a
+ * retry over a new connection may succeed is a {@link BrokenConnectionException} and leaves the transport
+ * disconnected. Messages contain only the reason: callers add what was attempted.
  */
 interface Transport {
-    /** What a name on the server stands for. */
+    /** The type of an entry on the server. */
     enum Kind { FILE, DIRECTORY, OTHER, ABSENT }
 
-    /** The size of a file whose server does not tell it. */
+    /** The size of a file if the server does not report it. */
     long UNKNOWN_SIZE = -1;
 
-    /** Connects and logs in. Does nothing when that is already so. */
+    /** Connects and logs in. Idempotent. */
     void connect() throws FileServerException;
 
-    /** Ends the connection, if there is one. Never fails. */
+    /** Disconnects. Idempotent; never fails. */
     void disconnect();
 
-    /** What stands under a name. */
+    /** The type of the entry at a path. */
     Kind kind(RemotePath path) throws FileServerException;
 
     /** The size of a file in bytes, or {@link #UNKNOWN_SIZE}. */
     long size(RemotePath file) throws FileServerException;
 
     /**
-     * Everything in a directory, by name, without the directory itself and its parent. The names are as the server
-     * tells them: not checked.
+     * The entries of a directory by name, without the directory itself and its parent. The names come from
+     * the server and are not validated.
      */
     SortedMap<String, Kind> list(RemotePath directory) throws FileServerException;
 
-    /** Writes a file's content to a stream, which stays open. A failure of the stream itself passes through. */
+    /** Downloads a file to a stream, which stays open. Exceptions of the stream propagate. */
     void receive(RemotePath source, TransferMode mode, OutputStream target) throws FileServerException;
 
-    /** Makes a file, or writes it anew, from a stream, which stays open. A failure of the stream passes through. */
+    /**
+     * Uploads a stream, which stays open, to a new or overwritten file. Exceptions of the stream propagate.
+     */
     void send(InputStream source, TransferMode mode, RemotePath target) throws FileServerException;
 
-    /** Makes one directory in an existing one. */
+    /** Creates one directory; its parent has to exist. */
     void makeDirectory(RemotePath directory) throws FileServerException;
 
-    /** Renames a file. Whether an existing target is replaced or refused is the server's choice. */
+    /** Renames a file. It depends on the server whether an existing target is replaced or refused. */
     void rename(RemotePath from, RemotePath to) throws FileServerException;
 
-    /** Removes a file. */
+    /** Deletes a file. */
     void delete(RemotePath file) throws FileServerException;
 }

@@ -4,8 +4,8 @@ import java.io.IOException;
 import java.nio.file.Path;
 
 /**
- * Sends one file whole or not at all: it is sent under a temporary name beside its target, compared in size, and only
- * then renamed to the target. One object sends one file.
+ * Uploads one file atomically: it is uploaded to a temporary file in the target's directory, checked for its
+ * size, and only then renamed to the target. One object uploads one file.
  */
 final class Upload {
     private final Transport transport;
@@ -19,7 +19,7 @@ final class Upload {
     private boolean replacing;
 
     /**
-     * @throws FileServerException when the target is no name for a file
+     * @throws FileServerException when the target is the root, which is not a file
      */
     Upload(Transport transport, Retry retry, TransferMode mode, Path source, RemotePath target)
             throws FileServerException {
@@ -35,7 +35,7 @@ final class Upload {
         this.replaced = target.parent().child(TemporaryName.forReplaced());
     }
 
-    /** Sends the file. An existing target is replaced; after a failure it is as it was. */
+    /** Uploads the file. An existing target is replaced; on failure it is unchanged. */
     void run() throws FileServerException {
         try {
             retry.run(() -> {
@@ -85,7 +85,7 @@ final class Upload {
         }
     }
 
-    /** For servers that do not rename over an existing file: it steps aside, and comes back if all fails. */
+    /** For servers that do not rename over an existing file: it is renamed first, and restored on failure. */
     private void takeNameOfExisting(FileServerException refusal) throws FileServerException {
         Transport.Kind existing = transport.kind(target);
         if (existing == Transport.Kind.DIRECTORY) {
@@ -93,7 +93,7 @@ final class Upload {
         } else if (existing != Transport.Kind.FILE) {
             throw refusal;
         }
-        // Set first: the renaming may take place although the connection breaks before the answer.
+        // Set first: the rename may succeed even if the connection breaks before the reply.
         replacing = true;
         transport.rename(target, replaced);
         transport.rename(temporary, target);
@@ -107,7 +107,7 @@ final class Upload {
         }
     }
 
-    /** Tidies up on the server, as far as it can still be reached. What it could not do changes no outcome. */
+    /** Cleans up on the server, best effort: a failure does not change the outcome. */
     private void quietly(Step step) {
         try {
             transport.connect();

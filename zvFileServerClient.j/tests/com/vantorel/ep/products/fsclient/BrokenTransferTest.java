@@ -18,7 +18,7 @@ import org.junit.Rule;
 import org.junit.Test;
 import org.junit.rules.TemporaryFolder;
 
-/** What remains, and what is said, when an FTP server fails, refuses or lies. */
+/** The files and the messages after an FTP server fails, refuses or sends wrong replies. */
 public class BrokenTransferTest {
     private static final int LARGE = 16 << 20;
 

@@ -13,7 +13,7 @@ import org.junit.Rule;
 import org.junit.Test;
 import org.junit.rules.TemporaryFolder;
 
-/** What holds for a directory as file server only. */
+/** Tests only for a directory as file server. */
 public class LocalDirectoryTest {
     @Rule
     public TemporaryFolder folder = new TemporaryFolder();

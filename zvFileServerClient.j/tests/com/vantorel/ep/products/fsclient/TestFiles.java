@@ -12,18 +12,18 @@ import java.util.stream.Collectors;
 import java.util.stream.Stream;
 import org.junit.function.ThrowingRunnable;
 
-/** Directories and refusals, as the tests look at them. */
+/** Test helpers for directories and expected failures. */
 final class TestFiles {
     private TestFiles() {}
 
-    /** Makes files whose content is their name. */
+    /** Creates files with their name as content. */
     static void fill(Path directory, String... names) throws IOException {
         for (String name : names) {
             Files.writeString(directory.resolve(name), name);
         }
     }
 
-    /** The regular files below a directory, with their content if it is short. */
+    /** The regular files below a directory with their content, unless it is long. */
     static SortedMap<String, String> tree(Path directory) throws IOException {
         try (Stream<Path> files = Files.walk(directory)) {
             SortedMap<String, String> contents = new TreeMap<>();

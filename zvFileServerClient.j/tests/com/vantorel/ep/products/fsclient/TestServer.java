@@ -10,7 +10,7 @@ import java.util.ArrayList;
 import java.util.Arrays;
 import java.util.List;
 
-/** An FTP server of its own process on loopback, and configurations for it. */
+/** An FTP server in its own process on the loopback interface, and configurations for it. */
 final class TestServer implements AutoCloseable {
     private final Process process;
     final int port;
@@ -35,12 +35,12 @@ final class TestServer implements AutoCloseable {
         process.onExit().join();
     }
 
-    /** A connected client with the right account; the lines come after, and so win over, the usual ones. */
+    /** A connected client with a valid account; the lines override the default configuration. */
     FileServerClient client(Path folder, String... lines) throws IOException {
         return connect(folder, "ftp://127.0.0.1:" + port, lines);
     }
 
-    /** A connected client for any url. */
+    /** A connected client for any URL. */
     static FileServerClient connect(Path folder, String url, String... lines) throws IOException {
         List<String> all = new ArrayList<>(Arrays.asList(
                 "url=" + url, "user=gate", "password=Secret-7", "retries=0", "retry-delay=0", "timeout=20"));

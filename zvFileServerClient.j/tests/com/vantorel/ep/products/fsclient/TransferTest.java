@@ -24,7 +24,7 @@ import org.junit.rules.TemporaryFolder;
 import org.junit.runner.RunWith;
 import org.junit.runners.Parameterized;
 
-/** What holds for every kind of file server. */
+/** Tests for every kind of file server. */
 @RunWith(Parameterized.class)
 public class TransferTest {
     private static final String ODD_NAME = "Zeichnung Ä 1 – 图 #%&;'.txt";
@@ -79,7 +79,7 @@ public class TransferTest {
         Path test = FOLDER.newFolder().toPath();
         remote = Files.createDirectory(test.resolve("remote"));
         local = Files.createDirectory(test.resolve("local"));
-        // The server shows more than the root of the url.
+        // The server also exposes files outside the root of the URL.
         String url = scheme.equals("file") ? remote.toUri().toString()
                 : scheme + "://127.0.0.1:" + server.port + "/" + home.relativize(remote).toString().replace('\\', '/');
         client = TestServer.connect(home, url, "ftps-certificates=pem", setting);
