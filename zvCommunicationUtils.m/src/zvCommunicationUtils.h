@@ -34,9 +34,12 @@ public:
     /// empty when there was no answer.
     virtual zvResult request(const zvString& url, const zvEventArguments& args,
                              WriteMemoryCallbackWrapper* sink) = 0;
-    /// Not there yet: a call is only logged, as a warning.
+    /// @name Not there yet
+    /// A call is only logged, as a warning.
+    /// @{
     virtual void queryResponse() = 0;
     virtual void queryResponseHeader() = 0;
+    /// @}
 };
 
 #endif

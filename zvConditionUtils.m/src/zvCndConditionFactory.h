@@ -16,7 +16,9 @@ public:
 
     zvCndConditionFactory& operator=(const zvCndConditionFactory& other);
 
-    /// New conditions, each owned by the handle alone. No operand is checked.
+    /// @name New conditions
+    /// Each is owned by the handle alone. No operand is checked.
+    /// @{
     static zvCndEqualsCondition createEqualsCondition(const zvCndOperand& lhs, const zvCndOperand& rhs);
     static zvCndNotEqualsCondition createNotEqualsCondition(const zvCndOperand& lhs, const zvCndOperand& rhs);
     static zvCndLessThanCondition createLessThanCondition(const zvCndOperand& lhs, const zvCndOperand& rhs);
@@ -32,8 +34,11 @@ public:
     static zvCndAndCondition createAndCondition();
     static zvCndOrCondition createOrCondition();
     static zvCndNotCondition createNotCondition();
+    /// @}
 
-    /// Widening, from every handle that is more special; a null handle stays one.
+    /// @name Widening
+    /// From every handle that is more special; a null handle stays one.
+    /// @{
     template <class Special>
     static zvCndCondition getCondition(const zvCndHandle<Special>& condition) {
         return condition.operator->();
@@ -46,9 +51,12 @@ public:
     static zvCndLogicalCondition getLogicalCondition(const zvCndHandle<Special>& condition) {
         return condition.operator->();
     }
+    /// @}
 
-    /// Narrowing, from every handle that is more general. A null handle or a condition of another type is an
-    /// error: logged and thrown as a zvException whose result says "Received condition is not ...".
+    /// @name Narrowing
+    /// From every handle that is more general. A null handle or a condition of another type is an error:
+    /// logged and thrown as a zvException whose result says "Received condition is not ...".
+    /// @{
     static zvCndComparisonCondition getComparisonCondition(const zvCndCondition& condition);
     static zvCndLogicalCondition getLogicalCondition(const zvCndCondition& condition);
     template <class General>
@@ -88,6 +96,7 @@ public:
     static zvCndNotCondition getNotCondition(const zvCndHandle<General>& condition) {
         return narrow<zvICndNotCondition>(condition);
     }
+    /// @}
 
 private:
     template <class Special, class General>

@@ -54,13 +54,16 @@ public:
     void setDateTimeInSeconds(zvInt64 seconds);
     void setCurrentDateTime();
 
+    /// @name Comparisons
     /// Compared are the seconds: 31 April equals 1 May.
+    /// @{
     bool operator==(const zvDateTime& other) const;
     bool operator!=(const zvDateTime& other) const;
     bool operator<(const zvDateTime& other) const;
     bool operator<=(const zvDateTime& other) const;
     bool operator>(const zvDateTime& other) const;
     bool operator>=(const zvDateTime& other) const;
+    /// @}
 
 protected:
     void copy(const zvDateTime& other);

@@ -18,17 +18,25 @@ public:
     zvString(const zvString& other);
     /// Takes the other's buffer and leaves it as a string that never held text.
     zvString(zvString&& other) noexcept;
+    /// @name From a text
     /// Null gives an empty string in each of these; text is read up to its terminator, and to `n` at most.
+    /// @{
     zvString(const char* text);
     zvString(const char* text, int n);
     zvString(const wchar16* text);
     zvString(const wchar16* text, int n);
     zvString(const char16_t* text);
     zvString(const char16_t* text, int n);
-    /// One character; 0 gives an empty string.
+    /// @}
+
+    /// @name From one character
+    /// 0 gives an empty string.
+    /// @{
     explicit zvString(char c);
     explicit zvString(wchar16 c);
     explicit zvString(char16_t c);
+    /// @}
+
     /// "True" or "False".
     explicit zvString(bool b);
     explicit zvString(int v);
@@ -114,9 +122,11 @@ public:
     /// Whether convertUnicodeToInt is not 0: unlike toBoolean(), "true" is false and "2" is true.
     static bool convertUnicodeToBool(const zvString& text);
 
-    /// The converters below return new buffers, which the caller owns and gives back to releaseString or
-    /// releaseUnicode, and null where there is nothing to return.
-    ///
+    /// @name Conversions into new buffers
+    /// The caller owns the buffers and gives them back to releaseString or releaseUnicode. Where there is
+    /// nothing to return, they are null.
+    /// @{
+
     /// At most `n` characters are converted. @return the number of characters in `out`.
     static int convertStringToUnicode(const char* text, int n, wchar16*& out);
     static wchar16* convertStringToUnicode(const char* text);
@@ -130,6 +140,7 @@ public:
     /// Deletes the buffer, which may be null, and sets the pointer to null.
     static void releaseString(char*& text);
     static void releaseUnicode(wchar16*& text);
+    /// @}
 
 private:
     friend class zvCharString;

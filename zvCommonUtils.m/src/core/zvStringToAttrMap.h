@@ -18,10 +18,14 @@ public:
     bool addAttr(const zvString& key, const zvAttribute& attribute);
     /// Adds or replaces.
     void updateAttr(const zvString& key, const zvAttribute& attribute);
+    /// @name Copies
     /// Each getter copies what it finds into `out`; false, with `out` untouched, when there is nothing.
+    /// @{
     bool getAttr(const zvString& key, zvAttribute& out) const;
     bool getAttr(int i, zvAttribute& out) const;
     bool getAttrName(int i, zvString& out) const;
+    /// @}
+
     /// The attribute itself, owned by the map and valid until its entry changes; null for an absent key.
     const zvAttribute* findAttr(const zvString& key) const;
     int size() const;

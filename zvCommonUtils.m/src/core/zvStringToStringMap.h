@@ -22,9 +22,13 @@ public:
     void setValue(const zvString& key, const zvString& value);
     /// The value; empty for an absent key as for an empty value.
     zvString getValue(const zvString& key) const;
-    /// Key and value of entry `i` in key order; empty for any other index.
+    /// @name Entry `i` in key order
+    /// Its key and its value; empty for any other index.
+    /// @{
     zvString getKey(int i) const;
     zvString getValue(int i) const;
+    /// @}
+
     int size() const;
     /// Calls `visit(key, value)` for every entry in key order, in one walk.
     template <typename Visit>

@@ -50,8 +50,11 @@ public:
     /// reads as an integer other than 0, and an unknown type gives a String.
     void setValue(const zvString& text, zvDataTypeEnum type, int precision);
 
-    /// From a Boolean or a String. Every getter throws a zvException with a message when the type cannot be
-    /// converted.
+    /// @name The value as one of the types
+    /// Each throws a zvException with a message when the value's type cannot be converted.
+    /// @{
+
+    /// From a Boolean or a String.
     bool getBoolValue() const;
     /// From an Integer, a String or a Float (towards 0); INT_MIN for a float beyond 32 bits and for NaN.
     int getIntValue() const;
@@ -59,6 +62,8 @@ public:
     float getFloatValue() const;
     /// From a Date or a String.
     zvDateTime getDateValue() const;
+    /// @}
+
     /// The same as getValue().
     zvString getStrValue() const;
     /// The text form of a value of any type; it never throws. A Boolean's, "True" or "False", is not what
@@ -67,15 +72,18 @@ public:
     /// The text slot itself, owned by the value: a String's text form, and of no meaning for the other types.
     const zvString& text() const { return m_strValue; }
 
+    /// @name Comparisons
     /// The left value's type decides: the right one is converted to it by the getters, which may throw.
     /// On texts `<=` and `>=` are strict, so that equal texts are both `<` and `>`; on dates `<=` alone is,
     /// so that equal dates are `>`. Booleans throw for everything but `==` and `!=`.
+    /// @{
     bool operator==(const zvValue& other) const;
     bool operator!=(const zvValue& other) const;
     bool operator<(const zvValue& other) const;
     bool operator<=(const zvValue& other) const;
     bool operator>(const zvValue& other) const;
     bool operator>=(const zvValue& other) const;
+    /// @}
 
 protected:
     /// Resets everything but the text and the date.

@@ -95,9 +95,13 @@ public:
     void setEventArgument(const zvString& key, const zvString& value) const;
     /// The value; empty for an absent key.
     zvString getEventArgumentValue(const zvString& key) const;
-    /// Key and value of argument `index` in key order; empty for any other index.
+    /// @name Argument `index` in key order
+    /// Its key and its value; empty for any other index.
+    /// @{
     zvString getEventArgumentNameAt(int index) const;
     zvString getEventArgumentValueAt(int index) const;
+    /// @}
+
     int numEventArguments() const;
     /// Calls `visit(key, value)` for every argument in key order, in one walk.
     template <typename Visit>
