@@ -55,4 +55,6 @@ if(ZV_BUILD_TESTS AND NOT ZV_SANITIZE AND NOT CMAKE_CROSSCOMPILING)
     add_test(NAME documents COMMAND ${PROJECT_SOURCE_DIR}/docs/test-documents
         ${PROJECT_BINARY_DIR} ${CMAKE_CXX_COMPILER})
     set_tests_properties(documents PROPERTIES TIMEOUT 300)
+    # Each installs the build.
+    set_tests_properties(package.consumers documents PROPERTIES RESOURCE_LOCK install)
 endif()
