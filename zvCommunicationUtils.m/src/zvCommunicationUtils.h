@@ -33,9 +33,12 @@ public:
     /// there was no response.
     virtual zvResult request(const zvString& url, const zvEventArguments& args,
                              WriteMemoryCallbackWrapper* sink) = 0;
-    /// Not implemented: only logs a warning.
+    /// @name Not implemented
+    /// Only logs a warning.
+    /// @{
     virtual void queryResponse() = 0;
     virtual void queryResponseHeader() = 0;
+    /// @}
 };
 
 #endif

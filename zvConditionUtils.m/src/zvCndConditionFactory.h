@@ -16,7 +16,9 @@ public:
 
     zvCndConditionFactory& operator=(const zvCndConditionFactory& other);
 
-    /// Creates a condition, owned by the returned handle. Operands are not validated.
+    /// @name New conditions
+    /// Each is owned by the returned handle. Operands are not validated.
+    /// @{
     static zvCndEqualsCondition createEqualsCondition(const zvCndOperand& lhs, const zvCndOperand& rhs);
     static zvCndNotEqualsCondition createNotEqualsCondition(const zvCndOperand& lhs, const zvCndOperand& rhs);
     static zvCndLessThanCondition createLessThanCondition(const zvCndOperand& lhs, const zvCndOperand& rhs);
@@ -32,8 +34,11 @@ public:
     static zvCndAndCondition createAndCondition();
     static zvCndOrCondition createOrCondition();
     static zvCndNotCondition createNotCondition();
+    /// @}
 
-    /// Upcasts a handle; null stays null.
+    /// @name Upcasts
+    /// A null handle stays null.
+    /// @{
     template <class Special>
     static zvCndCondition getCondition(const zvCndHandle<Special>& condition) {
         return condition.operator->();
@@ -46,9 +51,12 @@ public:
     static zvCndLogicalCondition getLogicalCondition(const zvCndHandle<Special>& condition) {
         return condition.operator->();
     }
+    /// @}
 
-    /// Downcasts a handle. A null handle and a condition of another type are logged and thrown as a
-    /// zvException whose result's message is "Received condition is not ...".
+    /// @name Downcasts
+    /// A null handle and a condition of another type are logged and thrown as a zvException whose result's
+    /// message is "Received condition is not ...".
+    /// @{
     static zvCndComparisonCondition getComparisonCondition(const zvCndCondition& condition);
     static zvCndLogicalCondition getLogicalCondition(const zvCndCondition& condition);
     template <class General>
@@ -88,6 +96,7 @@ public:
     static zvCndNotCondition getNotCondition(const zvCndHandle<General>& condition) {
         return narrow<zvICndNotCondition>(condition);
     }
+    /// @}
 
 private:
     template <class Special, class General>

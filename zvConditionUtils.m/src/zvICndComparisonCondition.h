@@ -20,9 +20,12 @@ public:
     void setLHSOperand(const zvCndOperand& operand);
     void setRHSOperand(const zvCndOperand& operand);
 
-    /// The operands by reference, owned by the condition.
+    /// @name The operands
+    /// By reference, owned by the condition.
+    /// @{
     const zvCndOperand& lhsOperand() const { return m_lhsOperand; }
     const zvCndOperand& rhsOperand() const { return m_rhsOperand; }
+    /// @}
 
 protected:
     explicit zvICndComparisonCondition(zvCndConditionTypeEnum type);

@@ -54,13 +54,16 @@ public:
     void setDateTimeInSeconds(zvInt64 seconds);
     void setCurrentDateTime();
 
-    /// Comparisons are by getDateTimeInSeconds(): 31 April equals 1 May.
+    /// @name Comparisons
+    /// By getDateTimeInSeconds(): 31 April equals 1 May.
+    /// @{
     bool operator==(const zvDateTime& other) const;
     bool operator!=(const zvDateTime& other) const;
     bool operator<(const zvDateTime& other) const;
     bool operator<=(const zvDateTime& other) const;
     bool operator>(const zvDateTime& other) const;
     bool operator>=(const zvDateTime& other) const;
+    /// @}
 
 protected:
     void copy(const zvDateTime& other);

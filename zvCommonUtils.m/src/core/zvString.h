@@ -18,17 +18,25 @@ public:
     zvString(const zvString& other);
     /// Takes over the other's buffer, which leaves the other without one.
     zvString(zvString&& other) noexcept;
+    /// @name Construction from text
     /// Copies text up to its terminator, at most `n` characters; null gives an empty string.
+    /// @{
     zvString(const char* text);
     zvString(const char* text, int n);
     zvString(const wchar16* text);
     zvString(const wchar16* text, int n);
     zvString(const char16_t* text);
     zvString(const char16_t* text, int n);
-    /// One character; 0 gives an empty string.
+    /// @}
+
+    /// @name From one character
+    /// 0 gives an empty string.
+    /// @{
     explicit zvString(char c);
     explicit zvString(wchar16 c);
     explicit zvString(char16_t c);
+    /// @}
+
     /// "True" or "False".
     explicit zvString(bool b);
     explicit zvString(int v);
@@ -122,9 +130,11 @@ public:
     /// "2" is true.
     static bool convertUnicodeToBool(const zvString& text);
 
-    /// The converters below return new null-terminated buffers, which the caller owns and frees with
-    /// releaseString() or releaseUnicode(); null for null, for empty and for unconvertible text.
-    ///
+    /// @name Conversions into new buffers
+    /// The buffers are null-terminated; the caller owns them and frees them with releaseString() or
+    /// releaseUnicode(). Null for null, for empty and for unconvertible text.
+    /// @{
+
     /// Converts at most `n` characters.
     /// @return the number of characters in `out`.
     static int convertStringToUnicode(const char* text, int n, wchar16*& out);
@@ -140,6 +150,7 @@ public:
     /// Frees the buffer, which may be null, and sets the pointer to null.
     static void releaseString(char*& text);
     static void releaseUnicode(wchar16*& text);
+    /// @}
 
 private:
     friend class zvCharString;

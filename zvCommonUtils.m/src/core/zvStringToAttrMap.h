@@ -18,10 +18,15 @@ public:
     bool addAttr(const zvString& key, const zvAttribute& attribute);
     /// Adds or replaces.
     void updateAttr(const zvString& key, const zvAttribute& attribute);
-    /// Copies into `out`; false, with `out` unchanged, for a missing key or an index out of range.
+    /// @name Copies
+    /// Each copies what it finds into `out`; false, with `out` unchanged, for a missing key or an index out of
+    /// range.
+    /// @{
     bool getAttr(const zvString& key, zvAttribute& out) const;
     bool getAttr(int i, zvAttribute& out) const;
     bool getAttrName(int i, zvString& out) const;
+    /// @}
+
     /// The attribute, owned by the map and valid until its entry changes; null for a missing key.
     const zvAttribute* findAttr(const zvString& key) const;
     int size() const;

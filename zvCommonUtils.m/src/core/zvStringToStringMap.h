@@ -22,9 +22,13 @@ public:
     void setValue(const zvString& key, const zvString& value);
     /// The value of `key`; empty also for a missing key.
     zvString getValue(const zvString& key) const;
-    /// Key and value of entry `i` in key order; empty if `i` is out of range.
+    /// @name Entry `i` in key order
+    /// Its key and its value; empty if `i` is out of range.
+    /// @{
     zvString getKey(int i) const;
     zvString getValue(int i) const;
+    /// @}
+
     int size() const;
     /// Calls `visit(key, value)` for every entry in key order, in linear time.
     template <typename Visit>

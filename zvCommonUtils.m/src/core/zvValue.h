@@ -50,7 +50,11 @@ public:
     /// an integer other than 0; an unknown type gives a String.
     void setValue(const zvString& text, zvDataTypeEnum type, int precision);
 
-    /// From a Boolean or a String. Like the other typed getters it throws a zvException for any other type.
+    /// @name The value as one of the types
+    /// Each throws a zvException with a message for a type that cannot be converted.
+    /// @{
+
+    /// From a Boolean or a String.
     bool getBoolValue() const;
     /// From an Integer, a String or a Float (towards 0); INT_MIN for a float beyond 32 bits and for NaN.
     int getIntValue() const;
@@ -58,6 +62,8 @@ public:
     float getFloatValue() const;
     /// From a Date or a String.
     zvDateTime getDateValue() const;
+    /// @}
+
     /// The same as getValue().
     zvString getStrValue() const;
     /// The text form of a value of any type; never throws. A Boolean's, "True" or "False", does not
@@ -66,15 +72,18 @@ public:
     /// The string slot by reference, owned by the value; meaningful for the type String only.
     const zvString& text() const { return m_strValue; }
 
-    /// Compares as the type of the left operand, to which the right operand is converted by the getters,
-    /// which may throw. On strings `<=` and `>=` are strict, so that equal strings are both `<` and `>`; on
-    /// dates only `<=` is strict, so that equal dates are `>`. Booleans throw for all but `==` and `!=`.
+    /// @name Comparisons
+    /// By the type of the left operand, to which the right operand is converted by the getters, which may
+    /// throw. On strings `<=` and `>=` are strict, so that equal strings are both `<` and `>`; on dates only
+    /// `<=` is strict, so that equal dates are `>`. Booleans throw for all but `==` and `!=`.
+    /// @{
     bool operator==(const zvValue& other) const;
     bool operator!=(const zvValue& other) const;
     bool operator<(const zvValue& other) const;
     bool operator<=(const zvValue& other) const;
     bool operator>(const zvValue& other) const;
     bool operator>=(const zvValue& other) const;
+    /// @}
 
 protected:
     /// Resets everything but the string slot and the date slot.

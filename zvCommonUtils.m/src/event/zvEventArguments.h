@@ -95,9 +95,13 @@ public:
     void setEventArgument(const zvString& key, const zvString& value) const;
     /// The value of `key`; empty also for a missing key.
     zvString getEventArgumentValue(const zvString& key) const;
-    /// Key and value of argument `index` in key order; empty if `index` is out of range.
+    /// @name Argument `index` in key order
+    /// Its key and its value; empty if `index` is out of range.
+    /// @{
     zvString getEventArgumentNameAt(int index) const;
     zvString getEventArgumentValueAt(int index) const;
+    /// @}
+
     int numEventArguments() const;
     /// Calls `visit(key, value)` for every argument in key order, in linear time.
     template <typename Visit>
