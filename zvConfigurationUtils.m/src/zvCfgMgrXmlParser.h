@@ -8,8 +8,8 @@
 #include "zvResult.h"
 #include "zvXMLParser.h"
 
-/// Reads a configuration file into the configuration manager, once per process and before any lookup. A
-/// further parse adds to what is there.
+/// Reads a configuration file into the configuration manager, once per process and before any lookup. Further
+/// parses add to it.
 class ZV_EXPORT zvCfgMgrXmlParser : public zvCoreObjectCfg {
 public:
     using InvalidRule = zvCfgObjectXmlParser::InvalidRule;
@@ -22,20 +22,20 @@ public:
     zvCfgMgrXmlParser& operator=(const zvCfgMgrXmlParser&) = delete;
     ~zvCfgMgrXmlParser() override;
 
-    /// Reads a file, `source` being its path, or the XML text that `source` is. Nothing is thrown.
+    /// Reads a file, given by its path, or the XML document in `source`. Never throws.
     ///
     /// @return code 0, or a failure with the message that was logged: 1 for a source that cannot be loaded, 2
-    /// for a root without child elements, 3 for a root of another name, 4, 5 and 6 for a section with
-    /// objects, lifecycles and views that failed, and -1 for an exception such as that of a mapping rule
+    /// for a root without child elements, 3 for a wrong root element, 4, 5 and 6 for a failed section with
+    /// objects, lifecycles and views, and -1 for an exception such as that of a mapping rule
     /// that does not parse. A failure ends the parse; the manager keeps what was added before. Smaller errors
-    /// are logged, and what they concern is left out.
+    /// are logged, and the affected part is left out.
     zvResult parse(const zvString& source, bool isFile);
 
-    /// The name of the remote system that the last parse found; empty when the file has none.
+    /// The name of the remote system in the last file; empty if it has none.
     zvString getPdmSystemName() const { return m_strPdmSystemName; }
 
 protected:
-    /// The "PdmSystemName" of the root, which the cursor of the parser stands on.
+    /// The "PdmSystemName" of the root element, at the parser's cursor.
     zvString parsePdmSystemName();
 
 private:

@@ -41,8 +41,10 @@ public:
     /// attribute without names.
     bool addAttribute(zvCfgAttribute* attribute);
 
-    /// The attributes are owned by the object; null for an index out of range and for an unknown name.
-    ///
+    /// @name The attributes
+    /// They are owned by the object; null for an index out of range and for an unknown name.
+    /// @{
+
     /// All attributes in insertion order.
     int numAttributes() const { return m_attributes.size(); }
     const zvCfgAttribute* getAttribute(int i) const;
@@ -59,6 +61,7 @@ public:
     const zvCfgAttribute* getAttributeByKey(const zvString& key) const;
     const zvCfgAttribute* getAttributeByLocalName(const zvString& name) const;
     const zvCfgAttribute* getAttributeByRemoteName(const zvString& name) const;
+    /// @}
 
 private:
     using Index = std::map<zvString, zvCfgAttribute*>;

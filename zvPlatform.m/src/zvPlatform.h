@@ -10,82 +10,82 @@
 
 #include "zvTypes.h"
 
-/// The operating system, as far as the library needs it: one function for each call, one source file for each
-/// system. Nothing else in the project includes a system header or tests a system's macro.
+/// The platform seam: the system calls that the library needs, with one source file per system. No other file
+/// of the library includes a system header or tests a system's macro.
 ///
-/// Paths may separate folders with "\" or "/" on every system. Narrow texts are in the process's locale.
+/// Paths may use "\" or "/" as separator on every system. Narrow text is in the process's locale.
 namespace zvPlatform {
 
-/// Of an opened file; never 0 for one. A refused file is refusedHandle.
+/// Handle of an open file, never 0; refusedHandle if it could not be opened.
 using Handle = std::intptr_t;
 constexpr Handle refusedHandle = -1;
 
-/// The path as this system's own interfaces, and other libraries on it, expect it.
+/// The path with this system's separator, as its own interfaces and other libraries expect it.
 std::string nativePath(const char* path);
-/// The same for the standard library's own functions; empty for a text that cannot be converted.
+/// The same for the standard library; empty for unconvertible text.
 std::filesystem::path pathOf(const std::string& path);
-/// The path as narrow text; empty for a path that has none in this locale.
+/// The path as narrow text; empty if the locale cannot encode it.
 std::string textOf(const std::filesystem::path& path);
 
-/// The system's number for the last refusal of createDirectory, createFile or closeHandle.
+/// The system's error number of the last failed createDirectory, createFile or closeHandle.
 unsigned long lastError();
-/// The system's text for such a number.
+/// The system's message for an error number.
 std::string errorText(unsigned long error);
 
 /// Creates one directory, not its parents.
 bool createDirectory(const wchar16* path);
-/// Creates a new, empty file; refuses an existing one.
+/// Creates a new, empty file; fails if it exists.
 Handle createFile(const wchar16* path);
-/// False for refusedHandle, lastError() then still being createFile's.
+/// False for refusedHandle, which leaves lastError() unchanged.
 bool closeHandle(Handle handle);
 /// What an access test asks for.
 enum AccessMode : int { existence = 0, writable = 2, readable = 4, readAndWrite = 6 };
-/// False for a `mode` that is none of AccessMode's.
+/// False for an invalid `mode`.
 bool isAccessible(const char* path, int mode);
-/// The same, with the system's number for the reason; 0 when the path is accessible.
+/// The system's error number; 0 if the path is accessible.
 unsigned long accessError(const char* path, int mode);
-/// Closes the file that it owns.
+/// Deleter that closes a file.
 struct CloseFile {
     void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
 };
 using File = std::unique_ptr<std::FILE, CloseFile>;
-/// Opens a file for reading as text; null for a directory and for what cannot be opened.
+/// Opens a file for reading as text; null for a directory and on failure.
 File openForReading(const char* path);
-/// Removes one file.
+/// Deletes one file.
 bool removeFile(const char* path);
-/// Carries out "rmdir /s/q" with `arguments`, which follow the switches at once: a blank, then paths that are
-/// separated by blanks or stand in double quotes. @return true when every path was a directory and is gone.
+/// Runs "rmdir /s/q" with `arguments`, which are appended as they are: a blank, then paths separated by
+/// blanks, optionally in double quotes.
+/// @return true if every path was a directory and has been removed.
 bool removeTree(const char* arguments);
 
-/// Loads a dynamic library by path, or by name in the system's search order; it stays loaded. Null if it
-/// fails.
+/// Loads a dynamic library by path, or by name in the system's search order, for the life of the process.
+/// Null on failure.
 void* loadLibrary(const char* name);
-/// Null when `library` has no function of that name.
+/// Null if `library` is null or has no such function.
 void* findFunction(void* library, const char* name);
 
-/// A variable of this process's environment; empty when it is not set.
+/// The value of an environment variable; empty if it is unset.
 std::string environment(const char* name);
-/// Sets a variable of this process's environment.
+/// Sets an environment variable.
 void setEnvironment(const char* name, const char* value);
-/// For a program's start: the user's locale, with UTF-8 in the place of a locale that has another encoding.
+/// Sets the user's locale, or C.UTF-8 if its encoding is not UTF-8; for the start of main().
 void adoptUserLocale();
-/// What the locale has in the place of a number's ".".
+/// The locale's decimal point.
 const char* decimalPoint();
 
-/// The number by which the system knows this process.
+/// The process identifier.
 unsigned long processId();
 
-/// Puts the calling thread to sleep.
+/// Blocks the calling thread.
 void sleep(unsigned long milliseconds);
 
 /// Seconds since 1970.
 zvInt64 currentTime();
-/// Local time of `seconds`; false for what cannot be told: before 1970, after 3000.
+/// Local time of `seconds`; false out of range: before 1970 or after 3000.
 bool toLocalTime(zvInt64 seconds, std::tm& out);
-/// Seconds of a local time, daylight saving worked out from the date; -1 for an instant before 1970 or after
-/// 3000.
+/// Seconds of a local time, with daylight saving by the date; -1 out of range.
 zvInt64 fromLocalTime(std::tm local);
-/// As in "Sat May 21 11:12:22 2011", with a line feed behind it.
+/// For example "Sat May 21 11:12:22 2011", followed by a line feed.
 std::string timeText(zvInt64 seconds);
 
 }  // namespace zvPlatform

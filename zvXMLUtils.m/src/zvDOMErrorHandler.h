@@ -8,22 +8,22 @@
 #include "zvResult.h"
 #include "zvStringList.h"
 
-/// Collects what goes wrong while a document is parsed: warnings and errors, which make the load fail. A
-/// fatal error stops the parse but is not collected: what was read before it is a document.
+/// Collects the warnings and errors of a parse, which make the load fail. A fatal error ends the parse but is
+/// not collected: the document up to it is loaded.
 class ZV_EXPORT zvDOMErrorHandler : public xercesc::DOMErrorHandler {
 public:
-    /// Also reports what goes wrong to `findings`, which may be null and must outlive the handler.
+    /// Also reports warnings and errors to `findings`, which may be null and must outlive the handler.
     explicit zvDOMErrorHandler(zvFindingSink* findings = nullptr);
     zvDOMErrorHandler(const zvDOMErrorHandler&) = delete;
     zvDOMErrorHandler& operator=(const zvDOMErrorHandler&) = delete;
     ~zvDOMErrorHandler() override;
 
-    /// Called by the parser. @return whether to go on: not after a fatal error, nor when the collected lines
-    /// have become too long.
+    /// Called by the parser.
+    /// @return whether to continue: not after a fatal error, nor after too many errors.
     bool handleError(const xercesc::DOMError& error) override;
 
-    /// Logs what was collected. @return code 0 and no message, or -1 and "XML PARSING ERROR" when anything
-    /// was.
+    /// Logs the collected errors.
+    /// @return code 0 without a message, or -1 and "XML PARSING ERROR" if there were any.
     zvResult takeResult();
 
 private:

@@ -71,7 +71,7 @@ File fileAt(const char* location) {
 
 }  // namespace
 
-// A document with all that it stands on, in the order in which that has to go.
+// A document and everything it depends on, in the order required for destruction.
 class zvDOMLoader::Tree {
 public:
     explicit Tree(DOMDocument* created) : m_pDocument(created) {}
@@ -155,7 +155,7 @@ bool zvDOMLoader::parseSource(InputSource& source) {
     return m_result.isOk() && m_pTree->document() != nullptr;
 }
 
-// Whatever escapes the XML library ends here, and so does a document that did not come out well.
+// No exception of the XML library leaves, and a failed parse leaves no document.
 template <typename Parse>
 bool zvDOMLoader::guarded(Parse parse) {
     m_pTree.reset();

@@ -27,13 +27,14 @@ public:
     zvDOMLoader& operator=(const zvDOMLoader&) = delete;
     ~zvDOMLoader() override;
 
-    /// Parses a file, given by its path or a "file:" URI, or a text, the bytes of which are in the encoding
-    /// that they declare (UTF-8 when they declare none). @return false when there is a warning or an error in
-    /// it, when it is refused, and when not even its beginning could be read; the log has the reason.
+    /// Parses a file, given by its path or a "file:" URI, or a document in its declared encoding (UTF-8 by
+    /// default).
+    /// @return false, with the reason in the log, for a document that has a warning or an error, is refused,
+    /// or cannot be read at all.
     bool parse(const char* source, bool isFile);
-    /// Parses a text whose characters are what they are, whatever encoding it declares.
+    /// Parses a document that is already decoded: the encoding that it declares is ignored.
     bool parseText(const zvString& text);
-    /// Makes a document with a root element only; false for names that are none.
+    /// Creates a document with a root element only; false for invalid names.
     bool createDocument(const zvString& rootName, const zvString& namespaceURI);
     /// Null without a document.
     xercesc::DOMDocument* getDocument() const;

@@ -12,12 +12,12 @@
 class zvXMLMemory;
 class zvXMLPositions;
 
-/// The XML library's document parser with this library's settings, for documents that nobody vouches for.
+/// The XML library's document parser with this library's settings, for untrusted documents.
 ///
 /// External entities and document type definitions are read from files in or below the document's folder
 /// only, and expansions are limited, as is what the XML library handles in quadratic time or by recursion.
-/// What is refused is logged as an error and ends the parse with a zvException, so that no document comes out
-/// of it with a part missing.
+/// A refusal is logged as an error and ends the parse with a zvException, so that no incomplete document is
+/// returned.
 class zvXMLGuardedParser : public xercesc::DOMLSParserImpl {
 public:
     /// `folder` is the canonical folder of the document's file, empty for a document that is not in a file.

@@ -18,20 +18,18 @@ XERCES_CPP_NAMESPACE_END
 class zvDOMLoader;
 class zvXERCESDOMNODEList;
 
-/// The way into XML: loads or creates a document, walks over it, queries it, adds to it and writes it.
+/// XML facade: loads or creates a document, traverses, queries, extends and writes it.
 ///
-/// The cursor operations move a current node; the direct ones take an element, and a null element gives their
-/// empty result. The two mix freely. Nodes and lists of nodes are valid as long as the parser has the
-/// document that they are in: a load or a creation replaces it. Names are case-sensitive and compared as a
-/// whole, prefix included.
+/// The cursor operations move a current node; the direct operations take an element and return their empty
+/// result for null. The two can be mixed. Nodes and node lists are borrowed: they are valid until the parser
+/// loads or creates another document. Names are case-sensitive and include the prefix.
 ///
 /// Documents may be hostile. External entities and document type definitions are read only for a document
-/// that is in a file, from files in or below its folder; what is refused, and a document that takes far more
-/// memory than its size lets expect, is logged as an error and fails the load. A document with declarations
-/// of its own is held to them.
+/// loaded from a file, and only from files in or below its folder. A refused document, and one that takes far
+/// more memory than its size suggests, is logged as an error and fails the load. A document is validated
+/// against its own declarations.
 ///
-/// The parsers of a process count the initialisations of the XML platform together with whoever else uses it,
-/// and do so from any thread.
+/// Parsers may be created and destroyed on any thread: the XML platform is reference-counted.
 class ZV_EXPORT zvXMLParser : public zvCoreObject {
 public:
     zvXMLParser();
@@ -44,37 +42,39 @@ public:
     zvXMLParser& operator=(const zvXMLParser&) = delete;
     ~zvXMLParser() override;
 
-    /// Loads a file, `source` being its path or a "file:" URI, or the document that `source` is. The cursor
-    /// goes to the document element. @return false, and no document, for anything that gives a warning or an
-    /// error, is refused or has no document element. A document that stops being well-formed behind its
-    /// root's start is loaded as far as it was read, with a warning in the log.
-    ///
-    /// The characters of a zvString are what they are, whatever encoding the document declares.
+    /// Loads a file, given by its path or a "file:" URI, or the document in `source`, and moves the cursor to
+    /// the document element. The characters of a zvString are taken as they are, whatever encoding the
+    /// document declares.
+    /// @return false, without a document, for a warning or an error, a refused document, or a missing
+    /// document element. A document that stops being well-formed after its root's start tag is loaded up to
+    /// that point, with a warning in the log.
     bool loadXMLFromString(const zvString& source, bool isFile);
-    /// The bytes of a document are in the encoding that it declares, UTF-8 when it declares none.
+    /// The same; the bytes of a document are in its declared encoding, UTF-8 by default.
     bool loadXMLFromString(const char* source, bool isFile);
-    /// Makes a document with a root element only, to which the cursor goes. False, and no document, for names
-    /// that are none.
+    /// Creates a document with a root element only and moves the cursor to it. False, without a document, for
+    /// invalid names.
     bool createXMLTree(const zvString& rootName, const zvString& namespaceURI);
     bool createXMLTree(const zvString& rootName);
 
     /// The document element; null without a document.
     xercesc::DOMElement* getRootElement() const;
-    /// What getRoot() found last in this document; null before.
+    /// The last result of getRoot() in this document; null before.
     xercesc::DOMNode* getRootNode() const;
-    /// Where the cursor stands; null without a document.
+    /// The cursor; null without a document.
     xercesc::DOMNode* getCurrentNode() const;
     /// Moves the cursor to any node of the document; false for null.
     bool changeCurrentNode(xercesc::DOMNode* node);
 
-    /// Where an element begins in the source. Unknown for every other node, and without a sink for findings.
+    /// Where an element begins in the source; unknown for other nodes, and without a sink for findings.
     zvTextPosition getPosition(const xercesc::DOMNode* node) const;
-    /// What the parser was made with; null without one.
+    /// The sink that the parser was created with, borrowed; null without one.
     zvFindingSink* getFindingSink() const;
 
-    /// Each moves the cursor and gives the name of the node that it then stands on. Where there is none, the
-    /// answer is false, the cursor stays and the name is empty.
-    ///
+    /// @name Moving the cursor
+    /// Each moves the cursor and returns the new node's name in `tag`; false, with the cursor unchanged and
+    /// an empty name, if there is no such node.
+    /// @{
+
     /// The outermost element around the cursor.
     bool getRoot(zvString& tag);
     /// The parent of whatever kind: above the document element it is the document.
@@ -83,27 +83,32 @@ public:
     bool getFirstChild(zvString& tag);
     /// The next sibling that is an element.
     bool getNextSibling(zvString& tag);
+    /// @}
 
     /// The name of the current node.
     bool getTag(zvString& tag) const;
-    /// The first text among the current node's children; false, with an empty value, when there is none.
+    /// The first text among the current node's children; false, with an empty value, if there is none.
     bool getMemberValue(zvString& value) const;
-    /// An attribute of the current node; false, with an empty value, when it has none of that name.
+    /// An attribute of the current node; false, with an empty value, if it is missing.
     bool getAttribute(const zvString& name, zvString& value) const;
     bool getAttribute(xercesc::DOMNode* node, const zvString& name, zvString& value) const;
-    /// All attributes of the current node, as parallel lists in the order of their names; false for none.
+    /// All attributes of the current node as parallel lists, ordered by name; false for none.
     bool getAttributes(zvStringList& names, zvStringList& values) const;
     bool getAttributes(xercesc::DOMNode* node, zvStringList& names, zvStringList& values) const;
 
-    /// Appends an element to the current one and moves the cursor to it. Like the next two it answers false,
-    /// with an error in the log, when the cursor is not on an element or the name is none.
+    /// @name Extending the document
+    /// False, with an error in the log, if the cursor is not on an element or the name is invalid.
+    /// @{
+
+    /// Appends an element to the current one and moves the cursor to it.
     bool addStartTag(const zvString& name);
     /// Sets an attribute of the current element.
     bool addAttribute(const zvString& name, const zvString& value);
-    /// Appends a text, which is not empty, to the current element.
+    /// Appends a text to the current element; false also for an empty one.
     bool addMemberValue(const zvString& text);
-    /// Moves the cursor to the parent; false when there is none.
+    /// Moves the cursor to the parent; false at the document itself.
     bool addEndTag();
+    /// @}
 
     /// The first element of that name among all descendants, in document order; null for none, and for an
     /// empty name.

@@ -7,7 +7,7 @@ namespace {
 
 class zvXMLLoadTest : public zvXMLSampleTest {};
 
-TEST_F(zvXMLLoadTest, loadingReplacesTheDocument) {
+TEST_F(zvXMLLoadTest, LoadingReplacesTheDocument) {
     zvString tag;
     ASSERT_TRUE(m_parser.getRoot(tag));
     EXPECT_TRUE(m_parser.loadXMLFromString("<other><Object Name='x'/></other>", false));
@@ -20,7 +20,7 @@ TEST_F(zvXMLLoadTest, loadingReplacesTheDocument) {
     EXPECT_FALSE(m_parser.addStartTag("a"));
 }
 
-TEST_F(zvXMLLoadTest, warningsAndErrorsFailTheLoad) {
+TEST_F(zvXMLLoadTest, WarningsAndErrorsFailTheLoad) {
     const struct {
         const char* document;
         const char* line;
@@ -49,7 +49,7 @@ TEST_F(zvXMLLoadTest, warningsAndErrorsFailTheLoad) {
     EXPECT_TRUE(zvXMLParser().loadXMLFromString("<!DOCTYPE r [<!ELEMENT r ANY>]><r>t</r>", false));
 }
 
-TEST_F(zvXMLLoadTest, fatalErrorEndsTheDocumentWhereItStands) {
+TEST_F(zvXMLLoadTest, FatalErrorEndsTheDocumentWhereItStands) {
     const struct {
         const char* document;
         bool loads;
@@ -72,7 +72,7 @@ TEST_F(zvXMLLoadTest, fatalErrorEndsTheDocumentWhereItStands) {
     }
 }
 
-TEST_F(zvXMLLoadTest, entitiesBecomeText) {
+TEST_F(zvXMLLoadTest, EntitiesBecomeText) {
     zvXMLParser parser;
     ASSERT_TRUE(
         parser.loadXMLFromString("<!DOCTYPE r [<!ELEMENT r ANY><!ATTLIST r a CDATA #IMPLIED><!ENTITY e "
@@ -85,7 +85,7 @@ TEST_F(zvXMLLoadTest, entitiesBecomeText) {
     EXPECT_EQ("in it", narrow(value));
 }
 
-TEST_F(zvXMLLoadTest, bytesAreInTheDeclaredEncodingAndCharactersAreWhatTheyAre) {
+TEST_F(zvXMLLoadTest, BytesAreInTheDeclaredEncodingAndCharactersAreWhatTheyAre) {
     const char* const latin1 = "<?xml version='1.0' encoding='ISO-8859-1'?><r a='\xE4'/>";
     zvXMLParser parser;
     ASSERT_TRUE(parser.loadXMLFromString(latin1, false));
@@ -101,7 +101,7 @@ TEST_F(zvXMLLoadTest, bytesAreInTheDeclaredEncodingAndCharactersAreWhatTheyAre) 
     EXPECT_FALSE(parser.loadXMLFromString(zvString(u"<r>\xD800</r>"), false));
 }
 
-TEST_F(zvXMLLoadTest, loadsFilesByPathAndByUri) {
+TEST_F(zvXMLLoadTest, LoadsFilesByPathAndByUri) {
     const std::string umlaut = narrow(u"\u00E4");
     const std::string name = "a b" + umlaut + "%23#100%.xml";
     const std::string path = m_folder.write("sub dir/" + name, "<r>file</r>");
@@ -124,7 +124,7 @@ TEST_F(zvXMLLoadTest, loadsFilesByPathAndByUri) {
     std::filesystem::current_path(before);
 }
 
-TEST_F(zvXMLLoadTest, refusesWhatIsNoFile) {
+TEST_F(zvXMLLoadTest, RefusesWhatIsNoFile) {
     const std::string folder = m_folder.path().string();
     for (const std::string& location :
          {std::string("http://127.0.0.1:9/x.xml"), std::string("ftp://h/x.xml"),

@@ -27,7 +27,7 @@ std::string namesIn(const List& list) {
 
 class zvXMLParserTest : public zvXMLSampleTest {};
 
-TEST_F(zvXMLParserTest, cursorGoesFromElementToElement) {
+TEST_F(zvXMLParserTest, CursorGoesFromElementToElement) {
     using Move = bool (zvXMLParser::*)(zvString&);
     const struct {
         Move move;
@@ -59,7 +59,7 @@ TEST_F(zvXMLParserTest, cursorGoesFromElementToElement) {
     EXPECT_EQ(root(), m_parser.getRootNode());
 }
 
-TEST_F(zvXMLParserTest, readsTheCurrentNode) {
+TEST_F(zvXMLParserTest, ReadsTheCurrentNode) {
     zvString value;
     zvStringList names, values;
     EXPECT_TRUE(m_parser.getMemberValue(value));
@@ -83,7 +83,7 @@ TEST_F(zvXMLParserTest, readsTheCurrentNode) {
     EXPECT_EQ(root()->getOwnerDocument(), m_parser.getCurrentNode());
 }
 
-TEST_F(zvXMLParserTest, findsElementsBelowAnElement) {
+TEST_F(zvXMLParserTest, FindsElementsBelowAnElement) {
     EXPECT_EQ("deep", nameOf(m_parser.getChildElement(root(), "Object")));
     EXPECT_EQ(nullptr, m_parser.getChildElement(root(), "Config"));
     EXPECT_EQ(nullptr, m_parser.getChildElement(root(), ""));
@@ -96,7 +96,7 @@ TEST_F(zvXMLParserTest, findsElementsBelowAnElement) {
     EXPECT_EQ(nullptr, m_parser.getChildElement(m_parser.getChildElement(root(), "object"), "Object"));
 }
 
-TEST_F(zvXMLParserTest, findsTexts) {
+TEST_F(zvXMLParserTest, FindsTexts) {
     EXPECT_EQ("x y", narrow(m_parser.getChildTextTrim(root(), "Text")));
     EXPECT_EQ("a", narrow(m_parser.getChildText(root(), "Object", true)));
     EXPECT_EQ("tail", narrow(m_parser.getChildText(root(), "Cdata", false)));
@@ -108,7 +108,7 @@ TEST_F(zvXMLParserTest, findsTexts) {
     EXPECT_TRUE(zvXMLParser::getStringFromXMLCh(nullptr).empty());
 }
 
-TEST_F(zvXMLParserTest, requiredThingsThatAreMissingThrow) {
+TEST_F(zvXMLParserTest, RequiredThingsThatAreMissingThrow) {
     DOMElement* const object = m_parser.getChildElement(root(), "Object");
     EXPECT_EQ("deep", narrow(m_parser.getAttributeValue(object, "Name", true, true)));
     EXPECT_EQ("", narrow(m_parser.getAttributeValue(object, "X", false, true)));
@@ -135,7 +135,7 @@ TEST_F(zvXMLParserTest, requiredThingsThatAreMissingThrow) {
     }
 }
 
-TEST_F(zvXMLParserTest, nullsGiveEmptyResultsInSilence) {
+TEST_F(zvXMLParserTest, NullsGiveEmptyResultsInSilence) {
     zvXMLParser parser;
     zvString tag("kept");
     zvStringList names, values;
@@ -157,7 +157,7 @@ TEST_F(zvXMLParserTest, nullsGiveEmptyResultsInSilence) {
     EXPECT_EQ(Lines{}, zvRecordingLogger::lines());
 }
 
-TEST(zvXERCESDOMNODEListTest, isAListOfNodes) {
+TEST(zvXERCESDOMNODEListTest, IsAListOfNodes) {
     zvXMLParser parser("<a><b/></a>", false);
     DOMNode* const a = parser.getRootElement();
     zvXERCESDOMNODEList list;
@@ -176,7 +176,7 @@ TEST(zvXERCESDOMNODEListTest, isAListOfNodes) {
     EXPECT_TRUE(list.empty());
 }
 
-TEST(zvXMLPlatformTest, parsersComeAndGoInAnyOrder) {
+TEST(zvXMLPlatformTest, ParsersComeAndGoInAnyOrder) {
     auto first = std::make_unique<zvXMLParser>("<a x='1'/>", false);
     auto second = std::make_unique<zvXMLParser>("<b x='2'/>", false);
     first.reset();
@@ -188,7 +188,7 @@ TEST(zvXMLPlatformTest, parsersComeAndGoInAnyOrder) {
     EXPECT_NE("failed", written(*first));
 }
 
-TEST(zvXMLPlatformTest, leavesAHostsPlatformAlone) {
+TEST(zvXMLPlatformTest, LeavesAHostsPlatformAlone) {
     xercesc::XMLPlatformUtils::Initialize();
     xercesc::DOMImplementation* const host = xercesc::DOMImplementationRegistry::getDOMImplementation(u"LS");
     xercesc::DOMDocument* const document = host->createDocument(nullptr, u"host", nullptr);

@@ -7,7 +7,7 @@ namespace {
 
 class zvXMLWriteTest : public zvXMLSampleTest {};
 
-TEST_F(zvXMLWriteTest, buildsAndWrites) {
+TEST_F(zvXMLWriteTest, BuildsAndWrites) {
     zvXMLParser parser;
     ASSERT_TRUE(parser.createXMLTree("r"));
     EXPECT_TRUE(parser.addStartTag("child") && parser.addAttribute("a", "<\"\xC3\xA4") &&
@@ -28,7 +28,7 @@ TEST_F(zvXMLWriteTest, buildsAndWrites) {
               written(parser));
 }
 
-TEST_F(zvXMLWriteTest, whatIsNoNameChangesNothing) {
+TEST_F(zvXMLWriteTest, WhatIsNoNameChangesNothing) {
     for (const char* name : {"", "a b", "1", "<", "a>"}) {
         SCOPED_TRACE(name);
         zvXMLParser parser;
@@ -50,7 +50,7 @@ TEST_F(zvXMLWriteTest, whatIsNoNameChangesNothing) {
     EXPECT_FALSE(zvXMLParser().addStartTag("a") || zvXMLParser().createXMLTree("p:r"));
 }
 
-TEST_F(zvXMLWriteTest, writesInOtherEncodings) {
+TEST_F(zvXMLWriteTest, WritesInOtherEncodings) {
     zvXMLParser parser;
     ASSERT_TRUE(parser.loadXMLFromString("<r>\xC3\xA4\xF0\x9F\x98\x80</r>", false));
     EXPECT_NE(std::string::npos, written(parser, "ISO-8859-1").find("\"ISO-8859-1\""));
@@ -67,7 +67,7 @@ TEST_F(zvXMLWriteTest, writesInOtherEncodings) {
     EXPECT_EQ(2U, zvRecordingLogger::lines("error").size());
 }
 
-TEST_F(zvXMLWriteTest, writesToFilesAndStandardOutput) {
+TEST_F(zvXMLWriteTest, WritesToFilesAndStandardOutput) {
     zvXMLParser parser("<r>a\nb</r>", false);
     const std::string folder = m_folder.path().string();
     const std::string name = "o " + narrow(u"\u00E4") + ".xml";
@@ -79,7 +79,7 @@ TEST_F(zvXMLWriteTest, writesToFilesAndStandardOutput) {
     EXPECT_EQ(expected, testing::internal::GetCapturedStdout());
 }
 
-TEST_F(zvXMLWriteTest, aFailedWriteIsToldAndLeavesFilesAlone) {
+TEST_F(zvXMLWriteTest, AFailedWriteIsToldAndLeavesFilesAlone) {
     zvXMLParser parser("<r/>", false);
     const std::string folder = m_folder.path().string();
     EXPECT_FALSE(parser.writeTreeToFile((folder + "\\no\\x.xml").c_str(), "UTF-8"));

@@ -17,7 +17,7 @@ class zvAttachmentList;
 ///       </Attachment>
 ///     </AttachmentList>
 ///
-/// An absent mode or ToBeDeleted takes its default, and an attachment without a path is skipped, each with a
+/// A missing mode or ToBeDeleted takes its default, and an attachment without a path is skipped, each with a
 /// warning. Other elements are ignored.
 class ZV_EXPORT zvAttachmentParser : public zvXMLParser {
 public:
@@ -27,10 +27,10 @@ public:
     explicit zvAttachmentParser(zvFindingSink* findings);
     ~zvAttachmentParser() override;
 
-    /// Appends what `input` (a file's path, or the document itself) lists to `list`.
+    /// Appends the attachments in `input`, a file's path or a document, to `list`.
     /// @return code 0; -1 for an empty `input`, a null `list` and a document without any attachment, all
-    /// without a message: the list tells what was found. @throws zvException for a document that cannot be
-    /// loaded or has another root.
+    /// without a message.
+    /// @throws zvException for a document that cannot be loaded or has a wrong root element.
     zvResult parse(zvAttachmentList* list, const zvString& input, bool isFile);
 
 private:

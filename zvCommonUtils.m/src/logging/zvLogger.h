@@ -9,14 +9,14 @@
 
 class zvLogChannel;
 
-/// The process's log: a singleton that hands messages to the logging library, under one fixed logger name.
+/// The process's log: a singleton that passes messages to the logging library under one fixed logger name.
 ///
 /// The logging library is configured on first use from "log4cxx.xml" in the folder "config" of the gateway
-/// home; without it messages disappear. Logging never fails towards the caller. There is no locking: the
-/// first getInstance() belongs before the first thread.
+/// home; without it messages are dropped. Logging never throws. Not thread-safe on first use: call
+/// getInstance() before starting threads.
 ///
-/// `file` is the source file of the call and `line` its line; both go to the logging library, and the file's
-/// name also in front of the message. A copy shares its original's channel.
+/// `file` is the source file of the call and `line` its line; both are passed to the logging library, and the
+/// file's name also prefixes the message. A copy shares its original's channel.
 class ZV_EXPORT zvLogger : public zvCoreObjectCommon {
 public:
     /// The instance, owned by the class and created on first use; null while it is being created.
@@ -29,12 +29,12 @@ public:
     void logWarn(const zvString& message, const char* file, int line);
     void logError(const zvString& message, const char* file, int line);
     void logFatal(const zvString& message, const char* file, int line);
-    /// Written whatever the configured threshold.
+    /// Written regardless of the configured threshold.
     void logAlways(const zvString& message, const char* file, int line);
     /// One of the above.
     void log(zvLogLevel level, const zvString& message, const char* file, int line);
 
-    /// Whether the logging library takes messages: callers need not compose them otherwise.
+    /// Whether messages are written: if not, callers need not compose them.
     bool isReady() const;
 
 protected:
