@@ -120,15 +120,19 @@ void declareShow(CLI::App& program, zvShowCommand& command) {
         "Exit code 6 for a configuration that is not read to its end, 2 for a page that cannot be written.");
 }
 
+void declareRoad(CLI::App& program, zvRoadOptions& options) {
+    program.add_flag("--dry-run", options.isDryRun, "Does everything but the transfer and the post");
+    program.add_flag("--json", options.asJson,
+                     "The summary goes to standard output as JSON, and everything else to standard error");
+}
+
 // Declares the program's options, and runs what the command line asks for.
 int runProgram(int argc, char** argv) {
     CLI::App program("Takes one event through the gateway: zvgateway key=value ...", "zvgateway");
     program.footer(footer);
     program.set_version_flag("--version", "zvgateway " ZV_VERSION);
     zvEventRoad road;
-    program.add_flag("--dry-run", road.isDryRun, "Does everything but the transfer and the post");
-    program.add_flag("--json", road.asJson,
-                     "The summary goes to standard output as JSON, and everything else to standard error");
+    declareRoad(program, road.options);
 
     zvEvaluateCommand evaluation;
     CLI::App& eval = *program.add_subcommand("eval", "Evaluates a condition, as mapping rules have them");
@@ -152,7 +156,7 @@ int runProgram(int argc, char** argv) {
     }
     if (program.get_subcommands().empty()) {
         const zvExitCode code = takeEvent(road, program.remaining());
-        return road.asJson ? finish(code) : static_cast<int>(code);
+        return road.options.asJson ? finish(code) : static_cast<int>(code);
     }
     goWithoutHome();
     return finish(eval.parsed() ? evaluation.run() : check.parsed() ? checking.run() : showing.run());

@@ -44,7 +44,7 @@ void take(const Step& step, zvGatewayEvent& event) {
 }  // namespace
 
 void zvEventRoad::run() {
-    if (asJson) {
+    if (options.asJson) {
         zvConsole::leaveStandardOutput();
     }
     try {
@@ -57,7 +57,7 @@ void zvEventRoad::run() {
 }
 
 void zvEventRoad::walk() {
-    m_event.isDryRun = isDryRun;
+    m_event.options = options;
     m_event.commandLine = std::move(arguments);
     if (!zvGatewayHomeStep::isHomeNamed()) {
         // The library would say so on standard output, in the middle of everything else, when it logs.
@@ -77,12 +77,12 @@ void zvEventRoad::summarize(zvExitCode exitCode) {
         report.setFact("dataFile", "data file", zvConsole::printablePath(m_event.dataFile()));
         report.setFact("attachmentsFile", "attachments file",
                        zvConsole::printablePath(m_event.attachmentsFile()));
-        if (exitCode != zvExitCode::success || isDryRun) {
+        if (exitCode != zvExitCode::success || options.isDryRun) {
             report.setFact("", "to go on", "the same arguments and EventShadowDir=" + name);
         }
     }
     report.print();
-    if (asJson) {
+    if (options.asJson) {
         report.printJson(exitCode);
     }
 }

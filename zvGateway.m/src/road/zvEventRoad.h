@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "zvGatewayEvent.h"
+#include "zvRoadOptions.h"
 
 /// The road of one event through the gateway, step by step. Each step prints what it does; the first one that
 /// cannot do its job ends the road.
@@ -12,10 +13,7 @@ class zvEventRoad {
 public:
     /// The event's arguments, `key=value` each.
     std::vector<std::string> arguments;
-    /// Does everything but what leaves this host.
-    bool isDryRun = false;
-    /// The summary goes to standard output as JSON, and everything else to standard error.
-    bool asJson = false;
+    zvRoadOptions options;
 
     /// Throws, after the summary, the zvProgramFailure of a step that failed.
     void run();

@@ -8,6 +8,7 @@
 #include "zvAttachmentList.h"
 #include "zvEventArguments.h"
 #include "zvEventProgress.h"
+#include "zvRoadOptions.h"
 #include "zvRoadReport.h"
 
 /// An event on its road: what its steps share.
@@ -16,6 +17,7 @@ struct zvGatewayEvent {
         void operator()(zvEventArguments* arguments) const { arguments->destroy(); }
     };
 
+    zvRoadOptions options;
     /// As given, `key=value` each.
     std::vector<std::string> commandLine;
     /// There from the first step on.
@@ -24,8 +26,6 @@ struct zvGatewayEvent {
     std::unique_ptr<zvEventProgress> progress;
     zvAttachmentList attachments;
     zvRoadReport report;
-    /// Nothing leaves this host.
-    bool isDryRun = false;
 
     zvString argument(const char* key) const { return arguments->getEventArgumentValue(key); }
     /// The path of the event's directory.

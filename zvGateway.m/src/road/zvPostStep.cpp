@@ -42,7 +42,7 @@ zvStepOutcome zvPostStep::run() {
         return zvStepOutcome::leftOut("posted before");
     }
     const std::string arguments = zvConsole::counted(m_event.arguments->numEventArguments(), "argument");
-    if (m_event.isDryRun) {
+    if (m_event.options.isDryRun) {
         return zvStepOutcome::leftOut("dry run: " + arguments);
     }
     Answer answer;

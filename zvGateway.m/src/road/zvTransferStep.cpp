@@ -60,7 +60,7 @@ zvStepOutcome zvTransferStep::run() {
     if (m_event.progress->isTransferred()) {
         return zvStepOutcome::leftOut("done before");
     }
-    if (m_event.isDryRun) {
+    if (m_event.options.isDryRun) {
         return showFiles();
     }
     const auto failure = [&](const zvString& reason) {
