@@ -1,4 +1,5 @@
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cstdio>
 #include <exception>
 #include <string>
@@ -13,6 +14,7 @@
 #include "zvException.h"
 #include "zvFailure.h"
 #include "zvProcess.h"
+#include "zvRoadReport.h"
 #include "zvSecrets.h"
 #include "zvShowCommand.h"
 
@@ -53,9 +55,17 @@ Exit codes
   9  the post to the local server)";
 
 int fail(zvExitCode code, const std::string& message) {
-    std::fflush(stdout);
+    zvConsole::flush();
     std::fprintf(stderr, "zvgateway: %s\n", message.c_str());
     return static_cast<int>(code);
+}
+
+int fail(const zvProgramFailure& failure) {
+    if (zvConsole::hasLeftStandardOutput() && !zvConsole::hasAnswered()) {
+        zvRoadReport::printJson(failure);
+    }
+    const std::string subject = failure.subject + (failure.subject.empty() ? "" : ": ");
+    return fail(failure.exitCode, failure.step + ": " + subject + failure.reason);
 }
 
 zvExitCode takeEvent(zvEventRoad& road, std::vector<std::string> arguments) {
@@ -67,13 +77,14 @@ zvExitCode takeEvent(zvEventRoad& road, std::vector<std::string> arguments) {
         }
     }
     road.arguments = std::move(arguments);
+    zvProcess::noteSignals();
     road.run();
     return zvExitCode::success;
 }
 
 // What the program was started for has been printed, and must not be lost without a word.
 int finish(zvExitCode code) {
-    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+    if (!zvConsole::flush()) {
         const int failed = fail(zvExitCode::unexpected, "standard output could not be written to its end");
         return code == zvExitCode::success ? failed : static_cast<int>(code);
     }
@@ -151,6 +162,10 @@ int runProgram(int argc, char** argv) {
     try {
         program.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
+        if (zvConsole::hasLeftStandardOutput() && error.get_exit_code() != 0) {
+            throw zvProgramFailure{zvExitCode::usage, "options", "",
+                                   zvConsole::printable(zvSecrets::maskedArgument(error.what()))};
+        }
         // Prints the help, the version or what is wrong; the first two are no failures.
         return program.exit(error) == 0 ? 0 : static_cast<int>(zvExitCode::usage);
     }
@@ -167,12 +182,17 @@ int runProgram(int argc, char** argv) {
 int main(int argc, char** argv) {
     zvCommonUtils::adoptUserLocale();
     try {
+        // Before anything can be printed, also of a command line that cannot be parsed.
+        if (std::find(argv + 1, argv + argc, std::string("--json")) != argv + argc) {
+            zvConsole::leaveStandardOutput();
+        }
         return runProgram(argc, argv);
     } catch (const zvProgramFailure& failure) {
-        return fail(failure.exitCode, failure.step + ": " + failure.subject + ": " + failure.reason);
+        return fail(failure);
     } catch (const zvException& exception) {
-        return fail(zvExitCode::unexpected, zvConsole::printable(exception.getResult().getMessage()));
+        return fail({zvExitCode::unexpected, "unexpected", "",
+                     zvConsole::printable(exception.getResult().getMessage())});
     } catch (const std::exception& exception) {
-        return fail(zvExitCode::unexpected, exception.what());
+        return fail({zvExitCode::unexpected, "unexpected", "", exception.what()});
     }
 }

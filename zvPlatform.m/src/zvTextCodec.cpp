@@ -277,4 +277,9 @@ std::size_t toUtf8(const wchar16* text, std::size_t length, char* out) {
     return encodeUtf8(text, length, out, replacement);
 }
 
+std::size_t fromUtf8(const char* text, wchar16* out) {
+    std::size_t units = 0;
+    return decodeUtf8(text, [&](wchar16 unit) { out[units++] = unit; }) ? units : unconvertible;
+}
+
 }  // namespace zvTextCodec

@@ -48,6 +48,10 @@ std::size_t narrow(const wchar16* text, std::size_t length, char* out);
 /// @return the number of bytes written.
 std::size_t toUtf8(const wchar16* text, std::size_t length, char* out);
 
+/// Converts null-terminated UTF-8, whatever the locale: at most one code unit per byte, without a terminator.
+/// @return the number of code units written; `unconvertible`, with `out` partly written, if it is malformed.
+std::size_t fromUtf8(const char* text, wchar16* out);
+
 }  // namespace zvTextCodec
 
 #endif

@@ -6,17 +6,40 @@
 
 #include "zvCharString.h"
 #include "zvDirFileUtils.h"
+#include "zvFailure.h"
+#include "zvProcess.h"
 
 namespace {
 
-std::FILE* out = stdout;
+std::FILE* out = stdout;      // of what a person is told
+std::FILE* answers = stdout;  // of print()
+bool answered = false;
 const char* heading = nullptr;  // still to be printed
 
 }  // namespace
 
 namespace zvConsole {
 
-void leaveStandardOutput() { out = stderr; }
+void leaveStandardOutput() {
+    out = stderr;
+    answers = zvProcess::reserveStandardOutput();
+    if (answers == nullptr) {
+        answers = stdout;
+        throw zvProgramFailure{zvExitCode::unexpected, "standard output", "duplicate",
+                               "the system refuses it"};
+    }
+}
+
+bool hasLeftStandardOutput() { return out == stderr; }
+
+void print(const std::string& answer) {
+    std::fputs(answer.c_str(), answers);
+    answered = true;
+}
+
+bool hasAnswered() { return answered; }
+
+bool flush() { return std::fflush(answers) == 0 && std::ferror(answers) == 0; }
 
 std::string printable(const zvString& text) {
     std::string narrow = zvCharString(text).data();

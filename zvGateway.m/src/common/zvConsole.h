@@ -9,8 +9,16 @@
 /// What the program tells a person as it happens: on standard output, unless that is for another program.
 namespace zvConsole {
 
-/// From now on a person is told on standard error.
+/// Leaves standard output to print() alone: from now on everything else, also what libraries print, goes to
+/// standard error. Throws the zvProgramFailure of a system that cannot.
 void leaveStandardOutput();
+bool hasLeftStandardOutput();
+/// Prints the answer of a run whose standard output was left to it.
+void print(const std::string& answer);
+/// Whether print() was called.
+bool hasAnswered();
+/// Whether all that was printed has reached standard output. To be asked once, at the end.
+bool flush();
 
 /// The text in the process's locale, its control characters, which a terminal would obey, replaced by "?".
 std::string printable(const zvString& text);

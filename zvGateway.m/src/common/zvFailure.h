@@ -26,7 +26,7 @@ struct zvStepFailure {
 
 /// Thrown to end the program: with this exit code, and one line that names where, on what and why.
 struct zvProgramFailure {
-    zvExitCode exitCode;
+    zvExitCode exitCode;  // or 128 + the number of the signal that ended the work
     /// What the program was doing: the name of a step, or what a command works on.
     std::string step;
     std::string subject;

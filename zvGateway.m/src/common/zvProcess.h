@@ -1,7 +1,9 @@
 #ifndef ZV_PROCESS_H
 #define ZV_PROCESS_H
 
+#include <cstdio>
 #include <filesystem>
+#include <string>
 #include <system_error>
 
 /// What the program needs of the operating system beside the library: one source file for each system, and no
@@ -10,6 +12,8 @@ namespace zvProcess {
 
 /// The number by which the system knows this process.
 unsigned long id();
+/// This machine's name in its network; empty when the system does not tell it.
+std::string hostName();
 /// This process's program file; empty when the system does not tell it.
 std::filesystem::path programFile();
 /// Sets a variable of this process's environment.
@@ -19,6 +23,28 @@ enum class Lock { taken, heldByAnother, refused };
 /// Takes an advisory lock on the file, which is created if need be. It is held until the process exits.
 /// `error` is the reason of a refusal.
 Lock lockFile(const std::filesystem::path& file, std::error_code& error);
+
+/// Appends to the file; if `isDurable`, returns once it is on the disk. An empty error for success.
+std::error_code appendToFile(const std::filesystem::path& file, const std::string& text, bool isDurable);
+
+/// Keeps standard output for the caller alone: what the process writes to it otherwise, libraries included,
+/// goes to standard error from now on. Null, with nothing changed, if that fails.
+std::FILE* reserveStandardOutput();
+
+/// From now on a request to end the process (Ctrl-C, SIGTERM, SIGHUP) is noted: work ends where it can be
+/// ended cleanly. A second one ends the process at once. To be repeated after a library has set handlers of
+/// its own.
+void noteSignals();
+/// Keeps such requests from other threads, which a library is about to start, while it lives.
+class SignalsForThisThread {
+public:
+    SignalsForThisThread();
+    SignalsForThisThread(const SignalsForThisThread&) = delete;
+    SignalsForThisThread& operator=(const SignalsForThisThread&) = delete;
+    ~SignalsForThisThread();
+};
+/// The number of the signal that was noted; 0 for none.
+int notedSignal();
 
 }  // namespace zvProcess
 

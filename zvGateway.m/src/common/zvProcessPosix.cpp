@@ -2,7 +2,10 @@
 #include <sys/file.h>
 #include <unistd.h>
 
+#include <array>
+#include <atomic>
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
 
 #include "zvCharString.h"
@@ -23,10 +26,15 @@ std::filesystem::path zvProcess::programFile() {
 
 void zvProcess::setEnvironment(const char* name, const char* value) { ::setenv(name, value, 1); }
 
+namespace {
+
+constexpr mode_t newFileMode = 0666;  // as the process's umask has it
+
+}  // namespace
+
 zvProcess::Lock zvProcess::lockFile(const std::filesystem::path& file, std::error_code& error) {
-    constexpr mode_t mode = 0666;
     // The descriptor stays open, and with it the lock.
-    const int descriptor = ::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, mode);
+    const int descriptor = ::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, newFileMode);
     if (descriptor >= 0 && ::flock(descriptor, LOCK_EX | LOCK_NB) == 0) {
         return Lock::taken;
     }
@@ -36,3 +44,92 @@ zvProcess::Lock zvProcess::lockFile(const std::filesystem::path& file, std::erro
     }
     return error.value() == EWOULDBLOCK ? Lock::heldByAnother : Lock::refused;
 }
+
+std::string zvProcess::hostName() {
+    std::array<char, 256> name{};
+    return ::gethostname(name.data(), name.size() - 1) == 0 ? name.data() : "";
+}
+
+std::error_code zvProcess::appendToFile(const std::filesystem::path& file, const std::string& text,
+                                        bool isDurable) {
+    const auto lastError = [] { return std::error_code(errno, std::generic_category()); };
+    const int descriptor = ::open(file.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, newFileMode);
+    if (descriptor < 0) {
+        return lastError();
+    }
+    std::error_code error;
+    for (std::size_t written = 0; written < text.size() && !error;) {
+        const ssize_t count = ::write(descriptor, text.data() + written, text.size() - written);
+        if (count >= 0) {
+            written += static_cast<std::size_t>(count);
+        } else if (errno != EINTR) {
+            error = lastError();
+        }
+    }
+    if (!error && isDurable && ::fdatasync(descriptor) != 0) {
+        error = lastError();
+    }
+    if (::close(descriptor) != 0 && !error) {
+        error = lastError();
+    }
+    return error;
+}
+
+std::FILE* zvProcess::reserveStandardOutput() {
+    std::fflush(stdout);
+    const int reserved = ::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+    std::FILE* const stream = reserved < 0 ? nullptr : ::fdopen(reserved, "w");
+    if (stream == nullptr || ::dup2(STDERR_FILENO, STDOUT_FILENO) < 0) {
+        return nullptr;
+    }
+    return stream;
+}
+
+namespace {
+
+constexpr std::array<int, 3> endingSignals = {SIGINT, SIGTERM, SIGHUP};
+std::atomic<int> noted{0};
+static_assert(std::atomic<int>::is_always_lock_free, "a signal handler may use nothing else");
+
+void note(int signal) {
+    if (noted.exchange(signal) != 0) {
+        ::_exit(128 + signal);
+    }
+}
+
+sigset_t endingSet() {
+    sigset_t set;
+    sigemptyset(&set);
+    for (const int signal : endingSignals) {
+        sigaddset(&set, signal);
+    }
+    return set;
+}
+
+}  // namespace
+
+void zvProcess::noteSignals() {
+    for (const int signal : endingSignals) {
+        struct sigaction action {};
+        // A signal that the parent process ignores, as nohup does, stays ignored.
+        if (::sigaction(signal, nullptr, &action) == 0 && action.sa_handler != SIG_IGN) {
+            action = {};
+            action.sa_handler = note;
+            action.sa_flags = SA_RESTART;
+            ::sigaction(signal, &action, nullptr);
+        }
+    }
+}
+
+zvProcess::SignalsForThisThread::SignalsForThisThread() {
+    const sigset_t set = endingSet();
+    ::pthread_sigmask(SIG_BLOCK, &set, nullptr);
+}
+
+zvProcess::SignalsForThisThread::~SignalsForThisThread() {
+    noteSignals();
+    const sigset_t set = endingSet();
+    ::pthread_sigmask(SIG_UNBLOCK, &set, nullptr);
+}
+
+int zvProcess::notedSignal() { return noted; }

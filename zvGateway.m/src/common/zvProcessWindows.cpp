@@ -1,5 +1,10 @@
+#include <fcntl.h>
+#include <io.h>
 #include <windows.h>
 
+#include <array>
+#include <atomic>
+#include <csignal>
 #include <cstdlib>
 #include <string>
 
@@ -50,3 +55,59 @@ zvProcess::Lock zvProcess::lockFile(const std::filesystem::path& file, std::erro
     ::CloseHandle(handle);
     return error.value() == ERROR_LOCK_VIOLATION ? Lock::heldByAnother : Lock::refused;
 }
+
+std::string zvProcess::hostName() {
+    std::array<char, MAX_COMPUTERNAME_LENGTH + 1> name{};
+    DWORD length = static_cast<DWORD>(name.size());
+    return ::GetComputerNameA(name.data(), &length) != 0 ? name.data() : "";
+}
+
+std::error_code zvProcess::appendToFile(const std::filesystem::path& file, const std::string& text,
+                                        bool isDurable) {
+    const auto lastError = [] {
+        return std::error_code(static_cast<int>(::GetLastError()), std::system_category());
+    };
+    const HANDLE handle =
+        ::CreateFileW(file.c_str(), FILE_APPEND_DATA, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                      nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (handle == INVALID_HANDLE_VALUE) {
+        return lastError();
+    }
+    std::error_code error;
+    DWORD written = 0;
+    if (::WriteFile(handle, text.data(), static_cast<DWORD>(text.size()), &written, nullptr) == 0 ||
+        (isDurable && ::FlushFileBuffers(handle) == 0)) {
+        error = lastError();
+    }
+    ::CloseHandle(handle);
+    return error;
+}
+
+std::FILE* zvProcess::reserveStandardOutput() {
+    std::fflush(stdout);
+    const int reserved = ::_dup(_fileno(stdout));
+    std::FILE* const stream = reserved < 0 ? nullptr : ::_fdopen(reserved, "w");
+    if (stream == nullptr || ::_dup2(_fileno(stderr), _fileno(stdout)) != 0) {
+        return nullptr;
+    }
+    return stream;
+}
+
+namespace {
+
+std::atomic<int> noted{0};
+
+BOOL WINAPI note(DWORD event) {
+    const int signal = event == CTRL_C_EVENT ? SIGINT : SIGTERM;
+    return noted.exchange(signal) == 0 ? TRUE : FALSE;
+}
+
+}  // namespace
+
+void zvProcess::noteSignals() { ::SetConsoleCtrlHandler(note, TRUE); }
+
+// Requests come on a thread of their own here.
+zvProcess::SignalsForThisThread::SignalsForThisThread() = default;
+zvProcess::SignalsForThisThread::~SignalsForThisThread() { noteSignals(); }
+
+int zvProcess::notedSignal() { return noted; }

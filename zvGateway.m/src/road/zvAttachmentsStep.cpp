@@ -61,7 +61,7 @@ void zvAttachmentsStep::showAttachments() const {
     for (int i = 0; i < m_event.attachments.numAttachments(); ++i) {
         const zvAttachment& attachment = *m_event.attachments.getAttachment(i);
         const zvString path = attachment.getFilePath();
-        const bool hasArrived = m_event.progress->hasArrived(path);
+        const bool hasArrived = m_event.record->hasArrived(path);
         if (!hasArrived) {
             requireReadable(path);
         }

@@ -5,72 +5,90 @@
 #include "zvConfigurationStep.h"
 #include "zvConsole.h"
 #include "zvGatewayHomeStep.h"
+#include "zvInterruption.h"
 #include "zvMappingStep.h"
 #include "zvPostStep.h"
 #include "zvShadowDirectoryStep.h"
 #include "zvTransferStep.h"
 
-namespace {
-
-struct Step {
+struct zvEventRoad::Step {
     const char* name;
     zvExitCode exitCode;  // when it fails
     zvStepOutcome (*run)(zvGatewayEvent& event);
 };
 
-template <class AStep>
+namespace {
+
+template <class Step>
 zvStepOutcome run(zvGatewayEvent& event) {
-    return AStep(event).run();
-}
-
-constexpr Step gatewayHome = {"gateway home", zvExitCode::gatewayHome, run<zvGatewayHomeStep>};
-
-constexpr Step steps[] = {
-    {"arguments", zvExitCode::usage, run<zvArgumentsStep>},
-    gatewayHome,
-    {"shadow directory", zvExitCode::shadowDirectory, run<zvShadowDirectoryStep>},
-    {"configuration", zvExitCode::configuration, run<zvConfigurationStep>},
-    {"mapping", zvExitCode::mapping, run<zvMappingStep>},
-    {"attachments", zvExitCode::attachments, run<zvAttachmentsStep>},
-    {"file transfer", zvExitCode::fileTransfer, run<zvTransferStep>},
-    {"post", zvExitCode::post, run<zvPostStep>},
-};
-
-void take(const Step& step, zvGatewayEvent& event) {
-    zvConsole::step(step.name);
-    event.report.take(step.name, step.exitCode, [&] { return step.run(event); });
+    return Step(event).run();
 }
 
 }  // namespace
 
+constexpr zvEventRoad::Step zvEventRoad::steps[] = {
+    {"arguments", zvExitCode::usage, ::run<zvArgumentsStep>},
+    {"gateway home", zvExitCode::gatewayHome, ::run<zvGatewayHomeStep>},
+    {"shadow directory", zvExitCode::shadowDirectory, ::run<zvShadowDirectoryStep>},
+    {"configuration", zvExitCode::configuration, ::run<zvConfigurationStep>},
+    {"mapping", zvExitCode::mapping, ::run<zvMappingStep>},
+    {"attachments", zvExitCode::attachments, ::run<zvAttachmentsStep>},
+    {"file transfer", zvExitCode::fileTransfer, ::run<zvTransferStep>},
+    {"post", zvExitCode::post, ::run<zvPostStep>},
+};
+
 void zvEventRoad::run() {
-    if (options.asJson) {
-        zvConsole::leaveStandardOutput();
-    }
+    m_event.options = options;
+    m_event.commandLine = std::move(arguments);
     try {
         walk();
     } catch (const zvProgramFailure& failure) {
-        summarize(failure.exitCode);
+        end(&failure);
         throw;
     }
-    summarize(zvExitCode::success);
+    end(nullptr);
 }
 
 void zvEventRoad::walk() {
-    m_event.options = options;
-    m_event.commandLine = std::move(arguments);
     if (!zvGatewayHomeStep::isHomeNamed()) {
         // The library would say so on standard output, in the middle of everything else, when it logs.
-        take(gatewayHome, m_event);
+        take(steps[1]);
     }
     for (const Step& step : steps) {
-        take(step, m_event);
+        take(step);
     }
+}
+
+void zvEventRoad::take(const Step& step) {
+    zvConsole::step(step.name);
+    m_event.report.take(step.name, step.exitCode, [&] {
+        zvInterruption::throwIfRequested();
+        return step.run(m_event);
+    });
+    recordOutcomes();
+}
+
+// There is a record from the third step on, which then gets the outcomes of the first two as well.
+void zvEventRoad::recordOutcomes() {
+    const std::vector<zvRoadReport::Step>& taken = m_event.report.steps();
+    for (; m_event.record != nullptr && m_recorded < taken.size(); ++m_recorded) {
+        const zvRoadReport::Step& step = taken[m_recorded];
+        m_event.record->setOutcome(step.name, step.outcome, step.detail);
+    }
+}
+
+void zvEventRoad::end(const zvProgramFailure* failure) {
+    if (m_event.record != nullptr) {
+        recordOutcomes();
+        m_event.record->endAttempt(failure);
+    }
+    summarize(failure == nullptr ? zvExitCode::success : failure->exitCode);
 }
 
 void zvEventRoad::summarize(zvExitCode exitCode) {
     zvRoadReport& report = m_event.report;
-    if (m_event.progress != nullptr) {
+    if (m_event.record != nullptr) {
+        report.setFact("eventId", "event", m_event.record->eventId());
         const std::string name = zvConsole::printable(m_event.argument("EventShadowDir"));
         report.setFact("eventShadowDir", "", name);
         report.setFact("directory", "directory", zvConsole::printablePath(m_event.directory()));

@@ -1,6 +1,7 @@
 #ifndef ZV_EVENT_ROAD_H
 #define ZV_EVENT_ROAD_H
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -19,10 +20,17 @@ public:
     void run();
 
 private:
+    struct Step;
+    static const Step steps[];
+
     void walk();
+    void take(const Step& step);
+    void recordOutcomes();
+    void end(const zvProgramFailure* failure);
     void summarize(zvExitCode exitCode);
 
     zvGatewayEvent m_event;
+    std::size_t m_recorded = 0;  // steps whose outcomes are in the record
 };
 
 #endif

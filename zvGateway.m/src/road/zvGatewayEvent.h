@@ -7,7 +7,7 @@
 
 #include "zvAttachmentList.h"
 #include "zvEventArguments.h"
-#include "zvEventProgress.h"
+#include "zvEventRecord.h"
 #include "zvRoadOptions.h"
 #include "zvRoadReport.h"
 
@@ -23,7 +23,7 @@ struct zvGatewayEvent {
     /// There from the first step on.
     std::unique_ptr<zvEventArguments, Destroy> arguments;
     /// There once the event has a directory.
-    std::unique_ptr<zvEventProgress> progress;
+    std::unique_ptr<zvEventRecord> record;
     zvAttachmentList attachments;
     zvRoadReport report;
 

@@ -42,9 +42,9 @@ zvMappingStep::zvMappingStep(const zvGatewayEvent& event)
       m_strRemoteType(event.argument("RemoteType")) {}
 
 std::string zvMappingStep::reasonToLeaveOut() const {
-    return m_strLocalType.empty() && m_strRemoteType.empty()  ? "the event has no object"
-           : m_event.progress->hasArrived(m_event.dataFile()) ? "the data file arrived before"
-                                                              : "";
+    return m_strLocalType.empty() && m_strRemoteType.empty() ? "the event has no object"
+           : m_event.record->hasArrived(m_event.dataFile())  ? "the data file arrived before"
+                                                             : "";
 }
 
 zvStepOutcome zvMappingStep::run() const {

@@ -38,7 +38,7 @@ zvStepOutcome zvPostStep::run() {
     const zvString url = zvCommonUtils::getLocalServerUrl();
     const std::string to = zvConsole::printable(url);
     zvConsole::fact("to", to);
-    if (m_event.progress->isPosted()) {
+    if (m_event.record->isPosted()) {
         return zvStepOutcome::leftOut("posted before");
     }
     const std::string arguments = zvConsole::counted(m_event.arguments->numEventArguments(), "argument");
@@ -57,8 +57,8 @@ zvStepOutcome zvPostStep::run() {
     if (!posted.isOk()) {
         throw zvStepFailure{to, zvConsole::printable(posted.getMessage())};
     }
-    m_event.progress->setPosted();
-    m_event.progress->requireWritten();
+    m_event.record->setPosted();
+    m_event.record->requireWritten();
     const std::string status = "HTTP status " + zvConsole::printable(posted.getAdditionalInformation());
     zvConsole::fact("answered", status);
     return zvStepOutcome::done(arguments + ", " + status);

@@ -8,6 +8,7 @@
 
 #include "zvConsole.h"
 #include "zvException.h"
+#include "zvInterruption.h"
 
 namespace {
 
@@ -35,6 +36,15 @@ std::string duration(double milliseconds) {
     return text;
 }
 
+nlohmann::ordered_json toJson(const zvProgramFailure& failure) {
+    return {{"step", failure.step}, {"subject", failure.subject}, {"reason", failure.reason}};
+}
+
+// Texts from outside are UTF-8 as a rule; one that is not must not cost the whole answer.
+void printAnswer(const nlohmann::ordered_json& json) {
+    zvConsole::print(json.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n");
+}
+
 const char* textOf(zvStepOutcome::Kind kind) {
     return kind == zvStepOutcome::Kind::done ? "done" : "left out";
 }
@@ -50,6 +60,11 @@ void zvRoadReport::take(const char* name, zvExitCode exitCode, const std::functi
         m_steps.push_back({name, textOf(outcome.kind), outcome.detail, now() - start});
     } catch (const zvStepFailure& failure) {
         fail({exitCode, name, failure.subject, failure.reason}, start);
+    } catch (const zvInterruption& interruption) {
+        constexpr int signalBase = 128;  // as shells count
+        fail({static_cast<zvExitCode>(signalBase + interruption.signal), name, "interrupted",
+              "by signal " + std::to_string(interruption.signal)},
+             start);
     } catch (const zvException& exception) {
         fail({zvExitCode::unexpected, name, "unexpected",
               zvConsole::printable(exception.getResult().getMessage())},
@@ -108,11 +123,11 @@ void zvRoadReport::printJson(zvExitCode exitCode) const {
     json["milliseconds"] = toMicroseconds(now() - m_start);
     json["exitCode"] = static_cast<int>(exitCode);
     if (m_failure) {
-        json["failure"] = {
-            {"step", m_failure->step}, {"subject", m_failure->subject}, {"reason", m_failure->reason}};
+        json["failure"] = toJson(*m_failure);
     }
-    // Texts from outside are UTF-8 as a rule; one that is not must not cost the whole answer.
-    const std::string text =
-        json.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
-    std::fputs(text.c_str(), stdout);
+    printAnswer(json);
+}
+
+void zvRoadReport::printJson(const zvProgramFailure& failure) {
+    printAnswer({{"exitCode", static_cast<int>(failure.exitCode)}, {"failure", toJson(failure)}});
 }

@@ -47,9 +47,8 @@ public:
     void print() const;
     /// To standard output, as one JSON object and a line feed.
     void printJson(zvExitCode exitCode) const;
-
-private:
-    [[noreturn]] void fail(zvProgramFailure failure, double start);
+    /// The same for a failure before the road began.
+    static void printJson(const zvProgramFailure& failure);
 
     struct Step {
         std::string name;
@@ -57,6 +56,12 @@ private:
         std::string detail;
         double milliseconds;
     };
+    /// Those that were taken, in their order.
+    const std::vector<Step>& steps() const { return m_steps; }
+
+private:
+    [[noreturn]] void fail(zvProgramFailure failure, double start);
+
     struct Fact {
         std::string key;
         std::string label;

@@ -5,7 +5,9 @@
 
 #include "zvConsole.h"
 #include "zvDirFileUtils.h"
+#include "zvEventId.h"
 #include "zvNativePath.h"
+#include "zvUtf8.h"
 
 namespace {
 
@@ -21,6 +23,14 @@ bool isPlainName(const zvString& name) {
            name.find(":") == -1;
 }
 
+std::string joined(const std::vector<std::string>& texts) {
+    std::string all;
+    for (const std::string& text : texts) {
+        all += (all.empty() ? "" : "; ") + zvConsole::printable(text.c_str());
+    }
+    return all;
+}
+
 std::string refusal(const zvResult& result) {
     return result.getMessage().empty() ? "it could not be created"
                                        : zvConsole::printable(result.getMessage());
@@ -29,6 +39,7 @@ std::string refusal(const zvResult& result) {
 }  // namespace
 
 zvStepOutcome zvShadowDirectoryStep::run() {
+    const zvEventRecord::Arguments given = zvEventRecord::argumentsOf(*m_event.arguments);
     const zvString root = m_event.argument("RootShadowDir");
     const zvString error = zvDirFileUtils::getAccessError(root, zvDirFileUtils::readAndWrite);
     if (!error.empty()) {
@@ -41,12 +52,32 @@ zvStepOutcome zvShadowDirectoryStep::run() {
         resumeIn(name);
     }
     zvConsole::fact("directory", zvConsole::printablePath(m_event.directory()));
-    m_event.progress = std::make_unique<zvEventProgress>(
-        m_event.directory() + "\\" + m_event.argument("EventShadowDir") + "_progress.txt");
+    beginAttempt(given);
+    zvConsole::fact("event", m_event.record->eventId());
     for (const char* const key : fileKeys) {
         zvConsole::fact(key, zvConsole::printablePath(m_event.file(key)));
     }
     return zvStepOutcome::done(name.empty() ? "a new one" : "the one of an earlier run");
+}
+
+// The event gets a record only when it is the one whose record is there: another one's stays as it is.
+void zvShadowDirectoryStep::beginAttempt(const zvEventRecord::Arguments& given) {
+    const zvString file = m_event.directory() + "\\" + m_event.argument("EventShadowDir") + "_record.jsonl";
+    auto record = std::make_unique<zvEventRecord>(file);
+    const std::string givenId = zvUtf8::encode(m_event.argument("EventId"));
+    std::vector<std::string> differences = record->differencesFrom(given);
+    if (!givenId.empty() && !record->eventId().empty() && givenId != record->eventId()) {
+        differences.push_back("EventId was \"" + record->eventId() + "\" and is \"" + givenId + "\"");
+    }
+    if (!differences.empty()) {
+        throw failure(m_event.directory(), "it is another event's: " + joined(differences));
+    }
+    const std::string id = !record->eventId().empty() ? record->eventId()
+                           : !givenId.empty()         ? givenId
+                                                      : makeEventId();
+    m_event.arguments->setEventArgument("EventId", id.c_str());
+    record->beginAttempt(id, given);
+    m_event.record = std::move(record);
 }
 
 void zvShadowDirectoryStep::makeDirectory() {

@@ -4,7 +4,8 @@
 #include "zvGatewayEvent.h"
 
 /// The step that gives the event its directory: a new one below "RootShadowDir", or, when the event is run
-/// again, the one that "EventShadowDir" names there. Files of it that are missing are made.
+/// again, the one that "EventShadowDir" names there. Files of it that are missing are made, and the event's
+/// record is begun or continued.
 class zvShadowDirectoryStep {
 public:
     explicit zvShadowDirectoryStep(zvGatewayEvent& event) : m_event(event) {}
@@ -14,6 +15,7 @@ public:
 
 private:
     void makeDirectory();
+    void beginAttempt(const zvEventRecord::Arguments& given);
     void resumeIn(const zvString& name);
     void requireFiles(const std::string& reason) const;
 

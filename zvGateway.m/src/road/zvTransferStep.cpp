@@ -10,8 +10,10 @@
 #include "zvException.h"
 #include "zvFSClient.h"
 #include "zvFSClientUtil.h"
+#include "zvInterruption.h"
 #include "zvNativePath.h"
 #include "zvProcess.h"
+#include "zvStringList.h"
 
 namespace fs = std::filesystem;
 
@@ -35,7 +37,10 @@ void offerClient() {
 // The connection to the file server, as long as it lives.
 class Connection {
 public:
-    explicit Connection(const zvString& configuration) { zvFSClient::getInstance(configuration); }
+    explicit Connection(const zvString& configuration) {
+        const zvProcess::SignalsForThisThread signals;  // the Java machine starts threads and sets handlers
+        zvFSClient::getInstance(configuration);
+    }
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
     ~Connection() { zvFSClient::destroyInstance(); }
@@ -57,11 +62,14 @@ zvStepOutcome zvTransferStep::run() {
         return zvStepOutcome::leftOut("there is no " + zvConsole::printablePath(configuration));
     }
     zvConsole::fact("by", zvConsole::printablePath(configuration));
-    if (m_event.progress->isTransferred()) {
-        return zvStepOutcome::leftOut("done before");
+    if (m_event.record->isPosted()) {
+        return zvStepOutcome::leftOut("the event was posted before");
     }
     if (m_event.options.isDryRun) {
         return showFiles();
+    }
+    if (isDone()) {
+        return zvStepOutcome::leftOut("done before");
     }
     const auto failure = [&](const zvString& reason) {
         return zvStepFailure{zvConsole::printablePath(configuration), zvConsole::printable(reason)};
@@ -78,33 +86,81 @@ zvStepOutcome zvTransferStep::run() {
     }
 }
 
+std::vector<zvString> zvTransferStep::files() const {
+    std::vector<zvString> files{m_event.dataFile(), m_event.attachmentsFile()};
+    for (int i = 0; i < m_event.attachments.numAttachments(); ++i) {
+        files.push_back(m_event.attachments.getAttachment(i)->getFilePath());
+    }
+    return files;
+}
+
+// Every file is there as it is now, and those that have to be deleted are.
+bool zvTransferStep::isDone() const {
+    for (const zvString& file : files()) {
+        if (!m_event.record->hasArrived(file)) {
+            return false;
+        }
+    }
+    for (int i = 0; i < m_event.attachments.numAttachments(); ++i) {
+        const zvAttachment& attachment = *m_event.attachments.getAttachment(i);
+        if (attachment.getToBeDeleted() &&
+            zvDirFileUtils::isAccessible(attachment.getFilePath(), zvDirFileUtils::existence)) {
+            return false;
+        }
+    }
+    return true;
+}
+
 zvStepOutcome zvTransferStep::showFiles() {
     int count = 0;
-    const auto show = [&](const zvString& file) {
+    for (const zvString& file : files()) {
         if (!hasArrived(file)) {
             ++count;
             zvConsole::fact("to be sent", zvConsole::printablePath(file) + ", " + sizeText(sizeOf(file)));
         }
-    };
-    show(m_event.dataFile());
-    show(m_event.attachmentsFile());
-    for (int i = 0; i < m_event.attachments.numAttachments(); ++i) {
-        show(m_event.attachments.getAttachment(i)->getFilePath());
     }
     return zvStepOutcome::leftOut("dry run: " + zvConsole::counted(count, "file"));
+}
+
+// A directory of the event's name that it has not made itself is another event's: of another root on the same
+// file server, or of an earlier one in the same second.
+void zvTransferStep::makeDirectory() {
+    using State = zvEventRecord::RemoteDirectory;
+    zvEventRecord& record = *m_event.record;
+    if (record.remoteDirectory() == State::own) {
+        require(zvFSClientUtil::createShadowDir(*m_event.arguments));
+        return;
+    }
+    const zvString name = m_event.argument("EventShadowDir");
+    zvFSClient& server = *zvFSClient::getInstance();
+    // A claim without a directory of its own in the record may have been made good all the same; nothing was
+    // sent into it then.
+    zvStringList entries;
+    const bool isThere = server.exists(name);
+    if (isThere) {
+        server.list(name, entries);
+    }
+    if (isThere && (record.remoteDirectory() == State::unknown || entries.numStrings() > 0)) {
+        throw zvStepFailure{zvConsole::printable(name),
+                            "this directory of the file server is not the event's, whose own is " +
+                                zvConsole::printablePath(m_event.directory()) +
+                                ": run the event anew, or remove that directory"};
+    }
+    record.setRemoteDirectory(State::claimed);
+    record.requireWritten();
+    require(zvFSClientUtil::createShadowDir(*m_event.arguments));
+    record.setRemoteDirectory(State::own);
+    record.requireWritten();
 }
 
 zvStepOutcome zvTransferStep::send(const zvString& configuration) {
     offerClient();
     const Connection connection(configuration);
-    require(zvFSClientUtil::createShadowDir(*m_event.arguments));
+    makeDirectory();
     const zvResult sent = zvFSClientUtil::uploadEventFiles(*m_event.arguments, m_event.attachments, this);
     require(sent);
     const zvString notRemoved = sent.getAdditionalInformation();
-    if (notRemoved.empty()) {
-        m_event.progress->setTransferred();
-        m_event.progress->requireWritten();
-    } else {
+    if (!notRemoved.empty()) {
         // The event may be run again to remove them.
         zvConsole::fact("warning", zvConsole::printable(notRemoved));
     }
@@ -118,7 +174,7 @@ void zvTransferStep::require(const zvResult& result) {
 }
 
 bool zvTransferStep::hasArrived(const zvString& local) {
-    if (!m_event.progress->hasArrived(local)) {
+    if (!m_event.record->hasArrived(local)) {
         return false;
     }
     zvConsole::fact("arrived before", zvConsole::printablePath(local));
@@ -127,7 +183,8 @@ bool zvTransferStep::hasArrived(const zvString& local) {
 }
 
 void zvTransferStep::fileBegins(const zvString& local) {
-    m_event.progress->begin(local);
+    zvInterruption::throwIfRequested();
+    m_event.record->beginFile(local);
     const zvInt64 bytes = sizeOf(local);
     if (bytes >= largeFile) {
         zvConsole::fact("sending", zvConsole::printablePath(local) + ", " + sizeText(bytes));
@@ -135,9 +192,9 @@ void zvTransferStep::fileBegins(const zvString& local) {
 }
 
 void zvTransferStep::fileTransferred(const zvString& local, zvInt64 bytes, zvInt64 milliseconds) {
-    m_event.progress->setArrived(local);
+    m_event.record->setArrived(local);
     // Or the files that have to be deleted would go, and nobody would know.
-    m_event.progress->requireWritten();
+    m_event.record->requireWritten();
     ++m_sentFiles;
     m_sentBytes += bytes;
     const std::string path = zvConsole::printablePath(local);

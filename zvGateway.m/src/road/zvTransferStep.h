@@ -1,6 +1,8 @@
 #ifndef ZV_TRANSFER_STEP_H
 #define ZV_TRANSFER_STEP_H
 
+#include <vector>
+
 #include "zvGatewayEvent.h"
 #include "zvResult.h"
 #include "zvTransferObserver.h"
@@ -15,7 +17,10 @@ public:
     zvStepOutcome run();
 
 private:
+    std::vector<zvString> files() const;
+    bool isDone() const;
     zvStepOutcome showFiles();
+    void makeDirectory();
     zvStepOutcome send(const zvString& configuration);
     static void require(const zvResult& result);
 

@@ -1,6 +1,7 @@
 #include "zvUtf8.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "zvTextCodec.h"
 
@@ -17,6 +18,14 @@ std::string_view encode(const zvString& text, std::string& buffer) {
     const auto units = static_cast<std::size_t>(text.size());
     buffer.resize(std::max(buffer.size(), units * mostBytesOfAUnit));
     return {buffer.data(), zvTextCodec::toUtf8(text.data(), units, buffer.data())};
+}
+
+bool decode(const std::string& bytes, zvString& text) {
+    std::vector<wchar16> units(bytes.size());
+    const std::size_t length = zvTextCodec::fromUtf8(bytes.c_str(), units.data());
+    const bool isValid = length != zvTextCodec::unconvertible;
+    text = isValid ? zvString(units.data(), static_cast<int>(length)) : zvString();
+    return isValid;
 }
 
 }  // namespace zvUtf8
