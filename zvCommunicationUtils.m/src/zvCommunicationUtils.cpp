@@ -17,7 +17,8 @@ zvResult zvCommunicationUtils::request(const zvString&, const zvEventArguments&,
                                        WriteMemoryCallbackWrapper*) {
     constexpr char noProtocol[] =
         "Function "
-        "zvCommunicationUtils::request(zvString,zvEventArguments,WriteMemoryCallbackWrapper*) has no protocol";
+        "zvCommunicationUtils::request(zvString,zvEventArguments,WriteMemoryCallbackWrapper*) has no "
+        "protocol";
     logger.error(noProtocol);
     zvResult result;
     result.setMessage(noProtocol);

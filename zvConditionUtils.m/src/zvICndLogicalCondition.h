@@ -12,8 +12,8 @@ struct zvCndChildren {
 };
 
 /// The base of AND, OR and NOT, the inner nodes of a condition tree. Their evaluation and destruction are
-/// iterative: trees of any depth take a bounded amount of stack. A derived class with an evaluate() of its own
-/// is evaluated by that, wherever it stands in a tree.
+/// iterative: trees of any depth take a bounded amount of stack. A derived class with an evaluate() of its
+/// own is evaluated by that, wherever it stands in a tree.
 class ZV_EXPORT zvICndLogicalCondition : public zvICndCondition {
 public:
     zvICndLogicalCondition(const zvICndLogicalCondition& other);

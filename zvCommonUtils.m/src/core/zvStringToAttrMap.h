@@ -19,8 +19,8 @@ public:
     /// Adds or replaces.
     void updateAttr(const zvString& key, const zvAttribute& attribute);
     /// @name Copies
-    /// Each copies what it finds into `out`; false, with `out` unchanged, for a missing key or an index out of
-    /// range.
+    /// Each copies what it finds into `out`; false, with `out` unchanged, for a missing key or an index out
+    /// of range.
     /// @{
     bool getAttr(const zvString& key, zvAttribute& out) const;
     bool getAttr(int i, zvAttribute& out) const;
