@@ -101,8 +101,8 @@ TEST(zvValueTest, AFloatTextIsRoundedToTheNearestFloat) {
     const Case cases[] = {{"3.4028234e38", FLT_MAX},
                           {"3.4028235e38", FLT_MAX},
                           {"-3.4028235e38", -FLT_MAX},
-                          {"340282356779733661637539395458142568447", FLT_MAX},
-                          {"340282356779733661637539395458142568448", INFINITY},
+                          {"340282356779733e24", FLT_MAX},
+                          {"340282356779734e24", INFINITY},
                           {"-3.4028236e38", -INFINITY},
                           {"-1e300", -INFINITY},
                           {"0.1", 0.1F}};

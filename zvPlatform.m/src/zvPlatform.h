@@ -51,10 +51,11 @@ struct CloseFile {
 using File = std::unique_ptr<std::FILE, CloseFile>;
 /// Opens a file for reading as text; null for a directory and for what cannot be opened.
 File openForReading(const char* path);
-/// Removes one file.
+/// Removes one file; refuses a directory.
 bool removeFile(const char* path);
 /// Carries out "rmdir /s/q" with `arguments`, which follow the switches at once: a blank, then paths that are
 /// separated by blanks or stand in double quotes. @return true when every path was a directory and is gone.
+/// Where this system has no such command, a path that ends in "." or ".." is refused.
 bool removeTree(const char* arguments);
 
 /// Loads a dynamic library by path, or by name in the system's search order; it stays loaded. Null if it
