@@ -24,6 +24,12 @@ std::string_view fileName(std::string_view path) {
     return delimiter == std::string_view::npos ? std::string_view() : path.substr(delimiter + 1);
 }
 
+zvString withNativeDelimiters(const zvString& path) {
+    zvString native(path);
+    native.replace("\\", zvPlatform::nativePath("\\").c_str());
+    return native;
+}
+
 std::string native(const zvString& path) { return zvPlatform::nativePath(zvCharString(path).data()); }
 
 zvString join(const zvString& folder, const zvString& name) {

@@ -125,7 +125,7 @@ zvString zvDirFileUtils::getAccessError(const zvString& path, int mode) {
 }
 
 zvString zvDirFileUtils::nativePath(const zvString& path) {
-    return zvPlatform::nativePath(zvCharString(path).data()).c_str();
+    return zvPath::withNativeDelimiters(path);
 }
 
 zvResult zvDirFileUtils::readFile(const zvString& path, zvStringList& lines) {

@@ -35,7 +35,18 @@ void offerClient() {
 // The connection to the file server, as long as it lives.
 class Connection {
 public:
-    explicit Connection(const zvString& configuration) { zvFSClient::getInstance(configuration); }
+    explicit Connection(const zvString& configuration) {
+        try {
+            zvFSClient::getInstance(zvDirFileUtils::nativePath(configuration));
+        } catch (const zvException& exception) {
+            const zvString detail = exception.getResult().getAdditionalInformation();
+            zvException detailed(exception);
+            if (!detail.empty()) {
+                detailed.setMessage(exception.getMessage() + ". " + detail);
+            }
+            throw zvException(detailed);
+        }
+    }
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
     ~Connection() { zvFSClient::destroyInstance(); }
