@@ -112,11 +112,9 @@ TEST_F(zvC2JBridgeTest, TellsWhereItLookedForJava) {
                       "The Java virtual machine was looked for in the system's search order; JAVA_HOME: " +
                           m_folder.path().string() + " (where " + fake + " cannot be loaded); PATH");
         }
-        const Lines errors = {"Error loading [jvm]",
-                              "For Windows add to PATH variable.",
+        const Lines errors = {"Error loading [jvm]", "For Windows add to PATH variable.",
                               "For Solaris/Linux add to LD_LIBRARY_PATH variable.",
-                              "For AIX add to LIBPATH variable.",
-                              "For HP-UX add to SHLIB_PATH variable."};
+                              "For AIX add to LIBPATH variable.", "For HP-UX add to SHLIB_PATH variable."};
         EXPECT_EQ(zvRecordingLogger::lines("error"), errors);
         const Lines fatals = {"Failed to load the Java virtual machine", message};
         EXPECT_EQ(zvRecordingLogger::lines("fatal"), fatals);

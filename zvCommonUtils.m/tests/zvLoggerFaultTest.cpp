@@ -14,8 +14,9 @@ constexpr zvLogSource source("modules/zvSource.cpp");
 
 class zvLoggerFaultTest : public zvLoggedTest {
 protected:
-    // Lets each allocation of `action` fail once, alone and then together with all later ones. Nothing may escape
-    // and no part of a path may be handed to the logging library; afterwards the same has to write its line.
+    // Lets each allocation of `action` fail once, alone and then together with all later ones. Nothing may
+    // escape and no part of a path may be handed to the logging library; afterwards the same has to write its
+    // line.
     void withEveryFault(void (*action)(), const std::string& loggerName, const std::string& line) const {
         for (void (*const fail)(int) : {&zvFaultyMemory::failOnceAfter, &zvFaultyMemory::allow}) {
             bool faultless = false;
@@ -63,9 +64,11 @@ TEST_F(zvLoggerFaultTest, ALogCallFailsQuietlyAndTheNextOneWrites) {
             }
         },
         processLogger, "zvCaller.cpp[7] " + narrow(message));
-    withEveryFault([] { source.error({"Error in opening file : \"", 12}, message, "\", ", 345); },
-                   processLogger,
-                   "zvSource.cpp[12] Error in opening file : \"" + narrow(message) + "\", 345");
+    withEveryFault(
+        [] {
+            source.error({"Error in opening file : \"", 12}, message, "\", ", 345);
+        },
+        processLogger, "zvSource.cpp[12] Error in opening file : \"" + narrow(message) + "\", 345");
 }
 
 // Each call needs a name of its own, since an instance stays.

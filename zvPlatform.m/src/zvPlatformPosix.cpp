@@ -86,8 +86,8 @@ std::vector<std::string> splitArguments(const char* arguments) {
     return paths;
 }
 
-// A symlink to a directory is removed itself; its target stays. A path that ends in "." or ".." is refused: the
-// system would empty that folder, and then not remove it.
+// A symlink to a directory is removed itself; its target stays. A path that ends in "." or ".." is refused:
+// the system would empty that folder, and then not remove it.
 bool removeDirectory(const std::string& path) {
     std::error_code error;
     std::filesystem::path directory(path);

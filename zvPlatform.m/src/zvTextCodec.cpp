@@ -300,7 +300,8 @@ std::size_t lastSeparator(std::string_view path) {
         return path.find_last_of("\\/");
     }
     std::size_t last = std::string_view::npos;
-    for (std::size_t at = nextSeparator(path, 0); at != std::string_view::npos; at = nextSeparator(path, at + 1)) {
+    for (std::size_t at = nextSeparator(path, 0); at != std::string_view::npos;
+         at = nextSeparator(path, at + 1)) {
         last = at;
     }
     return last;

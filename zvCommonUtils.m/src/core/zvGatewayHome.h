@@ -4,8 +4,8 @@
 #include "zvKeptString.h"
 #include "zvTextBuilder.h"
 
-/// The gateway's home folder, which the logger and the gateway environment both start from. Throws std::bad_alloc
-/// when out of memory: no name or path is cut short.
+/// The gateway's home folder, which the logger and the gateway environment both start from. Throws
+/// std::bad_alloc when out of memory: no name or path is cut short.
 class zvGatewayHome {
 public:
     /// See the operations of the same names in zvCommonUtils.

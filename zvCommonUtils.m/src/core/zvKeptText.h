@@ -3,8 +3,8 @@
 
 #include "zvCharString.h"
 
-/// Conversions that throw std::bad_alloc when out of memory, where the plain ones silently give an empty text.
-/// A text that cannot be converted is empty, as ever.
+/// Conversions that throw std::bad_alloc when out of memory, where the plain ones silently give an empty
+/// text. A text that cannot be converted is empty, as ever.
 namespace zvKeptText {
 
 /// The wide form of `text`.

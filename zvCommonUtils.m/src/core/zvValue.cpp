@@ -12,8 +12,8 @@ namespace {
 
 constexpr char noOrderOfBooleans[] = "On boolean datatype only equal to and not equal to action happens";
 
-// Out of the range of float, the plain conversion would be undefined behaviour. What lies less than half a step
-// beyond the largest float is rounded to it.
+// Out of the range of float, the plain conversion would be undefined behaviour. What lies less than half a
+// step beyond the largest float is rounded to it.
 float toFloat(double value) {
     constexpr double largest = FLT_MAX;
     constexpr double firstInfinite = 0x1.ffffffp127;

@@ -124,9 +124,7 @@ zvString zvDirFileUtils::getAccessError(const zvString& path, int mode) {
     return error == 0 ? zvString() : zvString(zvPlatform::errorText(error).c_str());
 }
 
-zvString zvDirFileUtils::nativePath(const zvString& path) {
-    return zvPath::withNativeDelimiters(path);
-}
+zvString zvDirFileUtils::nativePath(const zvString& path) { return zvPath::withNativeDelimiters(path); }
 
 zvResult zvDirFileUtils::readFile(const zvString& path, zvStringList& lines) {
     zvResult result;

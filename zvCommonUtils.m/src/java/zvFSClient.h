@@ -13,8 +13,8 @@
 /// system. File lists contain bare names.
 ///
 /// Every operation logs a failure and throws it as a zvException. For a Java exception, its message is Java's
-/// and its result's message is the Java stack trace. If there is no Java client, both messages say that the client
-/// is not initialized.
+/// and its result's message is the Java stack trace. If there is no Java client, both messages say that the
+/// client is not initialized.
 class ZV_EXPORT zvFSClient : public zvCoreObjectCommon {
 public:
     zvFSClient(const zvFSClient&) = delete;
@@ -22,8 +22,8 @@ public:
 
     /// The instance, owned by the class. The first call creates it, starts the JVM on demand, configures the
     /// Java client from the file `configPath` and connects. If that fails, the instance exists without a
-    /// connection, and its operations are left to the Java client to refuse: call destroyInstance() before a retry.
-    /// If no JVM was found, the result's additional information says where it was looked for.
+    /// connection, and its operations are left to the Java client to refuse: call destroyInstance() before a
+    /// retry. If no JVM was found, the result's additional information says where it was looked for.
     static zvFSClient* getInstance(const zvString& configPath);
     /// The instance; null if it was not created.
     static zvFSClient* getInstance();

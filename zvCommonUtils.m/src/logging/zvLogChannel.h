@@ -7,8 +7,8 @@
 /// Writes to the logging library under one logger name; the constructor initialises the library.
 ///
 /// Without a gateway home, or if the logging library refuses the configuration, the channel is not ready and
-/// drops its messages. The constructor throws std::bad_alloc when out of memory, before the logging library gets
-/// a path that is cut short.
+/// drops its messages. The constructor throws std::bad_alloc when out of memory, before the logging library
+/// gets a path that is cut short.
 class zvLogChannel {
 public:
     explicit zvLogChannel(const zvString& name);
@@ -24,8 +24,8 @@ public:
     virtual void logFatal(const char* message, const char* file, int line);
     virtual void logAlways(const char* message, const char* file, int line);
 
-    /// The operation of that level, with the message as narrow text. Never throws: without memory the message is
-    /// lost.
+    /// The operation of that level, with the message as narrow text. Never throws: without memory the message
+    /// is lost.
     void log(zvLogLevel level, const zvString& message, const char* file, int line);
 
     bool isReady() const { return m_bReady; }

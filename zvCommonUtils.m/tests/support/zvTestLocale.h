@@ -6,7 +6,8 @@
 #include "zvTestSupport.h"
 
 /// A locale that localedef makes for one test, in an encoding that has the byte of a backslash inside other
-/// characters. It is the process's locale for narrow and wide text until the destructor restores the former one.
+/// characters. It is the process's locale for narrow and wide text until the destructor restores the former
+/// one.
 class zvTestLocale {
 public:
     /// `definition` as in "zh_TW", `encoding` as in "BIG5".

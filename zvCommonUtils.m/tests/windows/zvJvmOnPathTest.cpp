@@ -23,8 +23,8 @@ TEST_F(zvJvmOnPathTest, WithoutAJavaNothingStarts) {
     EXPECT_EQ(zvC2JBridge::getInstance(), nullptr);
     EXPECT_EQ(zvRecordingLogger::lines("error"),
               (Lines{"Error loading [jvm]", "For Windows add to PATH variable.",
-                             "For Solaris/Linux add to LD_LIBRARY_PATH variable.",
-                             "For AIX add to LIBPATH variable.", "For HP-UX add to SHLIB_PATH variable."}));
+                     "For Solaris/Linux add to LD_LIBRARY_PATH variable.", "For AIX add to LIBPATH variable.",
+                     "For HP-UX add to SHLIB_PATH variable."}));
     EXPECT_EQ(zvRecordingLogger::lines("fatal"), Lines{"Failed to load the Java virtual machine"});
 }
 
