@@ -89,6 +89,9 @@ TEST_F(zvDateTimeTest, WritesByAPattern) {
                           {"YYYY-MM", ""},
                           {"YYYYDD", "2011/21/0"},
                           {"DDhh", "21/1/0::0-0-0"},
+                          {"MM/MM/MM/MM/MM/MM/DD", "5/5/5"},  // a seventh field still tells the part
+                          {"DD/MM/YYYY::mm-ss-ss-hh", "21/5/2011::2-3-3"},
+                          {"MM/MM/MM/MM/MM/MM/MM", ""},
                           {"", ""}};
     for (const Case& c : cases) {
         EXPECT_EQ(date.getDateTime(c.format, "/", "-"), c.expected) << c.format;

@@ -1,8 +1,11 @@
 #include "zvDirFileUtils.h"
 
 #include <cerrno>
+#include <fstream>
 
+#include "zvProperties.h"
 #include "zvRecordingLogger.h"
+#include "zvTestLocale.h"
 #include "zvTestSupport.h"
 
 namespace {
@@ -71,6 +74,9 @@ TEST_F(zvDirFileUtilsTest, DeletesAFile) {
                             "info: Inside function zvDirFileUtils::deleteDirectory(zvString)",
                             "warn: Failed to Delete :" + path};
     EXPECT_EQ(zvRecordingLogger::lines(), expected);
+    std::filesystem::create_directory(m_folder.path() / "empty");
+    EXPECT_FALSE(zvDirFileUtils::deleteFile(inFolder("empty").c_str())) << "a directory";
+    EXPECT_TRUE(std::filesystem::exists(m_folder.path() / "empty"));
 }
 
 TEST_F(zvDirFileUtilsTest, DeletesTreesWithoutFollowingLinks) {
@@ -86,6 +92,10 @@ TEST_F(zvDirFileUtilsTest, DeletesTreesWithoutFollowingLinks) {
     EXPECT_FALSE(zvDirFileUtils::deleteDir(inFolder("other").c_str())) << "no blank";
     EXPECT_FALSE(zvDirFileUtils::deleteDir((" " + tree).c_str())) << "a blank in the path and no quotes";
     EXPECT_FALSE(zvDirFileUtils::deleteDir((" " + inFolder("other\\file")).c_str())) << "no directory";
+    for (const char* const dots : {"..", "..\\", ".", ".\\\\"}) {
+        EXPECT_FALSE(zvDirFileUtils::deleteDir((" " + inFolder("other\\") + dots).c_str())) << dots;
+        EXPECT_TRUE(std::filesystem::exists(m_folder.path() / "other/file")) << dots;
+    }
     EXPECT_TRUE(std::filesystem::exists(m_folder.path() / "a tree/deep/file"));
     zvRecordingLogger::reset();
     const std::string both = " \"" + tree + "\\\" " + inFolder("other");
@@ -147,6 +157,52 @@ TEST_F(zvDirFileUtilsTest, ReadingAppendsOrEmptiesTheList) {
     const Lines errors = {"Error in opening file : \"" + missing + "\"",
                           "Error in opening file : \"" + m_folder.path().string() + "\"", "Empty file path."};
     EXPECT_EQ(zvRecordingLogger::lines("error"), errors);
+}
+
+// A process's own memory can be opened, but not read where there is none.
+TEST_F(zvDirFileUtilsTest, AReadErrorIsAFailureWithItsReason) {
+    const char* const path = "/proc/self/mem";
+    if (!std::filesystem::exists(path)) {
+        GTEST_SKIP() << "a file that can be opened and not read";
+    }
+    zvStringList lines;
+    lines.addString("before");
+    const zvResult result = zvDirFileUtils::readFile(path, lines);
+    EXPECT_EQ(result.getResult(), -1);
+    EXPECT_EQ(result.getMessage(), "Input/output error");
+    EXPECT_TRUE(lines.empty());
+    EXPECT_EQ(zvRecordingLogger::lines("error"),
+              Lines{"Error in reading file : \"/proc/self/mem\", Input/output error"});
+    const zvResult parsed = zvProperties().parse(path);
+    EXPECT_EQ(parsed.getResult(), -1);
+    EXPECT_EQ(parsed.getMessage(), "Input/output error");
+}
+
+// The byte of a backslash inside a character separates no folders.
+TEST_F(zvDirFileUtilsTest, FindsFilesInEveryEncoding) {
+    for (const zvTestEncoding& encoding : zvTestEncodings) {
+        const zvTestLocale locale(encoding.definition, encoding.encoding);
+        if (!locale.isSet()) {
+            GTEST_SKIP() << "the locale " << encoding.definition << " in " << encoding.encoding;
+        }
+        const std::string name = encoding.character;
+        const zvString folder = zvString(inFolder(name).c_str());
+        const zvString file = folder + "\\" + name.c_str() + ".txt";
+        ASSERT_FALSE(folder.empty());
+        EXPECT_TRUE(zvDirFileUtils::createDirectory(folder).isOk());
+        EXPECT_TRUE(zvDirFileUtils::createFile(file).isOk());
+        const std::filesystem::path made = m_folder.path() / name / (name + ".txt");
+        EXPECT_TRUE(std::filesystem::is_regular_file(made)) << encoding.encoding;
+        std::ofstream(made) << "line";
+        EXPECT_TRUE(zvDirFileUtils::isAccessible(file, 6));
+        zvStringList lines;
+        EXPECT_TRUE(zvDirFileUtils::readFile(file, lines).isOk());
+        EXPECT_EQ(lines.getString(0), "line");
+        EXPECT_EQ(zvDirFileUtils::extractFileName(file), zvString(name.c_str()) + ".txt");
+        EXPECT_TRUE(zvDirFileUtils::deleteFile(file));
+        EXPECT_TRUE(zvDirFileUtils::deleteDir(zvString(" ") + folder));
+        EXPECT_FALSE(std::filesystem::exists(made.parent_path())) << encoding.encoding;
+    }
 }
 
 TEST_F(zvDirFileUtilsTest, SplitsPaths) {

@@ -76,12 +76,15 @@ TEST_F(zvEventArgumentsTest, SplitsTheCommandLine) {
 }
 
 TEST_F(zvEventArgumentsTest, SecretsReachNoLogLine) {
-    const Arguments arguments = parse({"EventName=x", "LoginPassword=s3cret", "KPDMPasswd=s3cret", "flag",
-                                       "LoginPassword=s3cret again", "Note=the KPDMPasswd is s3cret",
-                                       "LoginPassword\\=s3cret", "Note=LoginPassword s3cret"});
-    const Arguments line(zvEventArguments::parseEventArguments(
-        "\"LoginPassword=s3cret\" \"LoginPassword=s3cret2\" \"KPDMPasswd\\=s3cret\""));
-    EXPECT_EQ(arguments->numEventArguments(), 4);
+    const Arguments arguments =
+        parse({"EventName=x", "LoginPassword=s3cret", "KPDMPasswd=s3cret", "flag",
+               "LoginPassword=s3cret again", "Note=the KPDMPasswd is s3cret", "LoginPassword\\=s3cret",
+               "Note=LoginPassword s3cret", "My LoginPassword\\=s3cret=x", "My LoginPassword\\=s3cret=y"});
+    const Arguments line(
+        zvEventArguments::parseEventArguments("\"LoginPassword=s3cret\" \"LoginPassword=s3cret2\" "
+                                              "\"KPDMPasswd\\=s3cret\" \"KPDMPasswd\\=s3cret=1\" "
+                                              "\"KPDMPasswd\\=s3cret=2\""));
+    EXPECT_EQ(arguments->numEventArguments(), 5);
     EXPECT_EQ(arguments->getEventArgumentValue("LoginPassword"), "s3cret");
     for (const std::string& text : zvRecordingLogger::lines()) {
         EXPECT_EQ(text.find("s3cret"), std::string::npos) << text;
@@ -96,6 +99,11 @@ TEST_F(zvEventArgumentsTest, SecretsReachNoLogLine) {
     EXPECT_EQ(Lines(info.begin(), info.begin() + 6), expected);
     EXPECT_EQ(zvRecordingLogger::lines("warn").front(),
               "Argument could not be added to the map with Key = \"LoginPassword\" and Value = ********\"");
+    const Lines warnings = {
+        "Argument could not be added to the map with Key = \"KPDMPasswd\" and Value = ********\"",
+        "KPDMPasswd=******** not added to Arguments"};
+    const Lines found = zvRecordingLogger::lines("warn");
+    EXPECT_EQ(Lines(found.end() - 2, found.end()), warnings);
 }
 
 TEST_F(zvEventArgumentsTest, SplitsOneString) {

@@ -41,22 +41,22 @@ struct Operation {
     std::string call, name, started, finished;
 };
 const Operation operations[] = {
-    {[](Client& c) { return c.get("r/f", "l\\f"), true; }, "get(r/f,l/f)", "get",
+    {[](Client& c) { return c.get("r/f", "l\\f"), true; }, "get(r/f,l\\f)", "get",
      "Downloading remote file [r/f] to local file [l\\f]", "Successfully downloaded file [l\\f]"},
     {[](Client& c) { return c.get("r\\d", "l\\d", &files), true; },
-     "get(r\\d,l/d,java.util.ArrayList[a.txt \\u00E9 b])", "get", "Downloading files specified in the list",
+     "get(r\\d,l\\d,java.util.ArrayList[a.txt \\u00E9 b])", "get", "Downloading files specified in the list",
      "Successfully downloaded file(s) specified in the list"},
-    {[](Client& c) { return c.get("r", "l\\d", noList), true; }, "get(r,l/d,null)", "get",
+    {[](Client& c) { return c.get("r", "l\\d", noList), true; }, "get(r,l\\d,null)", "get",
      "Downloading files specified in the list", "Successfully downloaded file(s) specified in the list"},
-    {[](Client& c) { return c.get("r", "l\\d", "*\\y"), true; }, "get(r,l/d,*\\y)", "get",
+    {[](Client& c) { return c.get("r", "l\\d", "*\\y"), true; }, "get(r,l\\d,*\\y)", "get",
      "Downloading files specified by the filter [*\\y]",
      "Successfully downloaded file(s) specified by the filter"},
-    {[](Client& c) { return c.put("l\\f", "r\\f"), true; }, "put(l/f,r\\f)", "put",
+    {[](Client& c) { return c.put("l\\f", "r\\f"), true; }, "put(l\\f,r\\f)", "put",
      "Uploading local file [l\\f] to remote file [r\\f]", "Successfully uploaded file to [r\\f]"},
     {[](Client& c) { return c.put("l\\d", "r", &files), true; },
-     "put(l/d,r,java.util.ArrayList[a.txt \\u00E9 b])", "put", "Uploading files specified in the list",
+     "put(l\\d,r,java.util.ArrayList[a.txt \\u00E9 b])", "put", "Uploading files specified in the list",
      "Successfully uploaded file(s) specified in the list"},
-    {[](Client& c) { return c.put("l\\d", "r", "*"), true; }, "put(l/d,r,*)", "put",
+    {[](Client& c) { return c.put("l\\d", "r", "*"), true; }, "put(l\\d,r,*)", "put",
      "Uploading files specified by the filter [*]", "Successfully uploaded file(s) specified by the filter"},
     {[](Client& c) { return c.mkDir("d"), true; }, "mkDir(d)", "mkDir",
      "Creating directory [d] on FileServer", "Successfully created directory [d]"},
@@ -161,12 +161,11 @@ TEST_F(zvFSClientTest, AnExceptionMayHaveNoTexts) {
     }
 }
 
-TEST_F(zvFSClientTest, WithoutAConnectionNothingIsInvoked) {
+TEST_F(zvFSClientTest, WithoutAJavaClientNothingIsInvoked) {
     const std::pair<const char*, const char*> cases[] = {
         {"throw.initialize=java.io.IOException bad file", "bad file"},
         {"throw.getFileServerClient=java.io.IOException no client", "no client"},
-        {"noClient=", "Cannot invoke \"connect\" on null"},
-        {"throw.connect=java.io.IOException refused", "refused"}};
+        {"noClient=", "Cannot invoke \"connect\" on null"}};
     for (const auto& [script, message] : cases) {
         try {
             Client::getInstance(configuration(script).c_str());
@@ -180,7 +179,14 @@ TEST_F(zvFSClientTest, WithoutAConnectionNothingIsInvoked) {
         for (const Operation& operation : operations) {
             const std::string refusal =
                 "FSClient is not initialized. Unable to invoke FSClient." + operation.name + "() operation";
-            EXPECT_EQ(messageThrownBy([&] { operation.invoke(*client); }), refusal);
+            try {
+                operation.invoke(*client);
+                ADD_FAILURE() << operation.call;
+            } catch (const zvException& exception) {
+                EXPECT_EQ(narrow(exception.getMessage()), refusal);
+                EXPECT_EQ(narrow(exception.getResult().getMessage()), refusal);
+                EXPECT_EQ(exception.getResult().getResult(), -1);
+            }
             EXPECT_EQ(clientLines(), (Lines{"info: " + operation.started, "error: " + refusal}));
             forget();
         }
@@ -189,6 +195,21 @@ TEST_F(zvFSClientTest, WithoutAConnectionNothingIsInvoked) {
     }
     // A toString() that throws only affects the log.
     connect("speechless=").mkDir("d");
+}
+
+TEST_F(zvFSClientTest, WithoutAConnectionOperationsReachJava) {
+    const std::string script = "throw.connect=java.io.IOException refused\nexists=there\nlist=x|y z\n";
+    EXPECT_THROW(Client::getInstance(configuration(script).c_str()), zvException);
+    Client& client = *Client::getInstance();
+    forget();
+    for (const Operation& operation : operations) {
+        EXPECT_TRUE(operation.invoke(client));
+        EXPECT_EQ(calls(), Lines{operation.call});
+        EXPECT_EQ(clientLines(), (Lines{"info: " + operation.started, "info: " + operation.finished}));
+        forget();
+    }
+    Client::destroyInstance();
+    EXPECT_TRUE(calls().empty() && clientLines().empty());
 }
 
 TEST_F(zvFSClientTest, AMissingJavaClientIsAnException) {

@@ -5,12 +5,14 @@
 namespace {
 
 int allocationsLeft = -1;
+bool failsOnce = false;
 bool failed = false;
 long livingAllocations = 0;
 
 void* take(std::size_t size) {
     if (allocationsLeft == 0) {
         failed = true;
+        allocationsLeft = failsOnce ? -1 : 0;
         return nullptr;
     }
     if (allocationsLeft > 0) {
@@ -33,7 +35,13 @@ namespace zvFaultyMemory {
 
 void allow(int allocations) {
     allocationsLeft = allocations;
+    failsOnce = false;
     failed = false;
+}
+
+void failOnceAfter(int allocations) {
+    allow(allocations);
+    failsOnce = true;
 }
 
 bool hasFailed() { return failed; }

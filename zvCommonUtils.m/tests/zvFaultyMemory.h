@@ -10,7 +10,9 @@ namespace zvFaultyMemory {
 
 /// Sets the number of allocations that succeed before all others fail; negative: none fails.
 void allow(int allocations);
-/// Whether an allocation has failed since allow().
+/// Sets the number of allocations that succeed before a single one fails.
+void failOnceAfter(int allocations);
+/// Whether an allocation has failed since allow() or failOnceAfter().
 bool hasFailed();
 /// The number of live allocations.
 long living();

@@ -5,6 +5,7 @@
 #include "zvLogSource.h"
 #include "zvPlatform.h"
 #include "zvRecordingLogger.h"
+#include "zvTestLocale.h"
 #include "zvTestSupport.h"
 
 namespace {
@@ -39,6 +40,20 @@ TEST_F(zvLoggerTest, PrefixesTheFileName) {
         EXPECT_EQ(event.message, c.expected);
         EXPECT_EQ(event.file, c.file == nullptr ? "" : c.file);
         EXPECT_EQ(event.line, 5);
+    }
+}
+
+TEST_F(zvLoggerTest, PrefixesTheFileNameInEveryEncoding) {
+    for (const zvTestEncoding& encoding : zvTestEncodings) {
+        const zvTestLocale locale(encoding.definition, encoding.encoding);
+        if (!locale.isSet()) {
+            GTEST_SKIP() << "the locale " << encoding.definition << " in " << encoding.encoding;
+        }
+        const std::string name = std::string(encoding.character) + "f.cpp";
+        zvLogger::getInstance()->logInfo("x", ("C:\\a" + name + "\\" + name).c_str(), 5);
+        EXPECT_EQ(zvRecordingLogger::events().back().message, name + "[5] x") << encoding.encoding;
+        zvLogger::getInstance()->logInfo("x", name.c_str(), 5);
+        EXPECT_EQ(zvRecordingLogger::events().back().message, "x") << encoding.encoding;
     }
 }
 

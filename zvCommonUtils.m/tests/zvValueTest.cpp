@@ -1,5 +1,6 @@
 #include "zvValue.h"
 
+#include <cfloat>
 #include <climits>
 #include <cmath>
 #include <string>
@@ -100,6 +101,26 @@ TEST(zvValueTest, IsSetFromText) {
         EXPECT_EQ(value.getValue(), c.value) << c.text;
         EXPECT_EQ(value.getDataType(), c.expectedType) << c.text;
     }
+}
+
+TEST(zvValueTest, AFloatTextIsRoundedToTheNearestFloat) {
+    struct Case {
+        const char* text;
+        float expected;
+    };
+    const Case cases[] = {{"3.4028234e38", FLT_MAX},
+                          {"3.4028235e38", FLT_MAX},
+                          {"-3.4028235e38", -FLT_MAX},
+                          {"340282356779733e24", FLT_MAX},
+                          {"340282356779734e24", INFINITY},
+                          {"-3.4028236e38", -INFINITY},
+                          {"-1e300", -INFINITY},
+                          {"0.1", 0.1F}};
+    for (const Case& c : cases) {
+        EXPECT_EQ(zvValue(c.text, zvDataTypeFloat, 3).getFloatValue(), c.expected) << c.text;
+        EXPECT_EQ(text(c.text).getFloatValue(), c.expected) << c.text;
+    }
+    EXPECT_TRUE(std::isnan(text("nan").getFloatValue()));
 }
 
 TEST(zvValueTest, ConvertsOnReading) {

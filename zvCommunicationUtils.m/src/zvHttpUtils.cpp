@@ -2,11 +2,14 @@
 
 #include <curl/curl.h>
 
-#include "zvDirFileUtils.h"
+#include <fstream>
+#include <memory>
+#include <string>
+
 #include "zvGatewayHome.h"
 #include "zvLogSource.h"
+#include "zvPath.h"
 #include "zvPlatform.h"
-#include "zvProperties.h"
 #include "zvUtf8.h"
 
 namespace {
@@ -16,15 +19,12 @@ constexpr zvLogSource logger("zvCommunicationUtils.m/src/zvHttpUtils");
 constexpr int longestTimeout = 86400;
 constexpr long firstErrorStatus = 400;
 
-std::shared_ptr<void> initializeLibrary() {
+void initializeLibrary() {
     const CURLcode code = curl_global_init(CURL_GLOBAL_ALL);
     if (code != CURLE_OK) {
         logger.error("Following error occurred while initializing the LIBCURL library : \"",
                      static_cast<int>(code), "\" -", curl_easy_strerror(code));
-        return nullptr;
     }
-    // libcurl's state has no handle, so only the deleter matters.
-    return {nullptr, [](void*) { curl_global_cleanup(); }};
 }
 
 std::size_t discard(char*, std::size_t size, std::size_t count, void*) { return size * count; }
@@ -65,19 +65,36 @@ void setSink(Transfer& transfer, WriteMemoryCallbackWrapper* sink) {
     transfer.set(CURLOPT_WRITEDATA, sink);
 }
 
-// Overwrites `seconds` if the property is set and valid.
-void readSeconds(const zvProperties& properties, const char* key, long& seconds) {
-    zvString text = properties.getPropertyValue(key);
-    if (text.empty()) {
+// A number of seconds in the client configuration, of which the first line with the key counts.
+struct Seconds {
+    std::string key;
+    long& value;
+    bool isRead = false;
+};
+
+// A line that is no property ends the reading of a properties file.
+bool isProperty(const std::string& line) {
+    const std::size_t separator = line.find('=');
+    const bool isComment = line.empty() || line.front() == '#';
+    return isComment || (separator != std::string::npos && separator > 0 && separator + 1 < line.size());
+}
+
+// Overwrites `seconds` if the line has the key and a valid value.
+void readSeconds(const std::string& line, Seconds& seconds) {
+    const std::size_t separator = seconds.key.size();
+    if (seconds.isRead || line.compare(0, separator, seconds.key) != 0 || line[separator] != '=') {
         return;
     }
+    seconds.isRead = true;
+    zvString text = line.substr(separator + 1).c_str();
     text.trim();
     const int number = zvString::convertUnicodeToInt(text);
     if (number >= 1 && number <= longestTimeout && zvString(number) == text) {
-        seconds = number;
+        seconds.value = number;
     } else {
-        logger.warn("\"", text, "\" is no number of seconds from 1 to ", longestTimeout, ": \"", key,
-                    "\" of the file \"client-config.ini\" stays ", static_cast<int>(seconds));
+        logger.warn("\"", text, "\" is no number of seconds from 1 to ", longestTimeout, ": \"",
+                    seconds.key.c_str(), "\" of the file \"client-config.ini\" stays ",
+                    static_cast<int>(seconds.value));
     }
 }
 
@@ -98,19 +115,33 @@ zvResult outcome(CURLcode code, long status) {
 
 }  // namespace
 
-zvHttpUtils::zvHttpUtils() : m_pLibrary(initializeLibrary()) { readTimeouts(); }
+zvHttpUtils::zvHttpUtils() { initializeLibrary(); }
 
-// A missing home, file or key is not logged: the defaults apply.
+zvHttpUtils::zvHttpUtils(const zvHttpUtils& other)
+    : zvCommunicationUtils(other),
+      m_bTimeoutsAreRead(other.m_bTimeoutsAreRead),
+      m_connectSeconds(other.m_connectSeconds),
+      m_stallSeconds(other.m_stallSeconds) {
+    initializeLibrary();
+}
+
+zvHttpUtils::~zvHttpUtils() { curl_global_cleanup(); }
+
+// Not with zvProperties, which logs what it reads: only a wrong value is worth a line. A missing home, file
+// or key means the defaults.
 void zvHttpUtils::readTimeouts() {
+    m_bTimeoutsAreRead = true;
     const zvString home = zvGatewayHome::readEnvironment(zvGatewayHome::getEnvVariable());
     if (home.empty()) {
         return;
     }
-    const zvString path = zvGatewayHome::configFile(home, "client-config.ini");
-    zvProperties properties;
-    if (zvDirFileUtils::isAccessible(path, zvPlatform::existence) && properties.parse(path).isOk()) {
-        readSeconds(properties, "http-connect-timeout", m_connectSeconds);
-        readSeconds(properties, "http-stall-timeout", m_stallSeconds);
+    const std::string path = zvPath::native(zvGatewayHome::configFile(home, "client-config.ini"));
+    std::ifstream file(zvPlatform::pathOf(path));
+    Seconds timeouts[] = {{"http-connect-timeout", m_connectSeconds}, {"http-stall-timeout", m_stallSeconds}};
+    for (std::string line; std::getline(file, line) && isProperty(line);) {
+        for (Seconds& timeout : timeouts) {
+            readSeconds(line, timeout);
+        }
     }
 }
 
@@ -124,6 +155,9 @@ zvFormBody zvHttpUtils::computeHttpRequestArgs(const zvEventArguments& args) con
 
 zvResult zvHttpUtils::request(const zvString& url, const zvEventArguments& args,
                               WriteMemoryCallbackWrapper* sink) {
+    if (!m_bTimeoutsAreRead) {
+        readTimeouts();
+    }
     logger.debug(
         "Inside function zvHttpUtils::request(zvString,zvEventArguments,WriteMemoryCallbackWrapper*)");
     zvResult result = post(url, args, sink);

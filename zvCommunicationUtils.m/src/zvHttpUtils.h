@@ -1,14 +1,18 @@
 #ifndef ZV_HTTP_UTILS_H
 #define ZV_HTTP_UTILS_H
 
-#include <memory>
-
 #include "zvCommunicationUtils.h"
 #include "zvFormBody.h"
 
 /// Posts event arguments as a form with libcurl. Created by zvCommunicationFactory only.
+///
+/// libcurl counts its users: each object is one from its creation to its destruction, also as a copy.
 class zvHttpUtils : public zvCommunicationUtils {
 public:
+    zvHttpUtils(const zvHttpUtils& other);
+    zvHttpUtils& operator=(const zvHttpUtils& other) = default;
+    ~zvHttpUtils() override;
+
     zvResult request(const zvString& url, const zvEventArguments& args,
                      WriteMemoryCallbackWrapper* sink) override;
     void queryResponse() override;
@@ -22,8 +26,7 @@ private:
     zvFormBody computeHttpRequestArgs(const zvEventArguments& args) const;
     zvResult post(const zvString& url, const zvEventArguments& args, WriteMemoryCallbackWrapper* sink) const;
 
-    // libcurl's global state, shared by copies: cleaned up after the last of them.
-    std::shared_ptr<void> m_pLibrary;
+    bool m_bTimeoutsAreRead = false;
     long m_connectSeconds = 30;
     long m_stallSeconds = 60;
 };

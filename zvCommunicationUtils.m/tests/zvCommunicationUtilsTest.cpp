@@ -60,6 +60,9 @@ TEST_F(zvCommunicationUtilsTest, AnswersAreReportedByTheirStatus) {
 }
 
 TEST_F(zvCommunicationUtilsTest, TheLogFollowsARequestStepByStep) {
+    // What is read for a request is not told.
+    m_folder.write("config/client-config.ini",
+                   "local-server-url=x\nhttp-stall-timeout=5\nno value\nhttp-connect-timeout=0\n");
     const auto utils = create();
     utils->request("", m_args, nullptr);
     utils->queryResponse();
@@ -287,9 +290,12 @@ TEST_F(zvCommunicationUtilsTest, AServerThatNeverAnswersIsGivenUp) {
 TEST_F(zvCommunicationUtilsTest, NonsenseTimeoutsAreWarnedOfOncePerUtility) {
     for (const char* const nonsense : {"0", "-1", "soon", "1e3", "30s", "86401", "99999999999", " "}) {
         m_folder.write("config/client-config.ini",
-                       std::string("http-connect-timeout=") + nonsense + "\nhttp-stall-timeout=86400\n");
+                       std::string("http-connect-timeout=") + nonsense +
+                           "\nhttp-stall-timeout=86400\nhttp-connect-timeout=worse\n");
         zvRecordingLogger::reset();
         const auto utils = create();
+        EXPECT_TRUE(lines("warn").empty()) << "nothing is read before it is needed";
+        utils->request("", m_args, nullptr);
         utils->request("", m_args, nullptr);
         ASSERT_EQ(lines("warn").size(), 1u) << nonsense;
         EXPECT_NE(

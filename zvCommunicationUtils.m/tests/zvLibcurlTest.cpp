@@ -72,6 +72,7 @@ TEST_F(zvLibcurlTest, ALibcurlThatCannotStartIsLogged) {
     EXPECT_EQ(lines("error"),
               (std::vector<std::string>{"Following error occurred while initializing the LIBCURL library : "
                                         "\"2\" -Failed initialization"}));
+    utils.reset();
     utils = create();
     zvRecordingLogger::reset();
     refusesMemory = true;

@@ -70,9 +70,10 @@ class Reader {
 public:
     explicit Reader(const zvString& text) : m_text(text), m_pUnits(text.data()), m_end(text.size()) {}
 
-    zvCndCondition read() {
+    Reading read() {
         try {
-            return readAll();
+            zvCndCondition condition = readAll();
+            return {std::move(condition), isComplete() ? m_text.size() : m_incompleteFrom};
         } catch (zvException& failure) {
             zvResult result = failure.getResult();
             result.setAdditionalInformation(zvString(faultPosition()));
@@ -173,7 +174,17 @@ private:
 
     int positionOf(const wchar16* unit) const { return static_cast<int>(unit - m_pUnits); }
 
+    // Whether every operand and comparison operator so far belongs to a comparison.
+    bool isComplete() const { return m_leftText.empty() && m_pendingType == zvCndConditionNone; }
+
+    void beginPart(int position) {
+        if (isComplete()) {
+            m_incompleteFrom = position;
+        }
+    }
+
     void finishOperand(zvString text, zvOperandValueTypeEnum valueType, const wchar16* last) {
+        beginPart(m_position);
         m_position = positionOf(last);
         addOperand(std::move(text), valueType, m_leftText, m_leftOperand, m_pendingType, m_conditions);
     }
@@ -196,6 +207,7 @@ private:
             failOperator();
         }
         if (made->isComparison()) {
+            beginPart(m_position);
             m_pendingType = made->type;
         } else {
             applyCloserOperators(made->precedence, m_operators, m_conditions);
@@ -229,6 +241,7 @@ private:
     const zvString& m_text;
     const wchar16* m_pUnits;
     int m_position = 0;
+    int m_incompleteFrom = 0;
     int m_end;  // without the white space at the end
     zvString m_leftText;
     zvCndOperand m_leftOperand;
@@ -247,6 +260,9 @@ int operatorEnd(const zvString& text, int begin) {
     return end;
 }
 
-zvCndCondition read(const zvString& text) { return Reader(text).read(); }
+Reading read(const zvString& text) {
+    logger.info("zvCndParsingUtils::createConditionStructure - ", text);
+    return Reader(text).read();
+}
 
 }  // namespace zvCndConditionReader

@@ -7,9 +7,16 @@
 /// Reads the texts of conditions.
 namespace zvCndConditionReader {
 
-/// Logged and thrown as a zvException: a text that is no condition. The additional information of its result
-/// is the decimal position at which the fault was noticed.
-zvCndCondition read(const zvString& text);
+/// A condition that was read, and the position in its text from which on the rest is ignored: an operand or a
+/// comparison operator that belongs to no comparison. The text's length when nothing is ignored.
+struct Reading {
+    zvCndCondition condition;
+    int end;
+};
+
+/// Logs the text, and logs and throws as a zvException: a text that is no condition. The additional
+/// information of its result is the decimal position at which the fault was noticed.
+Reading read(const zvString& text);
 
 /// The position after the longest run of operator characters from `begin` on.
 int operatorEnd(const zvString& text, int begin);

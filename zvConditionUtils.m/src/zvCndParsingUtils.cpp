@@ -54,8 +54,7 @@ zvCndParsingUtils::~zvCndParsingUtils() = default;
 zvCndParsingUtils& zvCndParsingUtils::operator=(const zvCndParsingUtils&) = default;
 
 zvCndCondition zvCndParsingUtils::createConditionStructure(const zvString& text) {
-    logger.info("zvCndParsingUtils::createConditionStructure - ", text);
-    return zvCndConditionReader::read(text);
+    return zvCndConditionReader::read(text).condition;
 }
 
 zvString zvCndParsingUtils::findCndOperator(const zvString& text, int& position) {

@@ -1,5 +1,7 @@
 #include "zvCfgFileConfig.h"
 
+#include <algorithm>
+
 #include "zvLogSource.h"
 
 namespace {
@@ -16,14 +18,14 @@ void addTo(zvCfgTypeIndex<zvCfgFileList>& index, const zvString& type, zvCfgFile
 
 void zvCfgExtensionList::add(const zvString& name) {
     m_names.addString(name);
-    zvString lowered = name;
-    lowered.toLower();
-    m_lowered.insert(lowered);
+    m_distinct.insert(name);
 }
 
-bool zvCfgExtensionList::has(zvString name) const {
-    name.toLower();
-    return m_lowered.count(name) != 0;
+// Not by the names in lower case: what that is may have changed with the locale since they were added.
+bool zvCfgExtensionList::has(const zvString& name) const {
+    return m_distinct.count(name) != 0 ||
+           std::any_of(m_distinct.begin(), m_distinct.end(),
+                       [&name](const zvString& known) { return known.equalsIgnoreCase(name); });
 }
 
 void zvCfgFileConfig::add(zvCfgFile* file) {

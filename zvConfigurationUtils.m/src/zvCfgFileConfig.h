@@ -12,12 +12,12 @@
 class ZV_EXPORT zvCfgExtensionList {
 public:
     void add(const zvString& name);
-    bool has(zvString name) const;
+    bool has(const zvString& name) const;
     const zvStringList& names() const { return m_names; }
 
 private:
     zvStringList m_names;
-    std::set<zvString> m_lowered;
+    std::set<zvString> m_distinct;
 };
 
 /// The index of the mapped file types, which zvCfgObjectConfig owns.

@@ -102,7 +102,9 @@ zvResult zvCfgMgrXmlParser::parseDocument(const zvString& source, bool isFile) {
 
 zvString zvCfgMgrXmlParser::parsePdmSystemName() {
     zvString name;
-    static_cast<void>(m_pParser->getAttribute("PdmSystemName", name));
+    if (m_pParser != nullptr) {
+        static_cast<void>(m_pParser->getAttribute("PdmSystemName", name));
+    }
     return name;
 }
 

@@ -5,7 +5,7 @@
 
 #include "zvCfgConfigManager.h"
 #include "zvCfgFindings.h"
-#include "zvCndParsingUtils.h"
+#include "zvCndConditionReader.h"
 #include "zvDataTypeWords.h"
 #include "zvLogSource.h"
 #include "zvXMLElement.h"
@@ -15,6 +15,8 @@ namespace {
 constexpr zvLogSource logger("zvConfigurationUtils.m/src/zvCfgObjectXmlParser");
 
 using View = zvXMLElement::View;
+
+constexpr char unusedAttribute[] = "an attribute without LocalName, RemoteName and Key is never used";
 
 zvString toString(View text) { return {text.data(), static_cast<int>(text.size())}; }
 
@@ -148,6 +150,12 @@ private:
     }
 
     void addAttribute(const zvXMLElement& element, zvCfgObject& object) const {
+        if (element.node()->getAttributes()->getLength() == 0) {
+            logger.error("Error occured while parsing attribute of Object with LocalCustType : ",
+                         object.getLocalCustomType());
+            m_findings.error(zvFindingKind::missingName, element, object, zvString(), unusedAttribute);
+            return;
+        }
         zvCfgAttribute* const attribute = parseAttribute(element).release();
         attribute->setPosition(m_findings.positionOf(element));
         const zvString taken = m_findings.areWanted() ? namesTaken(*attribute, object) : zvString();
@@ -161,8 +169,7 @@ private:
                               zvFindingKind::duplicateName, element, object, attribute->anyName(),
                               "an earlier attribute has the same ", taken);
         } else if (!isAdded) {
-            m_findings.error(zvFindingKind::missingName, element, object, zvString(),
-                             "an attribute without LocalName, RemoteName and Key is never used");
+            m_findings.error(zvFindingKind::missingName, element, object, zvString(), unusedAttribute);
         }
     }
 
@@ -203,7 +210,13 @@ private:
             return;
         }
         try {
-            object.setMappingRule(zvCndParsingUtils::createConditionStructure(rule));
+            const zvCndConditionReader::Reading reading = zvCndConditionReader::read(rule);
+            object.setMappingRule(reading.condition);
+            if (reading.end < rule.size()) {
+                m_findings.warning(zvFindingKind::ignoredText, element, object, zvString(),
+                                   "the mapping rule is complete before its character ", reading.end + 1,
+                                   ": what follows is ignored");
+            }
         } catch (const zvException& exception) {
             const zvResult result = exception.getResult();
             const int character = zvString::convertUnicodeToInt(result.getAdditionalInformation());

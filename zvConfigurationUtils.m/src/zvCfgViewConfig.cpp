@@ -1,5 +1,7 @@
 #include "zvCfgViewConfig.h"
 
+#include <algorithm>
+
 #include "zvLogSource.h"
 #include "zvMapIndex.h"
 
@@ -35,7 +37,10 @@ bool zvCfgViewConfig::addToCollection(zvCfgView* view) {
     }
     const auto [entry, isNew] = m_collections.try_emplace(name);
     if (isNew) {
-        m_collectionNames.push_back(&entry->first);
+        const auto isBefore = [](const zvString* left, const zvString* right) { return *left < *right; };
+        m_collectionNames.insert(
+            std::lower_bound(m_collectionNames.begin(), m_collectionNames.end(), &entry->first, isBefore),
+            &entry->first);
     }
     Collection& collection = entry->second;
     collection.views.add(view);

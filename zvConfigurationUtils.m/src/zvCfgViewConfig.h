@@ -36,7 +36,7 @@ private:
     Index m_byLocalName;
     Index m_byRemoteName;
     std::map<zvString, Collection> m_collections;
-    std::vector<const zvString*> m_collectionNames;  // the map's keys
+    std::vector<const zvString*> m_collectionNames;  // the map's keys, in their order
     zvCfgOwner<zvCfgView> m_views;
 };
 

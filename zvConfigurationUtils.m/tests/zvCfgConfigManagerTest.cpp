@@ -1,6 +1,9 @@
 #include "zvCfgConfigManager.h"
 
+#include <clocale>
+
 #include "zvConfigurationTestSupport.h"
+#include "zvPlatform.h"
 
 namespace {
 
@@ -51,6 +54,24 @@ TEST_F(zvCfgConfigManagerTest, EverythingIsDeletedOnceWithIt) {
     EXPECT_EQ(objects, 2);
     EXPECT_EQ(attributes, 2);
     EXPECT_EQ(extensions, 2);
+}
+
+TEST_F(zvCfgConfigManagerTest, ExtensionsAreComparedInTheLocaleOfTheQuestion) {
+    const zvString upper(u"\u00C4\u0416B");
+    const zvString lower(u"\u00E4\u0436b");
+    std::setlocale(LC_ALL, "C");
+    auto* const file = new zvCfgFile;
+    auto* const made = new zvCfgFileExtension;
+    made->setName(upper);
+    made->setImportAllowed(true);
+    made->setExportAllowed(true);
+    EXPECT_TRUE(file->addFileExtension(made));
+    EXPECT_TRUE(manager().addFile(file));
+    EXPECT_EQ(manager().isFileAllowedForImport(lower), upper.equalsIgnoreCase(lower));
+    zvPlatform::adoptUserLocale();
+    EXPECT_EQ(manager().isFileAllowedForImport(lower), upper.equalsIgnoreCase(lower));
+    EXPECT_EQ(manager().isFileAllowedForExport(lower), upper.equalsIgnoreCase(lower));
+    EXPECT_TRUE(!localeIsUtf8() || upper.equalsIgnoreCase(lower));
 }
 
 TEST_F(zvCfgConfigManagerTest, ExtensionsAreListedForEveryFileThatAllowsThem) {

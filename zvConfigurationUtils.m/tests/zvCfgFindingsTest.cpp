@@ -105,6 +105,31 @@ TEST_F(zvCfgFindingsTest, AnInvalidRuleEndsTheParseOrLeavesOutItsObject) {
     EXPECT_EQ(manager().getObjectAt(1)->getPosition().line, 6);
 }
 
+TEST_F(zvCfgFindingsTest, TextAfterACompleteRuleIsAWarning) {
+    const std::pair<const char*, int> rules[] = {{"{a} = '1'", 0},
+                                                 {" {a} = '1' ", 0},
+                                                 {"({a} = '1') AND NOT {b} = '{c}'", 0},
+                                                 {"{a} = '1' {b}", 11},
+                                                 {"{a} = '1' AND {b} = '2' = {c}", 25},
+                                                 {" {a} = '1'  'b' = ", 13},
+                                                 {"({a} = '1' {b}) ", 12},
+                                                 {"{a} = '1' &gt;", 11}};
+    for (const auto& [rule, character] : rules) {
+        EXPECT_TRUE(parse(inSections("<ObjectConfig>\n<Object LocalCustType='T'><MappingRule>" +
+                                     std::string(rule) + "</MappingRule></Object></ObjectConfig>"))
+                        .isOk())
+            << rule;
+        EXPECT_EQ(m_findings.lines,
+                  character == 0 ? Lines{} : Lines{"4:27 warning ignored-text object \"T\" -> \"\"|"})
+            << rule;
+        EXPECT_EQ(m_findings.texts, character == 0
+                                        ? Lines{}
+                                        : Lines{"the mapping rule is complete before its character " +
+                                                std::to_string(character) + ": what follows is ignored"})
+            << rule;
+    }
+}
+
 TEST_F(zvCfgFindingsTest, PartsKnowTheirPlaceForThoseWhoAskOnly) {
     const std::string document = inSections(
         "<ObjectConfig>\n <Object>\n<Attribute LocalName='a'/></Object></ObjectConfig>\n"

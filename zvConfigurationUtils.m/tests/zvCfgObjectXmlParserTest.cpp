@@ -40,6 +40,8 @@ TEST_F(zvCfgObjectXmlParserTest, ErrorsAreLoggedAndSkipped) {
         {object("<Attribute DataType='Float'/>"),
          {"warn: The attribute doesn't have any RemoteName or LocalName or Key!",
           "error: Attribute  of Object with LocalCustType : T cannot be added"}},
+        {object("<Attribute/>"),
+         {"error: Error occured while parsing attribute of Object with LocalCustType : T"}},
         {object("<Attribute LocalName='a'/><Attribute LocalName='a'/>"),
          {"warn: Attribute with Local Name : a cannot be added to the object of local custom type : T",
           "error: Attribute a of Object with LocalCustType : T cannot be added"}},
@@ -75,7 +77,7 @@ TEST_F(zvCfgObjectXmlParserTest, AttributesComeBeforeRulesAndRulesBeforeExtensio
     ASSERT_TRUE(parseObjects("<FileObject LocalCustType='F'>"
                              "<AllowedExtns><Extn Name='e'/></AllowedExtns>"
                              "<MappingRule>{a} = '1'</MappingRule>"
-                             "<MappingRule> {b} &lt;= '2' <!-- of two texts the first --> AND </MappingRule>"
+                             "<MappingRule> {b}<!-- at most --> &lt;= <![CDATA['2']]></MappingRule>"
                              "<MappingRule> </MappingRule>"
                              "<Attribute DataType='Date'/></FileObject>")
                     .isOk());
@@ -85,7 +87,7 @@ TEST_F(zvCfgObjectXmlParserTest, AttributesComeBeforeRulesAndRulesBeforeExtensio
                             "warn: The attribute doesn't have any RemoteName or LocalName or Key!",
                             "error: Attribute  of Object with LocalCustType : F cannot be added",
                             "info: zvCndParsingUtils::createConditionStructure - {a} = '1'",
-                            "info: zvCndParsingUtils::createConditionStructure -  {b} <= '2' ",
+                            "info: zvCndParsingUtils::createConditionStructure -  {b} <= '2'",
                             "debug: Inside function zvCfgObjectXmlParser::parseFileExtensions",
                             "warn: Attribute \"TransferMode\" not provided with the Extn",
                             "info: Configuration file parsing succeeded"};
@@ -99,6 +101,22 @@ TEST_F(zvCfgObjectXmlParserTest, AttributesComeBeforeRulesAndRulesBeforeExtensio
     EXPECT_EQ(zvCndParsingUtils::createConditionString(manager().getObjectAt(0)->getMappingRule()),
               "{b} <= '2'")
         << "the last rule with a text counts";
+}
+
+TEST_F(zvCfgObjectXmlParserTest, ARuleIsAllCharacterDataOfItsElement) {
+    const std::string rules[] = {"{a} = '1' OR {b} = '2'",
+                                 "<![CDATA[{a} = '1' OR {b} = '2']]>",
+                                 "{a} = <!-- x -->'1' OR {b} = '2'",
+                                 "<!-- x -->{a} = '1<?x?>' OR {b} = '2'",
+                                 "{a} = '1' <![CDATA[OR]]> {b}<![CDATA[ = '2']]>",
+                                 "{a} = '&#49;' OR <x> {c} = '3' AND </x>{b} = '2'"};
+    for (const std::string& rule : rules) {
+        zvCfgConfigManager::destroyCfgConfigManager();
+        ASSERT_TRUE(parseObjects("<Object><MappingRule>" + rule + "</MappingRule></Object>").isOk()) << rule;
+        EXPECT_EQ(zvCndParsingUtils::createConditionString(manager().getObjectAt(0)->getMappingRule()),
+                  " ( {b} = '2' ) OR ( {a} = '1' ) ")
+            << rule;
+    }
 }
 
 TEST_F(zvCfgObjectXmlParserTest, ValuesAreTakenAsTheyAre) {
@@ -179,7 +197,14 @@ TEST_F(zvCfgObjectXmlParserTest, FilesAreNamedWhenTheyCannotBeRead) {
     }
 }
 
+// Gives programs the step that reads the system's name.
+class NameReader : public zvCfgMgrXmlParser {
+public:
+    using zvCfgMgrXmlParser::parsePdmSystemName;
+};
+
 TEST_F(zvCfgObjectXmlParserTest, TheSystemNameIsThatOfTheLastParse) {
+    EXPECT_TRUE(NameReader().parsePdmSystemName().empty()) << "no document";
     zvCfgMgrXmlParser parser;
     EXPECT_TRUE(
         parser.parse("<CustomizationConfig PdmSystemName='P'><X/></CustomizationConfig>", false).isOk());

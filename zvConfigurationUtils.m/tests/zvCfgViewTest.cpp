@@ -46,6 +46,20 @@ TEST_F(zvCfgViewTest, ViewsAreRefusedByNameAndStayFoundByTheRest) {
     EXPECT_EQ(deleted, 5);
 }
 
+TEST_F(zvCfgViewTest, CollectionsAreIndexedInKeyOrder) {
+    for (const char* const name : {"m", "z", "a", "z", "B"}) {
+        auto* const view = new zvCfgView;
+        view->setNetworkName(name);
+        manager().addView(view);
+    }
+    Lines names;
+    for (int i = 0; i < manager().numViewCollections(); ++i) {
+        names.push_back(narrow(manager().getViewCollectionAt(i)));
+    }
+    EXPECT_EQ(names, (Lines{"B", "a", "m", "z"}));
+    EXPECT_TRUE(manager().getViewCollectionAt(-1).empty() && manager().getViewCollectionAt(4).empty());
+}
+
 TEST_F(zvCfgViewTest, TheSectionIsReadUpToTheFirstError) {
     const zvResult result = parse(
         "<ViewConfig><ViewCollection Name='E'><View LocalName='a' RemoteName='A'/><Other/>"

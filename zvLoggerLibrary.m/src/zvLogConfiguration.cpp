@@ -33,7 +33,7 @@ LogString decode(std::string_view text) {
 
 // The part after the last separator. log4cxx's own function does not handle a missing separator.
 const char* shortName(const char* file) {
-    const std::size_t separator = std::string_view(file).find_last_of("/\\");
+    const std::size_t separator = zvTextCodec::lastSeparator(file);
     return separator == std::string_view::npos ? file : file + separator + 1;
 }
 

@@ -51,10 +51,11 @@ struct CloseFile {
 using File = std::unique_ptr<std::FILE, CloseFile>;
 /// Opens a file for reading as text; null for a directory and on failure.
 File openForReading(const char* path);
-/// Deletes one file.
+/// Deletes one file; refuses a directory.
 bool removeFile(const char* path);
 /// Runs "rmdir /s/q" with `arguments`, which are appended as they are: a blank, then paths separated by
-/// blanks, optionally in double quotes.
+/// blanks, optionally in double quotes. Where the system has no such command, a path that ends in "." or ".."
+/// is refused.
 /// @return true if every path was a directory and has been removed.
 bool removeTree(const char* arguments);
 

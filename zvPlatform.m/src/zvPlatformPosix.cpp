@@ -37,6 +37,14 @@ bool succeeded(bool success) {
 constexpr mode_t directoryMode = 0777;
 constexpr mode_t fileMode = 0666;
 
+void turnSeparators(std::string& path) {
+    std::size_t at = zvTextCodec::nextSeparator(path, 0);
+    while (at != std::string::npos) {
+        path[at] = '/';
+        at = zvTextCodec::nextSeparator(path, at + 1);
+    }
+}
+
 // Empty, with errno set, for a path that cannot be encoded in the locale: no system call accepts an empty
 // path.
 std::string nativePath(const wchar16* path) {
@@ -51,7 +59,7 @@ std::string nativePath(const wchar16* path) {
     }
     std::string narrow(bytes, '\0');
     zvTextCodec::narrow(path, length, narrow.data());
-    std::replace(narrow.begin(), narrow.end(), '\\', '/');
+    turnSeparators(narrow);
     return narrow;
 }
 
@@ -78,15 +86,17 @@ std::vector<std::string> splitArguments(const char* arguments) {
     return paths;
 }
 
-// A symlink to a directory is removed itself; its target stays.
+// A symlink to a directory is removed itself; its target stays. A path that ends in "." or ".." is refused:
+// the system would empty that folder, and then not remove it.
 bool removeDirectory(const std::string& path) {
     std::error_code error;
-    if (!std::filesystem::is_directory(path, error)) {
-        return false;
-    }
     std::filesystem::path directory(path);
     if (!directory.has_filename()) {
         directory = directory.parent_path();
+    }
+    if (directory.filename() == "." || directory.filename() == ".." ||
+        !std::filesystem::is_directory(path, error)) {
+        return false;
     }
     std::filesystem::remove_all(directory, error);
     return !error;
@@ -96,7 +106,7 @@ bool removeDirectory(const std::string& path) {
 
 std::string nativePath(const char* path) {
     std::string native(path);
-    std::replace(native.begin(), native.end(), '\\', '/');
+    turnSeparators(native);
     return native;
 }
 
@@ -144,7 +154,7 @@ File openForReading(const char* path) {
     return isDirectory ? nullptr : std::move(file);
 }
 
-bool removeFile(const char* path) { return std::remove(nativePath(path).c_str()) == 0; }
+bool removeFile(const char* path) { return ::unlink(nativePath(path).c_str()) == 0; }
 
 bool removeTree(const char* arguments) {
     if (*arguments != ' ' && *arguments != '\t') {

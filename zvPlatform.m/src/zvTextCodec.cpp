@@ -282,4 +282,34 @@ std::size_t fromUtf8(const char* text, wchar16* out) {
     return decodeUtf8(text, [&](wchar16 unit) { out[units++] = unit; }) ? units : unconvertible;
 }
 
+std::size_t nextSeparator(std::string_view path, std::size_t from) {
+    std::size_t at = from;
+    while (at < path.size()) {
+        const char first = path[at];
+        if (first == '\\' || first == '/') {
+            return at;
+        }
+        std::size_t bytes = 1;
+        if (static_cast<unsigned char>(first) >= 0x80U) {
+            std::mbstate_t state{};
+            const std::size_t used = std::mbrlen(path.data() + at, path.size() - at, &state);
+            bytes = used > path.size() - at ? 1 : std::max<std::size_t>(used, 1);
+        }
+        at += bytes;
+    }
+    return std::string_view::npos;
+}
+
+std::size_t lastSeparator(std::string_view path) {
+    if (isAscii(path.data(), path.size())) {
+        return path.find_last_of("\\/");
+    }
+    std::size_t last = std::string_view::npos;
+    for (std::size_t at = nextSeparator(path, 0); at != std::string_view::npos;
+         at = nextSeparator(path, at + 1)) {
+        last = at;
+    }
+    return last;
+}
+
 }  // namespace zvTextCodec

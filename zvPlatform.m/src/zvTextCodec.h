@@ -2,6 +2,7 @@
 #define ZV_TEXT_CODEC_H
 
 #include <cstddef>
+#include <string_view>
 #include <type_traits>
 
 #include "zvTypes.h"
@@ -51,6 +52,12 @@ std::size_t toUtf8(const wchar16* text, std::size_t length, char* out);
 /// Converts null-terminated UTF-8, whatever the locale: at most one code unit per byte, without a terminator.
 /// @return the number of code units written; `unconvertible`, with `out` partly written, if it is malformed.
 std::size_t fromUtf8(const char* text, wchar16* out);
+
+/// The position of the first "\\" or "/" of a narrow path, from `from` on, where a character begins; npos if
+/// there is none. Told by characters, because some encodings have the byte of "\\" inside other characters.
+std::size_t nextSeparator(std::string_view path, std::size_t from);
+/// The same for the last one.
+std::size_t lastSeparator(std::string_view path);
 
 }  // namespace zvTextCodec
 

@@ -51,11 +51,20 @@ public:
                    : attribute.getNodeValue();
     }
 
-    /// The value of the first text node among the children; empty if there is none.
+    /// The character data among the children, CDATA sections included; empty if there is none.
     zvString text() const {
-        const xercesc::DOMNode* const text =
-            zvXMLWalk::firstOf(xercesc::DOMNode::TEXT_NODE, m_pElement->getFirstChild());
-        return text == nullptr ? zvString() : zvXMLText::toString(text->getNodeValue());
+        const auto isCharacterData = [](const xercesc::DOMNode& node) {
+            return node.getNodeType() == xercesc::DOMNode::TEXT_NODE ||
+                   node.getNodeType() == xercesc::DOMNode::CDATA_SECTION_NODE;
+        };
+        zvString text;
+        const xercesc::DOMNode* child = m_pElement->getFirstChild();
+        for (; child != nullptr; child = child->getNextSibling()) {
+            if (isCharacterData(*child)) {
+                text += zvXMLText::toString(child->getNodeValue());
+            }
+        }
+        return text;
     }
 
 private:

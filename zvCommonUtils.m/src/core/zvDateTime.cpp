@@ -131,13 +131,15 @@ zvString zvDateTime::getDateTime(const zvString& format, const zvString& dateSep
     int count = 0;
     bool hasDate = false;
     bool hasTime = false;
-    for (int at = 0; at < format.size() && count < fieldCount;) {
+    for (int at = 0; at < format.size();) {
         const Field* const field = fieldOf(format[at]);
         if (field == nullptr) {
             ++at;
             continue;
         }
-        numbers[count++] = this->*field->number;
+        if (count < fieldCount) {
+            numbers[count++] = this->*field->number;
+        }
         hasDate = hasDate || field->letter == u'D';
         hasTime = hasTime || field->letter == u'h';
         at += field->width;

@@ -44,6 +44,7 @@ constexpr std::string_view emptySection = "empty-section";
 constexpr std::string_view missingName = "missing-name";
 constexpr std::string_view duplicateName = "duplicate-name";
 constexpr std::string_view invalidRule = "invalid-rule";
+constexpr std::string_view ignoredText = "ignored-text";  ///< text after a complete mapping rule
 constexpr std::string_view unknownTransferMode = "unknown-transfer-mode";
 constexpr std::string_view unknownTransition = "unknown-transition";
 constexpr std::string_view unknownState = "unknown-state";

@@ -2,12 +2,12 @@
 
 #include <cstdio>
 
-#include "zvCharString.h"
+#include "zvKeptText.h"
 #include "zvPlatform.h"
 
 bool zvGatewayHome::m_bIsGatewayHomeSet = false;
-zvString zvGatewayHome::m_strGatewayHomeEnvVariable;
-zvString zvGatewayHome::m_strGatewayHomePath;
+zvKeptString zvGatewayHome::m_strGatewayHomeEnvVariable;
+zvKeptString zvGatewayHome::m_strGatewayHomePath;
 
 bool zvGatewayHome::setEnvVariable(const zvString& name) {
     if (m_bIsGatewayHomeSet || name.empty()) {
@@ -19,13 +19,17 @@ bool zvGatewayHome::setEnvVariable(const zvString& name) {
     return true;
 }
 
-zvString zvGatewayHome::getEnvVariable() {
-    setEnvVariable("GATEWAY_HOME");
+const zvString& zvGatewayHome::envVariable() {
+    if (!m_bIsGatewayHomeSet) {
+        setEnvVariable(zvKeptText::widen("GATEWAY_HOME"));
+    }
     return m_strGatewayHomeEnvVariable;
 }
 
+zvString zvGatewayHome::getEnvVariable() { return zvKeptString(envVariable()); }
+
 zvString zvGatewayHome::getPath() {
-    zvString path = readEnvironment(getEnvVariable());
+    zvString path = readEnvironment(envVariable());
     if (path.empty()) {
         std::printf("Environmental variable \"GATEWAY_HOME\" could not be found.");
     }
@@ -33,5 +37,5 @@ zvString zvGatewayHome::getPath() {
 }
 
 zvString zvGatewayHome::readEnvironment(const zvString& name) {
-    return zvPlatform::environment(zvCharString(name).data()).c_str();
+    return zvKeptText::widen(zvPlatform::environment(zvKeptText::Narrow(name).data()).c_str());
 }

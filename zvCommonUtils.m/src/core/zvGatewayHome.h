@@ -1,9 +1,11 @@
 #ifndef ZV_GATEWAY_HOME_H
 #define ZV_GATEWAY_HOME_H
 
-#include "zvString.h"
+#include "zvKeptString.h"
+#include "zvTextBuilder.h"
 
-/// The gateway's home folder, which the logger and the gateway environment both start from.
+/// The gateway's home folder, which the logger and the gateway environment both start from. Throws
+/// std::bad_alloc when out of memory: no name or path is cut short.
 class zvGatewayHome {
 public:
     /// See the operations of the same names in zvCommonUtils.
@@ -14,12 +16,16 @@ public:
     /// The variable's value; empty when it is not set.
     static zvString readEnvironment(const zvString& name);
     /// The file `name` of the folder "config" in the home folder `home`.
-    static zvString configFile(const zvString& home, const char* name) { return home + "\\config\\" + name; }
+    static zvString configFile(const zvString& home, const char* name) {
+        return zvTextBuilder::concat(home, "\\config\\", name);
+    }
 
 private:
+    static const zvString& envVariable();
+
     static bool m_bIsGatewayHomeSet;
-    static zvString m_strGatewayHomeEnvVariable;
-    static zvString m_strGatewayHomePath;
+    static zvKeptString m_strGatewayHomeEnvVariable;
+    static zvKeptString m_strGatewayHomePath;
 };
 
 #endif

@@ -1,6 +1,8 @@
 #ifndef ZV_LOG_SOURCE_H
 #define ZV_LOG_SOURCE_H
 
+#include <new>
+
 #include "zvException.h"
 #include "zvLogLevel.h"
 #include "zvTextBuilder.h"
@@ -64,8 +66,13 @@ public:
 private:
     template <typename... Pieces>
     void log(zvLogLevel level, const zvLogHead& head, const Pieces&... rest) const {
-        if (zvLogSink::isReady()) {
+        if (!zvLogSink::isReady()) {
+            return;
+        }
+        try {
             zvLogSink::write(level, zvTextBuilder::concat(head.text, rest...), m_pFile, head.line);
+        } catch (const std::bad_alloc&) {
+            // Logging never fails towards the caller: without memory the message is lost.
         }
     }
 

@@ -12,6 +12,9 @@ namespace zvPath {
 zvString fileName(const zvString& path);
 std::string_view fileName(std::string_view path);
 
+/// The path with this system's delimiters.
+zvString withNativeDelimiters(const zvString& path);
+
 /// The path in narrow text with this system's delimiters; empty for a path without a narrow form.
 std::string native(const zvString& path);
 

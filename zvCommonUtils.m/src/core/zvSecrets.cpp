@@ -20,6 +20,11 @@ zvString zvSecrets::maskedArgument(const zvString& argument) {
     return key == nullptr ? argument : zvString(key) + "=" + mask;
 }
 
+zvString zvSecrets::maskedKey(const zvString& key) {
+    const char* const secret = keyIn(key);
+    return secret == nullptr ? key : zvString(secret);
+}
+
 zvString zvSecrets::maskedValue(const zvString& key, const zvString& value) {
     return keyIn(key) == nullptr && keyIn(value) == nullptr ? value : zvString(mask);
 }

@@ -17,6 +17,10 @@ ZV_EXPORT const char* keyIn(const zvString& text);
 /// the mask.
 ZV_EXPORT zvString maskedArgument(const zvString& argument);
 
+/// The key of an argument as it may be shown: one that mentions a secret key, and so may contain its value,
+/// becomes that key.
+ZV_EXPORT zvString maskedKey(const zvString& key);
+
 /// The value of the argument `key` as it may be shown.
 ZV_EXPORT zvString maskedValue(const zvString& key, const zvString& value);
 

@@ -1,7 +1,9 @@
 #include "zvTextBuilder.h"
 
 #include <algorithm>
+#include <charconv>
 #include <climits>
+#include <new>
 
 #include "zvTextCodec.h"
 
@@ -17,7 +19,13 @@ zvTextBuilder& zvTextBuilder::append(const char* piece) {
     return *this;
 }
 
-zvTextBuilder& zvTextBuilder::append(int number) { return append(zvString(number)); }
+zvTextBuilder& zvTextBuilder::append(int number) {
+    constexpr std::size_t capacity = 16;
+    char digits[capacity];
+    char* const end = std::to_chars(digits, digits + capacity, number).ptr;
+    m_text.append(&digits[0], end);
+    return *this;
+}
 
 zvTextBuilder& zvTextBuilder::append(wchar16 unit) {
     m_text += unit;
@@ -32,5 +40,9 @@ zvTextBuilder& zvTextBuilder::append(const wchar16* piece, int length) {
 }
 
 zvString zvTextBuilder::toString() const {
-    return {m_text.data(), static_cast<int>(std::min<std::size_t>(m_text.size(), INT_MAX - 1))};
+    zvString text(m_text.data(), static_cast<int>(std::min<std::size_t>(m_text.size(), INT_MAX - 1)));
+    if (text.empty() && !m_text.empty() && m_text.front() != 0) {
+        throw std::bad_alloc();
+    }
+    return text;
 }

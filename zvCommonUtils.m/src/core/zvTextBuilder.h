@@ -5,7 +5,8 @@
 
 #include "zvString.h"
 
-/// Concatenates pieces in a growing buffer, whose content then becomes an exact-fit zvString.
+/// Concatenates pieces in a growing buffer, whose content then becomes an exact-fit zvString. Throws
+/// std::bad_alloc when out of memory: a text is whole or there is none.
 class zvTextBuilder {
 public:
     zvTextBuilder& append(const zvString& piece);

@@ -12,12 +12,17 @@ namespace {
 
 constexpr char noOrderOfBooleans[] = "On boolean datatype only equal to and not equal to action happens";
 
-// Out of the range of float, the plain conversion would be undefined behaviour.
+// Out of the range of float, the plain conversion would be undefined behaviour. What lies less than half a
+// step beyond the largest float is rounded to it.
 float toFloat(double value) {
-    if (std::fabs(value) > static_cast<double>(FLT_MAX)) {
-        return std::copysign(std::numeric_limits<float>::infinity(), value > 0 ? 1.0F : -1.0F);
+    constexpr double largest = FLT_MAX;
+    constexpr double firstInfinite = 0x1.ffffffp127;
+    if (std::fabs(value) <= largest || std::isnan(value)) {
+        return static_cast<float>(value);
     }
-    return static_cast<float>(value);
+    const float magnitude =
+        std::fabs(value) < firstInfinite ? FLT_MAX : std::numeric_limits<float>::infinity();
+    return value > 0 ? magnitude : -magnitude;
 }
 
 int toInt(float value) {

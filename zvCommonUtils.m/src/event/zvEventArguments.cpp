@@ -173,7 +173,7 @@ bool zvEventArguments::addKeyValueToEventArgument(zvString& arg, zvEventArgument
         return false;
     }
     if (!args->addEventArgument(name, value)) {
-        logger.warn("Argument could not be added to the map with Key = \"", name,
+        logger.warn("Argument could not be added to the map with Key = \"", zvSecrets::maskedKey(name),
                     "\" and Value = ", zvSecrets::maskedValue(name, value), "\"");
         return false;
     }

@@ -1,7 +1,9 @@
 #include "zvDirFileUtils.h"
 
+#include <cerrno>
 #include <cstring>
 #include <string>
+#include <system_error>
 
 #include "zvCharString.h"
 #include "zvLogSource.h"
@@ -15,7 +17,8 @@ constexpr zvLogSource logger("zvCommonUtils.m/src/zvDirFileUtils");
 zvString lastErrorCode() { return zvString(static_cast<long>(zvPlatform::lastError())); }
 
 // Reads a line in pieces of 1023 bytes, without its line feed. A zero byte ends the piece that it is in.
-void readLine(std::FILE* file, std::string& line) {
+// @return the error number of a read error, or 0.
+int readLine(std::FILE* file, std::string& line) {
     constexpr std::size_t pieceCapacity = 1024;
     char piece[pieceCapacity];
     std::size_t length = 0;
@@ -23,7 +26,7 @@ void readLine(std::FILE* file, std::string& line) {
     do {
         piece[0] = '\0';
         if (std::fgets(piece, pieceCapacity, file) == nullptr) {
-            return;
+            return std::ferror(file) == 0 ? 0 : errno;
         }
         length = std::strlen(piece);
         if (length > 0 && piece[length - 1] == '\n') {
@@ -31,6 +34,7 @@ void readLine(std::FILE* file, std::string& line) {
         }
         line.append(piece, length);
     } while (length == pieceCapacity - 1);
+    return 0;
 }
 
 }  // namespace
@@ -120,9 +124,7 @@ zvString zvDirFileUtils::getAccessError(const zvString& path, int mode) {
     return error == 0 ? zvString() : zvString(zvPlatform::errorText(error).c_str());
 }
 
-zvString zvDirFileUtils::nativePath(const zvString& path) {
-    return zvPlatform::nativePath(zvCharString(path).data()).c_str();
-}
+zvString zvDirFileUtils::nativePath(const zvString& path) { return zvPath::withNativeDelimiters(path); }
 
 zvResult zvDirFileUtils::readFile(const zvString& path, zvStringList& lines) {
     zvResult result;
@@ -139,14 +141,22 @@ zvResult zvDirFileUtils::readFile(const zvString& path, zvStringList& lines) {
     }
     logger.info("\"", path, "\" opened for reading.");
     std::string line;
-    while (std::feof(file.get()) == 0 && std::ferror(file.get()) == 0) {
-        readLine(file.get(), line);
+    int error = 0;
+    while (std::feof(file.get()) == 0 && error == 0) {
+        error = readLine(file.get(), line);
         zvString text(line.c_str());
         if (!text.empty()) {
             lines.addString(std::move(text));
         } else if (!line.empty()) {
             logger.warn("A line of the file \"", path, "\" cannot be converted and is left out.");
         }
+    }
+    if (error != 0) {
+        const std::string reason = std::generic_category().message(error);
+        result.setMessage(reason.c_str());
+        logger.error("Error in reading file : \"", path, "\", ", reason.c_str());
+        lines.clear();
+        return result;
     }
     result.setOk();
     return result;

@@ -98,6 +98,7 @@ zvString textOrNone(Ask ask) {
 }  // namespace
 
 std::unique_ptr<zvC2JBridge> zvC2JBridge::m_pBridge;
+std::string zvC2JBridge::m_searchedPlaces;
 
 zvC2JBridge* zvC2JBridge::getInstance() {
     if (m_pBridge == nullptr) {
@@ -139,21 +140,25 @@ bool zvC2JBridge::initialize() {
     logger.info("Successfully initialized the Java virtual machine");
     logVersion();
     logger.info("Finished initializing C2JBridge");
+    logger.debug("The library was looked for in ", m_searchedPlaces.c_str());
+    if (m_bIsAdopted) {
+        logger.info(
+            "Using the Java virtual machine that already runs in this process, with its own class path");
+    }
     return true;
 }
 
 bool zvC2JBridge::loadLibrary() {
     logger.info("Started loading Java virtual machine");
     const zvJvmLibrary library = zvJvmLibrary::load();
+    m_searchedPlaces = library.tried;
     if (library.handle == nullptr) {
         logger.error("Error loading [", zvJvmLibrary::name, "]");
         for (const char* const hint : searchPathHints) {
             logger.error(hint);
         }
-        logger.error("It was looked for in ", library.tried.c_str());
         return false;
     }
-    logger.debug("The library was looked for in ", library.tried.c_str());
     m_pLibrary = library.handle;
     if (!findFunction(m_pLibrary, "JNI_CreateJavaVM", m_pCreateJavaVM) ||
         !findFunction(m_pLibrary, "JNI_GetDefaultJavaVMInitArgs", m_pGetDefaultJavaVMInitArgs)) {
@@ -187,7 +192,7 @@ bool zvC2JBridge::adoptMachine() {
         machines == 0 || getEnv() == nullptr) {
         return false;
     }
-    logger.info("Using the Java virtual machine that already runs in this process, with its own class path");
+    m_bIsAdopted = true;
     return true;
 }
 

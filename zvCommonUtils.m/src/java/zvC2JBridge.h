@@ -4,6 +4,7 @@
 #include <jni.h>
 
 #include <memory>
+#include <string>
 
 #include "zvException.h"
 #include "zvJniFrame.h"
@@ -18,6 +19,8 @@ public:
     /// The singleton, created on first use and owned by the class; null, with the reasons logged, if no JVM
     /// can be started. A later call retries.
     static zvC2JBridge* getInstance();
+    /// Where the last attempt to start a JVM looked for its library; empty before the first one.
+    static zvString searchedPlaces() { return m_searchedPlaces.c_str(); }
 
     /// The calling thread's JNI environment; the thread is attached on demand and detached when it ends. Null
     /// on failure.
@@ -44,12 +47,14 @@ private:
     void logVersion() const;
 
     static std::unique_ptr<zvC2JBridge> m_pBridge;
+    static std::string m_searchedPlaces;
 
     void* m_pLibrary = nullptr;
     CreateJavaVM m_pCreateJavaVM = nullptr;
     GetDefaultJavaVMInitArgs m_pGetDefaultJavaVMInitArgs = nullptr;
     GetCreatedJavaVMs m_pGetCreatedJavaVMs = nullptr;
     JavaVM* m_pMachine = nullptr;
+    bool m_bIsAdopted = false;
 };
 
 #endif

@@ -2,7 +2,6 @@
 
 #include "zvC2JBridge.h"
 #include "zvLogSource.h"
-#include "zvPlatform.h"
 
 namespace {
 
@@ -28,11 +27,19 @@ constexpr Operation testExistence{"exists", "exists", "(Ljava/lang/String;)Z"};
 constexpr Operation listDirectory{"list", "list", "(Ljava/lang/String;)[Ljava/lang/String;"};
 constexpr Operation setTransferMode{"setFileType", "setFileTransferMode", "(I)V"};
 
-// The path with this system's separators; Java needs no narrow copy.
-zvString native(const zvString& path) {
-    zvString translated(path);
-    translated.replace("\\", zvPlatform::nativePath("\\").c_str());
-    return translated;
+// The text is in the exception and in its result, since callers read either.
+[[noreturn]] void fail(const zvString& text, const zvString& additionalInformation = {}) {
+    zvResult result;
+    result.setMessage(text);
+    result.setAdditionalInformation(additionalInformation);
+    zvException exception(result);
+    exception.setMessage(text);
+    throw zvException(exception);
+}
+
+[[noreturn]] void failFatally(const char* text, const zvString& additionalInformation = {}) {
+    logger.fatal(text);
+    fail(text, additionalInformation);
 }
 
 }  // namespace
@@ -52,7 +59,7 @@ struct zvFSClient::Impl {
     JNIEnv& env() const {
         JNIEnv* const environment = bridge->getEnv();
         if (environment == nullptr) {
-            logger.raiseFatal("Failed to get the JNI Environment");
+            failFatally("Failed to get the JNI Environment");
         }
         return *environment;
     }
@@ -70,12 +77,14 @@ struct zvFSClient::Impl {
         }
     }
 
-    // Calls the operation's method on the connected client and passes its return value, if any, to `receive`.
+    // Calls the operation's method on the client and passes its return value, if any, to `receive`.
     template <typename Result, typename Receive, typename... Arguments>
     auto invokeAndReceive(const Operation& operation, Receive receive, const Arguments&... arguments) const {
-        if (!connected) {
-            logger.raise("FSClient is not initialized. Unable to invoke FSClient.", operation.name,
-                         "() operation");
+        if (client == nullptr) {
+            const zvString refusal = zvTextBuilder::concat(
+                "FSClient is not initialized. Unable to invoke FSClient.", operation.name, "() operation");
+            logger.error("", refusal);
+            fail(refusal);
         }
         return run([&](const zvJniFrame& frame) {
             jmethodID const method = frame.method(client, operation.method, operation.signature);
@@ -100,8 +109,7 @@ struct zvFSClient::Impl {
             logger.info("Got instance of [", describe(frame, factory), "]");
             logger.info("Initializing FileServerClientFactory");
             logger.info("Config file path [", configPath, "]");
-            frame.call<void>(factory, "initialize", "(Ljava/lang/String;)V",
-                             frame.toJava(native(configPath)));
+            frame.call<void>(factory, "initialize", "(Ljava/lang/String;)V", frame.toJava(configPath));
             logger.info("Successfully initialized FileServerClientFactory");
         });
     }
@@ -167,7 +175,9 @@ void zvFSClient::initialize(const zvString& configPath) {
     logger.info("Initializing FSClient started");
     m_pImpl->bridge = zvC2JBridge::getInstance();
     if (m_pImpl->bridge == nullptr) {
-        logger.raiseFatal("Failed to get the C++ to Java bridge instance");
+        failFatally("Failed to get the C++ to Java bridge instance",
+                    zvTextBuilder::concat("The Java virtual machine was looked for in ",
+                                          zvC2JBridge::searchedPlaces()));
     }
     m_pImpl->env();
     m_pImpl->createFactory(configPath);
@@ -195,37 +205,37 @@ void zvFSClient::disconnect() {
 
 void zvFSClient::get(const zvString& remote, const zvString& local) {
     logger.info("Downloading remote file [", remote, "] to local file [", local, "]");
-    m_pImpl->invoke(getFile, remote, native(local));
+    m_pImpl->invoke(getFile, remote, local);
     logger.info("Successfully downloaded file [", local, "]");
 }
 
 void zvFSClient::get(const zvString& remoteDir, const zvString& localDir, const zvStringList* files) {
     logger.info("Downloading files specified in the list");
-    m_pImpl->invoke(getListed, remoteDir, native(localDir), files);
+    m_pImpl->invoke(getListed, remoteDir, localDir, files);
     logger.info("Successfully downloaded file(s) specified in the list");
 }
 
 void zvFSClient::get(const zvString& remoteDir, const zvString& localDir, const zvString& filter) {
     logger.info("Downloading files specified by the filter [", filter, "]");
-    m_pImpl->invoke(getFiltered, remoteDir, native(localDir), filter);
+    m_pImpl->invoke(getFiltered, remoteDir, localDir, filter);
     logger.info("Successfully downloaded file(s) specified by the filter");
 }
 
 void zvFSClient::put(const zvString& local, const zvString& remote) {
     logger.info("Uploading local file [", local, "] to remote file [", remote, "]");
-    m_pImpl->invoke(putFile, native(local), remote);
+    m_pImpl->invoke(putFile, local, remote);
     logger.info("Successfully uploaded file to [", remote, "]");
 }
 
 void zvFSClient::put(const zvString& localDir, const zvString& remoteDir, const zvStringList* files) {
     logger.info("Uploading files specified in the list");
-    m_pImpl->invoke(putListed, native(localDir), remoteDir, files);
+    m_pImpl->invoke(putListed, localDir, remoteDir, files);
     logger.info("Successfully uploaded file(s) specified in the list");
 }
 
 void zvFSClient::put(const zvString& localDir, const zvString& remoteDir, const zvString& filter) {
     logger.info("Uploading files specified by the filter [", filter, "]");
-    m_pImpl->invoke(putFiltered, native(localDir), remoteDir, filter);
+    m_pImpl->invoke(putFiltered, localDir, remoteDir, filter);
     logger.info("Successfully uploaded file(s) specified by the filter");
 }
 

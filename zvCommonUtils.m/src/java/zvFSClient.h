@@ -9,11 +9,11 @@
 
 /// The connection to the file server, a singleton over the Java file-server client on CLASSPATH.
 ///
-/// Local paths may use "\" as separator on every system; remote paths are passed to the server unchanged.
-/// File lists contain bare names.
+/// Paths are passed to Java as they are given. The delivered client takes "\" and "/" as separators on every
+/// system. File lists contain bare names.
 ///
 /// Every operation logs a failure and throws it as a zvException. For a Java exception, its message is Java's
-/// and its result's message is the Java stack trace; without a connection, its result's message says that the
+/// and its result's message is the Java stack trace. If there is no Java client, both messages say that the
 /// client is not initialized.
 class ZV_EXPORT zvFSClient : public zvCoreObjectCommon {
 public:
@@ -22,7 +22,8 @@ public:
 
     /// The instance, owned by the class. The first call creates it, starts the JVM on demand, configures the
     /// Java client from the file `configPath` and connects. If that fails, the instance exists without a
-    /// connection: call destroyInstance() before a retry.
+    /// connection, and its operations are left to the Java client to refuse: call destroyInstance() before a
+    /// retry. If no JVM was found, the result's additional information says where it was looked for.
     static zvFSClient* getInstance(const zvString& configPath);
     /// The instance; null if it was not created.
     static zvFSClient* getInstance();

@@ -148,7 +148,8 @@ void transfer(const EventFile& file, const zvString& local, const zvString& remo
     const auto start = std::chrono::steady_clock::now();
     onFileServer(direction.failure, local, [&] {
         client().setFileType(file.mode);
-        direction.transfer(client(), local, zvTextBuilder::concat(remoteDir, "/", file.name));
+        direction.transfer(client(), zvPath::withNativeDelimiters(local),
+                           zvTextBuilder::concat(remoteDir, "/", file.name));
     });
     if (observer != nullptr) {
         tell(*observer, local, start);

@@ -1,18 +1,19 @@
 #include "zvDebugLogger.h"
 
-#include "zvCharString.h"
+#include <exception>
+#include <functional>
+#include <map>
+
+#include "zvKeptString.h"
 #include "zvLogChannel.h"
-#include "zvTemplateMap.h"
 
 namespace {
 
-using LoggerMap = zvTemplateMap<zvString, zvDebugLogger*>;
+using LoggerMap = std::map<zvKeptString, zvDebugLogger*, std::less<>>;
 
-// Never destroyed: the loggers may be used until the process exits, also by static destructors.
-LoggerMap& mapLoggers() {
-    static auto* const loggers = new LoggerMap;
-    return *loggers;
-}
+// Created with the first logger and never destroyed: the loggers may be used until the process exits, also by
+// static destructors.
+LoggerMap* mapLoggers = nullptr;
 
 }  // namespace
 
@@ -21,23 +22,32 @@ zvDebugLogger::zvDebugLogger(const zvString& name) : m_pChannel(std::make_shared
 zvDebugLogger::~zvDebugLogger() = default;
 
 zvDebugLogger* zvDebugLogger::getInstance(const zvString& name) {
-    zvDebugLogger* logger = nullptr;
-    if (!mapLoggers().find(name, logger) || logger == nullptr) {
-        logger = new zvDebugLogger(name);
-        mapLoggers().insert(name, logger);
+    try {
+        if (mapLoggers == nullptr) {
+            mapLoggers = new LoggerMap;
+        }
+        zvDebugLogger*& logger = (*mapLoggers)[zvKeptString(name)];
+        if (logger == nullptr) {
+            logger = new zvDebugLogger(name);
+        }
+        return logger;
+    } catch (const std::exception&) {
+        return nullptr;
     }
-    return logger;
 }
 
 void zvDebugLogger::destroyInstance(const zvString& name) {
-    zvDebugLogger* logger = nullptr;
-    if (mapLoggers().find(name, logger) && logger != nullptr) {
-        logger->m_pChannel.reset();
+    if (mapLoggers == nullptr) {
+        return;
+    }
+    const auto found = mapLoggers->find(name);
+    if (found != mapLoggers->end() && found->second != nullptr) {
+        found->second->m_pChannel.reset();
     }
 }
 
 void zvDebugLogger::logMsg(const zvString& message, const char* file, int line) {
-    if (m_pChannel != nullptr && m_pChannel->isReady()) {
-        m_pChannel->logDebug(zvCharString(message).data(), file, line);
+    if (m_pChannel != nullptr) {
+        m_pChannel->log(zvLogLevel::debug, message, file, line);
     }
 }

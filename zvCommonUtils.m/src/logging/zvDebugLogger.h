@@ -13,7 +13,8 @@ class zvLogChannel;
 /// Otherwise the same as zvLogger. Each new instance initialises the logging library again.
 class ZV_EXPORT zvDebugLogger : public zvCoreObject {
 public:
-    /// The instance of that name, owned by the class and created on first use.
+    /// The instance of that name, owned by the class and created on first use; null when there is no memory
+    /// for it, until a later call finds some.
     static zvDebugLogger* getInstance(const zvString& name);
     /// Closes the instance of that name, if any, for good: it is not deleted, so that no pointer to it
     /// dangles, but drops its messages from now on.

@@ -1,12 +1,14 @@
 #ifndef ZV_LOG_CHANNEL_H
 #define ZV_LOG_CHANNEL_H
 
+#include "zvLogLevel.h"
 #include "zvString.h"
 
 /// Writes to the logging library under one logger name; the constructor initialises the library.
 ///
 /// Without a gateway home, or if the logging library refuses the configuration, the channel is not ready and
-/// drops its messages.
+/// drops its messages. The constructor throws std::bad_alloc when out of memory, before the logging library
+/// gets a path that is cut short.
 class zvLogChannel {
 public:
     explicit zvLogChannel(const zvString& name);
@@ -21,6 +23,10 @@ public:
     virtual void logError(const char* message, const char* file, int line);
     virtual void logFatal(const char* message, const char* file, int line);
     virtual void logAlways(const char* message, const char* file, int line);
+
+    /// The operation of that level, with the message as narrow text. Never throws: without memory the message
+    /// is lost.
+    void log(zvLogLevel level, const zvString& message, const char* file, int line);
 
     bool isReady() const { return m_bReady; }
 

@@ -1,24 +1,20 @@
 #include "zvLogger.h"
 
-#include "zvCharString.h"
+#include <exception>
+
+#include "zvKeptText.h"
 #include "zvLogChannel.h"
 
 namespace {
 
 constexpr char loggerName[] = "com.qrsl.products.lkbridge.product";
 
-// In the order of zvLogLevel.
-using ChannelOperation = void (zvLogChannel::*)(const char*, const char*, int);
-constexpr ChannelOperation operations[] = {&zvLogChannel::logDebug, &zvLogChannel::logInfo,
-                                           &zvLogChannel::logWarn,  &zvLogChannel::logError,
-                                           &zvLogChannel::logFatal, &zvLogChannel::logAlways};
-
 }  // namespace
 
 zvLogger* zvLogger::m_pzvLogger = nullptr;
 bool zvLogger::m_bInitializing = false;
 
-zvLogger::zvLogger() : m_pChannel(std::make_shared<zvLogChannel>(loggerName)) {}
+zvLogger::zvLogger() : m_pChannel(std::make_shared<zvLogChannel>(zvKeptText::widen(loggerName))) {}
 
 zvLogger::~zvLogger() = default;
 
@@ -26,7 +22,11 @@ zvLogger* zvLogger::getInstance() {
     if (m_pzvLogger == nullptr && !m_bInitializing) {
         // Whatever logs while the instance is being created, further up this stack, goes without a logger.
         m_bInitializing = true;
-        m_pzvLogger = new zvLogger;
+        try {
+            m_pzvLogger = new zvLogger;
+        } catch (const std::exception&) {
+            // Without memory there is no logger now; the next call tries again.
+        }
         m_bInitializing = false;
     }
     return m_pzvLogger;
@@ -40,10 +40,8 @@ void zvLogger::destroyInstance() {
 bool zvLogger::isReady() const { return m_pChannel != nullptr && m_pChannel->isReady(); }
 
 void zvLogger::log(zvLogLevel level, const zvString& message, const char* file, int line) {
-    // Nothing is converted for a channel that would drop it.
-    if (isReady()) {
-        const ChannelOperation operation = operations[static_cast<int>(level)];
-        (m_pChannel.get()->*operation)(zvCharString(message).data(), file, line);
+    if (m_pChannel != nullptr) {
+        m_pChannel->log(level, message, file, line);
     }
 }
 

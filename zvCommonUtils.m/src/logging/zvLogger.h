@@ -19,7 +19,8 @@ class zvLogChannel;
 /// file's name also prefixes the message. A copy shares its original's channel.
 class ZV_EXPORT zvLogger : public zvCoreObjectCommon {
 public:
-    /// The instance, owned by the class and created on first use; null while it is being created.
+    /// The instance, owned by the class and created on first use; null while it is being created, and when
+    /// there is no memory for it, until a later call finds some.
     static zvLogger* getInstance();
     /// Deletes the instance, if any; a later getInstance() creates a new one.
     static void destroyInstance();

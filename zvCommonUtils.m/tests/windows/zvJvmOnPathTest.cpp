@@ -21,12 +21,10 @@ TEST_F(zvJvmOnPathTest, WithoutAJavaNothingStarts) {
     zvPlatform::setEnvironment("PATH", m_folder.path().string().c_str());
     zvPlatform::setEnvironment("JAVA_HOME", "");
     EXPECT_EQ(zvC2JBridge::getInstance(), nullptr);
-    Lines errors = zvRecordingLogger::lines("error");
-    ASSERT_EQ(errors.size(), 6U);
-    errors.pop_back();
-    EXPECT_EQ(errors, (Lines{"Error loading [jvm]", "For Windows add to PATH variable.",
-                             "For Solaris/Linux add to LD_LIBRARY_PATH variable.",
-                             "For AIX add to LIBPATH variable.", "For HP-UX add to SHLIB_PATH variable."}));
+    EXPECT_EQ(zvRecordingLogger::lines("error"),
+              (Lines{"Error loading [jvm]", "For Windows add to PATH variable.",
+                     "For Solaris/Linux add to LD_LIBRARY_PATH variable.", "For AIX add to LIBPATH variable.",
+                     "For HP-UX add to SHLIB_PATH variable."}));
     EXPECT_EQ(zvRecordingLogger::lines("fatal"), Lines{"Failed to load the Java virtual machine"});
 }
 

@@ -34,7 +34,8 @@ std::FILE* reserveStandardOutput();
 /// From now on a request to end the process (Ctrl-C, SIGTERM, SIGHUP) is noted: work ends where it can be
 /// ended cleanly. A second one ends the process at once.
 void noteSignals();
-/// While it lives, a library that is started and sets handlers of its own leaves those of noteSignals() alone.
+/// While it lives, a library that is started and sets handlers of its own leaves those of noteSignals()
+/// alone.
 class SignalsUntouched {
 public:
     SignalsUntouched();

@@ -42,7 +42,8 @@ void zvArgumentsStep::parse() {
 
 void zvArgumentsStep::show() const {
     m_event.arguments->forEach([](const zvString& key, const zvString& value) {
-        zvConsole::fact(zvConsole::printable(key), zvConsole::printable(zvSecrets::maskedValue(key, value)));
+        zvConsole::fact(zvConsole::printable(zvSecrets::maskedKey(key)),
+                        zvConsole::printable(zvSecrets::maskedValue(key, value)));
     });
     const std::size_t unused =
         m_event.commandLine.size() - static_cast<std::size_t>(m_event.arguments->numEventArguments());

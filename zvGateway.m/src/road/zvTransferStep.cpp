@@ -39,7 +39,16 @@ class Connection {
 public:
     explicit Connection(const zvString& configuration) {
         const zvProcess::SignalsUntouched signals;  // by the Java machine, which would end the process
-        zvFSClient::getInstance(configuration);
+        try {
+            zvFSClient::getInstance(zvDirFileUtils::nativePath(configuration));
+        } catch (const zvException& exception) {
+            const zvString detail = exception.getResult().getAdditionalInformation();
+            zvException detailed(exception);
+            if (!detail.empty()) {
+                detailed.setMessage(exception.getMessage() + ". " + detail);
+            }
+            throw zvException(detailed);
+        }
     }
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;

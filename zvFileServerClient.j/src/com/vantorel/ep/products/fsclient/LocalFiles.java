@@ -1,5 +1,6 @@
 package com.vantorel.ep.products.fsclient;
 
+import java.io.File;
 import java.io.IOException;
 import java.nio.file.AccessDeniedException;
 import java.nio.file.DirectoryIteratorException;
@@ -20,12 +21,15 @@ import java.util.TreeSet;
 final class LocalFiles {
     private LocalFiles() {}
 
-    /** The path of a name that the caller gave, which is trusted and not restricted. */
+    /**
+     * The path of a name that the caller gave, which is trusted and not restricted. {@code /} and {@code \} are
+     * both separators.
+     */
     static Path path(String name) throws FileServerException {
         if (name == null || name.isEmpty()) {
             throw new FileServerException("no local name given");
         }
-        return parse(name);
+        return parse(name.replace('\\', File.separatorChar));
     }
 
     /** An existing directory that the caller named. */

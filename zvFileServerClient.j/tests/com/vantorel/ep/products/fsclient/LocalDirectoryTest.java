@@ -48,6 +48,21 @@ public class LocalDirectoryTest {
     }
 
     @Test
+    public void aLocalPathHasEitherSeparator() throws IOException {
+        Path home = folder.getRoot().toPath();
+        Path local = folder.newFolder("local", "sub").toPath().getParent();
+        Path root = folder.newFolder("root").toPath();
+        fill(root, "plain");
+        FileServerClient client = TestServer.connect(home, root.toUri().toString());
+
+        client.get("plain", local + "\\sub\\copy");
+        client.put(local + "\\sub/copy", "again");
+        client.put(local + "\\sub\\", "", "c*");
+        assertEquals("{sub/copy=plain}", tree(local).toString());
+        assertEquals("{again=plain, copy=plain, plain=plain}", tree(root).toString());
+    }
+
+    @Test
     public void theRootMustExist() throws IOException {
         Path home = folder.getRoot().toPath();
         String url = home.resolve("none").toUri().toString();
