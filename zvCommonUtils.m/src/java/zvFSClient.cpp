@@ -1,6 +1,9 @@
 #include "zvFSClient.h"
 
+#include <map>
+
 #include "zvC2JBridge.h"
+#include "zvFSNotices.h"
 #include "zvLogSource.h"
 #include "zvPlatform.h"
 
@@ -28,12 +31,60 @@ constexpr Operation testExistence{"exists", "exists", "(Ljava/lang/String;)Z"};
 constexpr Operation listDirectory{"list", "list", "(Ljava/lang/String;)[Ljava/lang/String;"};
 constexpr Operation setTransferMode{"setFileType", "setFileTransferMode", "(I)V"};
 
+// A client of the site's own may lack these.
+constexpr Operation makeNewDirectory{"mkNewDir", "mkNewDir", "(Ljava/lang/String;)Z"};
+constexpr Operation removeLeftoverFiles{"removeLeftovers", "removeLeftovers",
+                                        "(Ljava/lang/String;Ljava/util/List;)V"};
+
+using Secrets = std::map<zvString, zvString>;
+
+Secrets& knownSecrets() {
+    static Secrets secrets;
+    return secrets;
+}
+
+// RAII guard that gives Java the secrets, as system properties, as long as it reads its configuration.
+class GivenSecrets {
+public:
+    explicit GivenSecrets(JNIEnv& env) : m_env(env) {
+        for (const auto& [name, value] : knownSecrets()) {
+            call("setProperty", "(Ljava/lang/String;Ljava/lang/String;)Ljava/lang/String;", name, value);
+        }
+    }
+    GivenSecrets(const GivenSecrets&) = delete;
+    GivenSecrets& operator=(const GivenSecrets&) = delete;
+    ~GivenSecrets() {
+        for (const auto& secret : knownSecrets()) {
+            call("clearProperty", "(Ljava/lang/String;)Ljava/lang/String;", secret.first);
+        }
+    }
+
+private:
+    // What was not given shows as a missing secret.
+    template <typename... Values>
+    void call(const char* method, const char* signature, const zvString& name,
+              const Values&... values) const {
+        const zvJniFrame frame(m_env);
+        try {
+            frame.callStatic<jobject>("java.lang.System", method, signature,
+                                      frame.toJava(zvTextBuilder::concat("zv.secret.", name)),
+                                      frame.toJava(values)...);
+        } catch (const zvJavaThrown&) {
+            logger.warn("A secret could not be given to Java");
+        }
+    }
+
+    JNIEnv& m_env;
+};
+
 // The path with this system's separators; Java needs no narrow copy.
 zvString native(const zvString& path) {
     zvString translated(path);
     translated.replace("\\", zvPlatform::nativePath("\\").c_str());
     return translated;
 }
+
+bool isTrue(const zvJniFrame&, jboolean answer) { return answer == JNI_TRUE; }
 
 }  // namespace
 
@@ -98,6 +149,7 @@ struct zvFSClient::Impl {
                 factoryClass, "getInstance", "()Lcom/vantorel/ep/products/fsclient/FileServerClientFactory;");
             factory = frame.env().NewGlobalRef(instance);
             logger.info("Got instance of [", describe(frame, factory), "]");
+            zvFSNotices::receive(frame);
             logger.info("Initializing FileServerClientFactory");
             logger.info("Config file path [", configPath, "]");
             frame.call<void>(factory, "initialize", "(Ljava/lang/String;)V",
@@ -113,7 +165,13 @@ struct zvFSClient::Impl {
                 factory, "getFileServerClient", "()Lcom/vantorel/ep/products/fsclient/FileServerClient;");
             client = frame.env().NewGlobalRef(created);
             logger.info("Created instance of FileServerClient[", describe(frame, client), "]");
+            canMakeNewDirectory = has(frame, makeNewDirectory);
+            canRemoveLeftovers = has(frame, removeLeftoverFiles);
         });
+    }
+
+    bool has(const zvJniFrame& frame, const Operation& operation) const {
+        return frame.findMethod(client, operation.method, operation.signature) != nullptr;
     }
 
     // The object's toString() for the log; empty if the log is not read or the call fails.
@@ -129,6 +187,8 @@ struct zvFSClient::Impl {
     jobject factory = nullptr;
     jobject client = nullptr;
     bool connected = false;
+    bool canMakeNewDirectory = false;
+    bool canRemoveLeftovers = false;
 };
 
 zvFSClient* zvFSClient::m_pFSClient = nullptr;
@@ -150,6 +210,10 @@ zvFSClient* zvFSClient::getInstance(const zvString& configPath) {
 
 zvFSClient* zvFSClient::getInstance() { return m_pFSClient; }
 
+void zvFSClient::setSecret(const zvString& name, const zvString& value) { knownSecrets()[name] = value; }
+
+void zvFSClient::setObserver(zvTransferObserver* observer) { zvFSNotices::setObserver(observer); }
+
 void zvFSClient::destroyInstance() {
     if (m_pFSClient == nullptr) {
         return;
@@ -169,7 +233,7 @@ void zvFSClient::initialize(const zvString& configPath) {
     if (m_pImpl->bridge == nullptr) {
         logger.raiseFatal("Failed to get the C++ to Java bridge instance");
     }
-    m_pImpl->env();
+    const GivenSecrets secrets(m_pImpl->env());
     m_pImpl->createFactory(configPath);
     m_pImpl->createClient();
     connect();
@@ -235,10 +299,37 @@ void zvFSClient::mkDir(const zvString& dir) {
     logger.info("Successfully created directory [", dir, "]");
 }
 
+bool zvFSClient::mkNewDir(const zvString& dir) {
+    if (m_pImpl->connected && !m_pImpl->canMakeNewDirectory) {
+        const bool isNew = !exists(dir);
+        if (isNew) {
+            mkDir(dir);
+        }
+        return isNew;
+    }
+    logger.info("Creating new directory [", dir, "] on FileServer");
+    const bool created = m_pImpl->invokeAndReceive<jboolean>(makeNewDirectory, isTrue, dir);
+    logger.info(created ? "Successfully created new directory [" : "There is already a directory [", dir,
+                "]");
+    return created;
+}
+
+void zvFSClient::removeLeftovers(const zvString& dir, const zvStringList& localFiles) {
+    if (m_pImpl->connected && !m_pImpl->canRemoveLeftovers) {
+        return;
+    }
+    logger.info("Removing incomplete files in FileServer directory [", dir, "]");
+    zvStringList files;
+    for (int i = 0; i < localFiles.numStrings(); ++i) {
+        files.addString(native(localFiles.getString(i)));
+    }
+    m_pImpl->invoke(removeLeftoverFiles, dir, &files);
+    logger.info("Successfully removed incomplete files in FileServer directory");
+}
+
 bool zvFSClient::exists(const zvString& path) {
     logger.info("Checking if file [", path, "] exists on FileServer");
-    const bool found = m_pImpl->invokeAndReceive<jboolean>(
-        testExistence, [](const zvJniFrame&, jboolean answer) { return answer == JNI_TRUE; }, path);
+    const bool found = m_pImpl->invokeAndReceive<jboolean>(testExistence, isTrue, path);
     logger.info("File [", path, found ? "] exists on FileServer" : "] does not exists on FileServer");
     return found;
 }

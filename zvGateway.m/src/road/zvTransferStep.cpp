@@ -32,13 +32,27 @@ void offerClient() {
     }
 }
 
-// The connection to the file server, as long as it lives.
+// The connection to the file server, as long as it lives, with its observer.
 class Connection {
 public:
-    explicit Connection(const zvString& configuration) { zvFSClient::getInstance(configuration); }
+    Connection(const zvString& configuration, zvTransferObserver& observer) {
+        zvFSClient::setObserver(&observer);
+        try {
+            zvFSClient::getInstance(configuration);
+        } catch (const zvException&) {
+            close();
+            throw;
+        }
+    }
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
-    ~Connection() { zvFSClient::destroyInstance(); }
+    ~Connection() { close(); }
+
+private:
+    static void close() {
+        zvFSClient::destroyInstance();
+        zvFSClient::setObserver(nullptr);
+    }
 };
 
 zvInt64 sizeOf(const zvString& file) {
@@ -96,7 +110,7 @@ zvStepOutcome zvTransferStep::showFiles() {
 
 zvStepOutcome zvTransferStep::send(const zvString& configuration) {
     offerClient();
-    const Connection connection(configuration);
+    const Connection connection(configuration, *this);
     require(zvFSClientUtil::createShadowDir(*m_event.arguments));
     const zvResult sent = zvFSClientUtil::uploadEventFiles(*m_event.arguments, m_event.attachments, this);
     require(sent);
@@ -146,3 +160,5 @@ void zvTransferStep::fileTransferred(const zvString& local, zvInt64 bytes, zvInt
                         zvConsole::rate(static_cast<double>(bytes), static_cast<double>(milliseconds)));
     m_event.report.addFile({path, "sent", bytes, static_cast<double>(milliseconds)});
 }
+
+void zvTransferStep::notice(const zvString& text) { zvConsole::fact("notice", zvConsole::printable(text)); }

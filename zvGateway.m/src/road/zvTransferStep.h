@@ -22,6 +22,7 @@ private:
     bool hasArrived(const zvString& local) override;
     void fileBegins(const zvString& local) override;
     void fileTransferred(const zvString& local, zvInt64 bytes, zvInt64 milliseconds) override;
+    void notice(const zvString& text) override;
 
     zvGatewayEvent& m_event;
     zvInt64 m_sentBytes = 0;
