@@ -1,6 +1,7 @@
 #include "zvFSClient.h"
 
 #include <map>
+#include <optional>
 
 #include "zvC2JBridge.h"
 #include "zvFSNotices.h"
@@ -165,13 +166,15 @@ struct zvFSClient::Impl {
                 factory, "getFileServerClient", "()Lcom/vantorel/ep/products/fsclient/FileServerClient;");
             client = frame.env().NewGlobalRef(created);
             logger.info("Created instance of FileServerClient[", describe(frame, client), "]");
-            canMakeNewDirectory = has(frame, makeNewDirectory);
-            canRemoveLeftovers = has(frame, removeLeftoverFiles);
         });
     }
 
-    bool has(const zvJniFrame& frame, const Operation& operation) const {
-        return frame.findMethod(client, operation.method, operation.signature) != nullptr;
+    // Whether the connected client is one of the site's own that lacks the operation; looked up once.
+    bool lacks(const Operation& operation, std::optional<bool>& known) const {
+        if (connected && !known.has_value()) {
+            known = zvJniFrame(env()).findMethod(client, operation.method, operation.signature) == nullptr;
+        }
+        return known.value_or(false);
     }
 
     // The object's toString() for the log; empty if the log is not read or the call fails.
@@ -187,8 +190,8 @@ struct zvFSClient::Impl {
     jobject factory = nullptr;
     jobject client = nullptr;
     bool connected = false;
-    bool canMakeNewDirectory = false;
-    bool canRemoveLeftovers = false;
+    std::optional<bool> lacksNewDirectory;
+    std::optional<bool> lacksLeftovers;
 };
 
 zvFSClient* zvFSClient::m_pFSClient = nullptr;
@@ -300,7 +303,7 @@ void zvFSClient::mkDir(const zvString& dir) {
 }
 
 bool zvFSClient::mkNewDir(const zvString& dir) {
-    if (m_pImpl->connected && !m_pImpl->canMakeNewDirectory) {
+    if (m_pImpl->lacks(makeNewDirectory, m_pImpl->lacksNewDirectory)) {
         const bool isNew = !exists(dir);
         if (isNew) {
             mkDir(dir);
@@ -315,7 +318,7 @@ bool zvFSClient::mkNewDir(const zvString& dir) {
 }
 
 void zvFSClient::removeLeftovers(const zvString& dir, const zvStringList& localFiles) {
-    if (m_pImpl->connected && !m_pImpl->canRemoveLeftovers) {
+    if (m_pImpl->lacks(removeLeftoverFiles, m_pImpl->lacksLeftovers)) {
         return;
     }
     logger.info("Removing incomplete files in FileServer directory [", dir, "]");
