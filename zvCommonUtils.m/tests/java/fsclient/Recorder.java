@@ -13,8 +13,8 @@ import java.util.stream.Collectors;
 
 /**
  * Records the calls, one per line, in a file next to the configuration file, from which it reads their return
- * values. {@code secret} is the name of a secret whose value is recorded with each call. {@code throw.METHOD} is the class of an exception to throw, optionally followed by a blank and a
- * message.
+ * values. {@code secret} is the name of a secret whose value is recorded with each call. {@code throw.METHOD} is
+ * the class of an exception to throw, optionally followed by a blank and a message.
  */
 final class Recorder {
     private static final Properties SCRIPT = new Properties();

@@ -162,7 +162,8 @@ public class BrokenTransferTest {
             List<String> told = notices(() -> client.put(localFile, "f"));
             assertEquals(told.toString(), 2, told.size());
             for (int i = 0; i < 2; ++i) {
-                String expected = "Cannot put local file '.*/f' to remote file 'f': .+; retry " + (i + 1) + " of 5 in 0.0 s";
+                String expected =
+                        "Cannot put local file '.*/f' to remote file 'f': .+; retry " + (i + 1) + " of 5 in 0.0 s";
                 assertTrue(told.get(i), told.get(i).matches(expected));
             }
         }

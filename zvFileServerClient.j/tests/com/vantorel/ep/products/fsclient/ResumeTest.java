@@ -154,8 +154,9 @@ public class ResumeTest {
                 } else if (change.equals("size")) {
                     Files.write(file, Arrays.copyOf(content, SIZE + 1));
                 }
-                String target = change.equals("target") ? "g" : "f";
-                client.removeLeftovers("", change.equals("target") ? Collections.emptyList() : Arrays.asList(file.toString()));
+                boolean isOther = change.equals("target");
+                String target = isOther ? "g" : "f";
+                client.removeLeftovers("", isOther ? Collections.emptyList() : Arrays.asList(file.toString()));
                 client.put(file.toString(), target);
                 assertTrue(change, same(file, remote.resolve(target)));
                 assertTrue(change, received() > SIZE && TestServer.log(log, "(REST|APPE).*").isEmpty());

@@ -64,7 +64,8 @@ public class ServerHabitsTest {
     public void textThatArrivesWithOtherLineEndsIsTold() throws IOException {
         String[][] cases = {
                 {"", "", "some\ntext\r\n", null},
-                {"--ignore-ascii", "", "some\ntext\r\n", "with CR LF line ends, but those of the server's system are LF"},
+                {"--ignore-ascii", "", "some\ntext\r\n",
+                        "with CR LF line ends, but those of the server's system are LF"},
                 {"--ignore-ascii", "UNIX emulated by a server", "some\ntext\r\n", null},
                 {"--ignore-ascii", "Windows_NT", "some\ntext\r\n", null},
                 {"", "Windows_NT", "some\ntext\r\n", "with LF line ends, but those of the server's system are CR LF"},

@@ -172,7 +172,8 @@ public class TransferTest {
         fill(remote.resolve("other"), part);
         client.removeLeftovers("event", Collections.emptyList());
         client.removeLeftovers("other/", Collections.emptyList());
-        assertEquals("what is new is not looked through", Collections.singleton(part), tree(remote.resolve("other")).keySet());
+        // What this client has just made is not looked through.
+        assertEquals(Collections.singleton(part), tree(remote.resolve("other")).keySet());
     }
 
     @Test
