@@ -60,6 +60,14 @@ const Operation operations[] = {
      "Uploading files specified by the filter [*]", "Successfully uploaded file(s) specified by the filter"},
     {[](Client& c) { return c.mkDir("d"), true; }, "mkDir(d)", "mkDir",
      "Creating directory [d] on FileServer", "Successfully created directory [d]"},
+    {[](Client& c) { return c.mkNewDir("new"); }, "mkNewDir(new)", "mkNewDir",
+     "Creating new directory [new] on FileServer", "Successfully created new directory [new]"},
+    {[](Client& c) { return !c.mkNewDir("there"); }, "mkNewDir(there)", "mkNewDir",
+     "Creating new directory [there] on FileServer", "There is already a directory [there]"},
+    {[](Client& c) { return c.removeLeftovers("d", texts({"l\\f"})), true; },
+     "removeLeftovers(d,java.util.ArrayList[l/f])", "removeLeftovers",
+     "Removing incomplete files in FileServer directory [d]",
+     "Successfully removed incomplete files in FileServer directory"},
     {[](Client& c) { return c.exists("there"); }, "exists(there)", "exists",
      "Checking if file [there] exists on FileServer", "File [there] exists on FileServer"},
     {[](Client& c) { return !c.exists(""); }, "exists()", "exists",
@@ -116,8 +124,8 @@ TEST_F(zvFSClientTest, EveryOperationIsOneCall) {
 
 TEST_F(zvFSClientTest, EveryOperationPassesOnWhatJavaThrows) {
     std::string script;
-    for (const char* const method :
-         {"get", "put", "mkDir", "exists", "list", "setFileTransferMode", "disconnect"}) {
+    for (const char* const method : {"get", "put", "mkDir", "mkNewDir", "removeLeftovers", "exists", "list",
+                                     "setFileTransferMode", "disconnect"}) {
         script += std::string("throw.") + method + "=java.io.IOException no \\u20AC, no \\uD83D\\uDE00\n";
     }
     Client& client = connect(script);
@@ -131,7 +139,7 @@ TEST_F(zvFSClientTest, EveryOperationPassesOnWhatJavaThrows) {
             EXPECT_EQ(exception.getResult().getResult(), -1);
             const zvString trace = exception.getResult().getMessage();
             EXPECT_EQ(trace.find(u"java.io.IOException: no \u20AC, no \U0001F600"), 0);
-            EXPECT_NE(trace.find("\tat com.vantorel.ep.products.fsclient.FileServerClient."), -1);
+            EXPECT_NE(trace.find("\tat com.vantorel.ep.products.fsclient."), -1);
             EXPECT_EQ(clientLines(), (Lines{"info: " + operation.started, "error: " + narrow(trace)}));
         }
         EXPECT_EQ(testing::internal::GetCapturedStdout(), "Exception [class java.io.IOException]");
@@ -210,6 +218,76 @@ TEST_F(zvFSClientTest, WithoutAConnectionOperationsReachJava) {
     }
     Client::destroyInstance();
     EXPECT_TRUE(calls().empty() && clientLines().empty());
+}
+
+TEST_F(zvFSClientTest, AClientOfTheSitesOwnMayLackWhatIsNew) {
+    const zvScopedVariable classPath("CLASSPATH", ZV_BARE_JAR);
+    inProcessOfItsOwn([this] {
+        Client& client = *Client::getInstance(configuration("exists=there\n").c_str());
+        testing::internal::CaptureStdout();
+        EXPECT_TRUE(client.mkNewDir("new"));
+        EXPECT_FALSE(client.mkNewDir("there"));
+        client.removeLeftovers("d", files);
+        EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+        const Lines made = calls();
+        EXPECT_EQ(made.size(), 6U);
+        EXPECT_EQ(made[3] + made[4] + made[5], "exists(new)mkDir(new)exists(there)");
+        EXPECT_TRUE(zvRecordingLogger::lines("error").empty());
+        EXPECT_TRUE(zvRecordingLogger::lines("warn").empty());
+    });
+}
+
+struct Observer : zvTransferObserver {
+    void fileTransferred(const zvString&, zvInt64, zvInt64) override {}
+    void notice(const zvString& text) override {
+        told.push_back(narrow(text));
+        throw zvException("nobody catches this");
+    }
+    Lines told;
+};
+
+TEST_F(zvFSClientTest, NoticesReachTheLogAndTheObserver) {
+    Client& client = connect("notice=Retry 1 of 3, \\u20AC");
+    Observer observer;
+    Client::setObserver(&observer);
+    client.put("l", "r");
+    Client::setObserver(nullptr);
+    client.put("l", "r");
+    EXPECT_EQ(observer.told, Lines{u8"Retry 1 of 3, \u20AC"});
+    EXPECT_EQ(zvRecordingLogger::lines("warn"), (Lines(2, u8"Retry 1 of 3, \u20AC")));
+    EXPECT_EQ(calls().size(), 2U);
+}
+
+TEST_F(zvFSClientTest, TheDeliveredClientTellsItsRetriesWhileItConnects) {
+    const zvScopedVariable classPath("CLASSPATH", ZV_CLIENT_JAR);
+    inProcessOfItsOwn([this] {
+        Observer observer;
+        Client::setObserver(&observer);
+        const std::string script = "url=ftp://127.0.0.1:1\nretries=2\nretry-delay=0";
+        EXPECT_NE(messageThrownBy([&] { Client::getInstance(configuration(script).c_str()); }), "");
+        Client::setObserver(nullptr);
+        ASSERT_EQ(observer.told.size(), 2U);
+        const std::string expected = "Cannot connect to ftp://127.0.0.1:1: Connection refused";
+        EXPECT_EQ(observer.told[0].substr(0, expected.size()), expected);
+        EXPECT_NE(observer.told[1].find("; retry 2 of 2 in 0.0 s"), std::string::npos);
+    });
+}
+
+TEST_F(zvFSClientTest, SecretsAreGivenToJavaWhileItConnectsAndToNobodyElse) {
+    inProcessOfItsOwn([this] {
+        Client::setSecret("ftp", "old");
+        Client::setSecret("ftp", u"Secret-7 \u20AC");
+        Client::setSecret("", "no name");
+        const std::string path = configuration("secret=ftp");
+        Client& client = *Client::getInstance(path.c_str());
+        client.mkDir("d");
+        EXPECT_EQ(calls(), (Lines{"initialize(" + path + ") Secret-7 \\u20AC",
+                                  "getFileServerClient() Secret-7 \\u20AC", "connect() Secret-7 \\u20AC",
+                                  "mkDir(d) null"}));
+        for (const std::string& line : zvRecordingLogger::lines()) {
+            EXPECT_EQ(line.find("Secret-7"), std::string::npos);
+        }
+    });
 }
 
 TEST_F(zvFSClientTest, AMissingJavaClientIsAnException) {

@@ -59,6 +59,37 @@ TEST_F(zvFSClientUtilTest, CreatesTheEventsDirectory) {
     EXPECT_EQ(calls(), Lines{"mkDir(1300)"});
 }
 
+TEST_F(zvFSClientUtilTest, ANewEventsDirectoryMustNotExist) {
+    connect("exists=1300");
+    const zvResult result = zvFSClientUtil::createNewShadowDir(m_args);
+    EXPECT_EQ(result.getResult(), zvFSClientUtil::directoryExists);
+    EXPECT_TRUE(zvResult::isBusinessFailure(result.getFailureType()));
+    const std::string message =
+        "The event in [" + m_folder.file("root") +
+        "\\1300] needs a new directory [1300] on the file server, which has one of this "
+        "name already";
+    EXPECT_EQ(narrow(result.getMessage()), message);
+    EXPECT_EQ(zvRecordingLogger::lines("error"), Lines{message});
+    m_args.setEventArgument("EventShadowDir", "1301");
+    EXPECT_TRUE(zvFSClientUtil::createNewShadowDir(m_args).isOk());
+    EXPECT_EQ(calls(), (Lines{"mkNewDir(1300)", "mkNewDir(1301)"}));
+}
+
+TEST_F(zvFSClientUtilTest, TheObserverOfATransferIsToldItsNotices) {
+    struct Listener : Observer {
+        void notice(const zvString& text) override { told.push_back(narrow(text)); }
+    };
+    connect("notice=continued");
+    Listener everything;
+    Listener transfer;
+    zvFSClient::setObserver(&everything);
+    EXPECT_TRUE(zvFSClientUtil::uploadEventFiles(m_args, m_attachments, &transfer).isOk());
+    EXPECT_TRUE(zvFSClientUtil::uploadEventFiles(m_args, m_attachments).isOk());
+    zvFSClient::setObserver(nullptr);
+    EXPECT_EQ(std::count(transfer.told.begin(), transfer.told.end(), "continued"), 2);
+    EXPECT_EQ(everything.told, (Lines{"continued", "continued"}));
+}
+
 TEST_F(zvFSClientUtilTest, UploadsEveryFileInItsOwnModeAndRemovesThem) {
     m_folder.write("a/text.txt", "12345");
     m_folder.write("b/picture", "123");
@@ -72,12 +103,20 @@ TEST_F(zvFSClientUtilTest, UploadsEveryFileInItsOwnModeAndRemovesThem) {
     const zvResult result = zvFSClientUtil::uploadEventFiles(m_args, m_attachments, &observer);
     EXPECT_TRUE(result.isOk());
     EXPECT_TRUE(result.getAdditionalInformation().empty());
-    const Lines expected = {
-        "setFileTransferMode(0)", put("root/1300/1300_data.xml", "1300/1300_data.xml"),
-        "setFileTransferMode(0)", put("root/1300/1300_attachments.xml", "1300/1300_attachments.xml"),
-        "setFileTransferMode(1)", put("a/text.txt", "1300/text.txt"),
-        "setFileTransferMode(0)", put("b/picture", "1300/picture"),
-        "setFileTransferMode(0)", put("b/twice", "1300/twice")};
+    const std::string binaries = m_folder.file("root/1300/1300_data.xml") + " " +
+                                 m_folder.file("root/1300/1300_attachments.xml") + " " +
+                                 m_folder.file("b/picture") + " " + m_folder.file("b/twice");
+    const Lines expected = {"removeLeftovers(1300,java.util.ArrayList[" + binaries + "])",
+                            "setFileTransferMode(0)",
+                            put("root/1300/1300_data.xml", "1300/1300_data.xml"),
+                            "setFileTransferMode(0)",
+                            put("root/1300/1300_attachments.xml", "1300/1300_attachments.xml"),
+                            "setFileTransferMode(1)",
+                            put("a/text.txt", "1300/text.txt"),
+                            "setFileTransferMode(0)",
+                            put("b/picture", "1300/picture"),
+                            "setFileTransferMode(0)",
+                            put("b/twice", "1300/twice")};
     EXPECT_EQ(calls(), expected);
     EXPECT_EQ(observer.told.size(), 5U);
     EXPECT_EQ(observer.told[2], path("a/text.txt") + " 5");
@@ -138,6 +177,9 @@ TEST_F(zvFSClientUtilTest, AFailureOnTheServerKeepsEveryLocalFileAndNamesTheOneT
     const Helper create = [](const zvEventArguments& args, const zvAttachmentList&, zvTransferObserver*) {
         return zvFSClientUtil::createShadowDir(args);
     };
+    const Helper createNew = [](const zvEventArguments& args, const zvAttachmentList&, zvTransferObserver*) {
+        return zvFSClientUtil::createNewShadowDir(args);
+    };
     const std::string data = m_folder.file("root") + "\\1300\\1300_data.xml";
     struct Case {
         Helper helper;
@@ -145,6 +187,9 @@ TEST_F(zvFSClientUtilTest, AFailureOnTheServerKeepsEveryLocalFileAndNamesTheOneT
     };
     const Case cases[] = {
         {create, "mkDir", "Error in creating directory [1300]: full"},
+        {createNew, "mkNewDir", "Error in creating directory [1300]: full"},
+        {zvFSClientUtil::uploadEventFiles, "removeLeftovers",
+         "Error in removing incomplete files in directory [1300]: full"},
         {zvFSClientUtil::uploadEventFiles, "put", "Error in uploading file [" + data + "]: full"},
         {zvFSClientUtil::uploadEventFiles, "setFileTransferMode",
          "Error in uploading file [" + data + "]: full"},
@@ -214,8 +259,13 @@ TEST_F(zvFSClientUtilTest, AnEventGoesToTheFileServerAndBack) {
         m_folder.write("a/" + name, "some\ntext");
         attach(path("a/" + name), 1);
         connect("url=file://" + m_folder.file("server"));
+        EXPECT_TRUE(zvFSClientUtil::createNewShadowDir(m_args).isOk());
+        EXPECT_EQ(zvFSClientUtil::createNewShadowDir(m_args).getResult(), zvFSClientUtil::directoryExists);
         EXPECT_TRUE(zvFSClientUtil::createShadowDir(m_args).isOk());
+        m_folder.write("server/1300/.zv-0123456789abcdef0123456789abcdef.part", "");
+        connect("url=file://" + m_folder.file("server"));  // going on
         EXPECT_EQ(narrow(zvFSClientUtil::uploadEventFiles(m_args, m_attachments).getMessage()), "");
+        EXPECT_FALSE(isThere("server/1300/.zv-0123456789abcdef0123456789abcdef.part"));
         EXPECT_FALSE(isThere("a/" + name));
         zvStringList names;
         zvFSClient::getInstance()->list("1300", names);

@@ -28,22 +28,35 @@ parser.add_argument("--read-only", action="store_true")
 parser.add_argument("--listing", metavar="NAME", help="lists one more file, of this name")
 parser.add_argument("--endless-listing", action="store_true")
 parser.add_argument("--echo-password", action="store_true", help="tells the password when it refuses it")
-parser.add_argument("--fault", choices=["exit", "drop", "stop", "cut"], help="what happens in the middle of a transfer")
+parser.add_argument("--unknown", metavar="COMMANDS", default="", help="that it does not know, with commas")
+parser.add_argument("--forget-rest", action="store_true", help="accepts REST, and stores from the start")
+parser.add_argument("--ignore-ascii", action="store_true", help="accepts TYPE A, and converts nothing")
+parser.add_argument("--system", metavar="NAME", help="its answer to SYST")
+parser.add_argument("--pasv-host", metavar="IP", help="the host that its answers to PASV name")
+parser.add_argument("--log", metavar="FILE", help="gets the commands, and the number of bytes of each upload")
+parser.add_argument("--fault", choices=["exit", "drop", "stop", "cut", "mkd"],
+                    help="what happens in the middle of a transfer; mkd: no answer to MKD, which was carried out")
+parser.add_argument("--fault-after", metavar="BYTES", type=int, default=1 << 20)
 parser.add_argument("--faults", type=int, default=1000, help="how often it happens")
 options = parser.parse_args()
 
-FAULT_AFTER = 1 << 20
-UNKNOWN_TO_OLD = ("MLST", "MLSD", "SIZE", "FEAT")
+UNKNOWN = set(options.unknown.split(",")) | ({"MLST", "MLSD", "SIZE", "FEAT"} if options.old else set())
+
+
+def log(line):
+    if options.log:
+        with open(options.log, "a", encoding="utf-8") as file:
+            print(line, file=file)
 
 
 class CutFile(io.FileIO):
     """Ends early, and nobody notices."""
 
     def read(self, size=-1):
-        return super().read(min(size, FAULT_AFTER - self.tell()))
+        return super().read(min(size, options.fault_after - self.tell()))
 
     def write(self, data):
-        return super().write(data[:FAULT_AFTER - self.tell()])
+        return super().write(data[:options.fault_after - self.tell()])
 
 
 class Files(AbstractedFS):
@@ -70,10 +83,11 @@ class Files(AbstractedFS):
 
 
 def fail(channel, count):
-    if options.faults == 0 or options.fault is None or count < FAULT_AFTER:
+    if options.faults == 0 or options.fault is None or count < options.fault_after:
         return
     options.faults -= 1
     if options.fault == "exit":
+        log(f"received {channel.tot_bytes_received}")
         os._exit(1)
     elif options.fault == "stop":
         time.sleep(3600)
@@ -83,6 +97,14 @@ def fail(channel, count):
 
 class Faulty:
     """Of a data channel."""
+
+    def enable_receiving(self, type, cmd):
+        super().enable_receiving("i" if options.ignore_ascii else type, cmd)
+
+    def close(self):
+        if not self._closed and self.tot_bytes_received:
+            log(f"received {self.tot_bytes_received}")
+        super().close()
 
     def send(self, data):
         sent = super().send(data)
@@ -117,10 +139,27 @@ class Session:
             super().handle_auth_failed(msg, password)
 
     def pre_process_command(self, line, cmd, arg):
-        if options.old and cmd in UNKNOWN_TO_OLD:
-            self.respond("500 Command not understood.")
+        log(line)
+        super().pre_process_command(line, cmd, arg)
+
+    def ftp_REST(self, line):
+        super().ftp_REST(line)
+        if options.forget_rest:
+            self._restart_position = 0
+
+    def ftp_SYST(self, line):
+        if options.system:
+            self.respond(f"215 {options.system}")
         else:
-            super().pre_process_command(line, cmd, arg)
+            super().ftp_SYST(line)
+
+    def ftp_MKD(self, path):
+        if options.fault == "mkd" and options.faults > 0:
+            options.faults -= 1
+            os.mkdir(path)
+            self.close()
+            return None
+        return super().ftp_MKD(path)
 
 
 def make_certificate(path):
@@ -166,6 +205,8 @@ logging.basicConfig(level=logging.CRITICAL)
 if options.tls:
     make_certificate(options.tls)
 handler = SecureHandler if options.tls else PlainHandler
+handler.masquerade_address = options.pasv_host
+handler.proto_cmds = {name: command for name, command in handler.proto_cmds.items() if name not in UNKNOWN}
 handler.authorizer = DummyAuthorizer()
 handler.authorizer.add_user("gate", "Secret-7", options.root, perm="elr" if options.read_only else "elradfmwMT")
 # Exits with the test, which holds the other end of the pipe.

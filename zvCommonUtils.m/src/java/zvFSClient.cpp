@@ -1,6 +1,10 @@
 #include "zvFSClient.h"
 
+#include <map>
+#include <optional>
+
 #include "zvC2JBridge.h"
+#include "zvFSNotices.h"
 #include "zvLogSource.h"
 
 namespace {
@@ -41,6 +45,61 @@ constexpr Operation setTransferMode{"setFileType", "setFileTransferMode", "(I)V"
     logger.fatal(text);
     fail(text, additionalInformation);
 }
+
+// A client of the site's own may lack these.
+constexpr Operation makeNewDirectory{"mkNewDir", "mkNewDir", "(Ljava/lang/String;)Z"};
+constexpr Operation removeLeftoverFiles{"removeLeftovers", "removeLeftovers",
+                                        "(Ljava/lang/String;Ljava/util/List;)V"};
+
+using Secrets = std::map<zvString, zvString>;
+
+Secrets& knownSecrets() {
+    static Secrets secrets;
+    return secrets;
+}
+
+// RAII guard that gives Java the secrets, as system properties, as long as it reads its configuration.
+class GivenSecrets {
+public:
+    explicit GivenSecrets(JNIEnv& env) : m_env(env) {
+        for (const auto& [name, value] : knownSecrets()) {
+            call("setProperty", "(Ljava/lang/String;Ljava/lang/String;)Ljava/lang/String;", name, value);
+        }
+    }
+    GivenSecrets(const GivenSecrets&) = delete;
+    GivenSecrets& operator=(const GivenSecrets&) = delete;
+    ~GivenSecrets() {
+        for (const auto& secret : knownSecrets()) {
+            call("clearProperty", "(Ljava/lang/String;)Ljava/lang/String;", secret.first);
+        }
+    }
+
+private:
+    // What was not given shows as a missing secret.
+    template <typename... Values>
+    void call(const char* method, const char* signature, const zvString& name,
+              const Values&... values) const {
+        const zvJniFrame frame(m_env);
+        try {
+            frame.callStatic<jobject>("java.lang.System", method, signature,
+                                      frame.toJava(zvTextBuilder::concat("zv.secret.", name)),
+                                      frame.toJava(values)...);
+        } catch (const zvJavaThrown&) {
+            logger.warn("A secret could not be given to Java");
+        }
+    }
+
+    JNIEnv& m_env;
+};
+
+// The path with this system's separators; Java needs no narrow copy.
+zvString native(const zvString& path) {
+    zvString translated(path);
+    translated.replace("\\", zvPlatform::nativePath("\\").c_str());
+    return translated;
+}
+
+bool isTrue(const zvJniFrame&, jboolean answer) { return answer == JNI_TRUE; }
 
 }  // namespace
 
@@ -107,6 +166,7 @@ struct zvFSClient::Impl {
                 factoryClass, "getInstance", "()Lcom/vantorel/ep/products/fsclient/FileServerClientFactory;");
             factory = frame.env().NewGlobalRef(instance);
             logger.info("Got instance of [", describe(frame, factory), "]");
+            zvFSNotices::receive(frame);
             logger.info("Initializing FileServerClientFactory");
             logger.info("Config file path [", configPath, "]");
             frame.call<void>(factory, "initialize", "(Ljava/lang/String;)V", frame.toJava(configPath));
@@ -124,6 +184,14 @@ struct zvFSClient::Impl {
         });
     }
 
+    // Whether the connected client is one of the site's own that lacks the operation; looked up once.
+    bool lacks(const Operation& operation, std::optional<bool>& known) const {
+        if (connected && !known.has_value()) {
+            known = zvJniFrame(env()).findMethod(client, operation.method, operation.signature) == nullptr;
+        }
+        return known.value_or(false);
+    }
+
     // The object's toString() for the log; empty if the log is not read or the call fails.
     static zvString describe(const zvJniFrame& frame, jobject object) {
         try {
@@ -137,6 +205,8 @@ struct zvFSClient::Impl {
     jobject factory = nullptr;
     jobject client = nullptr;
     bool connected = false;
+    std::optional<bool> lacksNewDirectory;
+    std::optional<bool> lacksLeftovers;
 };
 
 zvFSClient* zvFSClient::m_pFSClient = nullptr;
@@ -157,6 +227,10 @@ zvFSClient* zvFSClient::getInstance(const zvString& configPath) {
 }
 
 zvFSClient* zvFSClient::getInstance() { return m_pFSClient; }
+
+void zvFSClient::setSecret(const zvString& name, const zvString& value) { knownSecrets()[name] = value; }
+
+void zvFSClient::setObserver(zvTransferObserver* observer) { zvFSNotices::setObserver(observer); }
 
 void zvFSClient::destroyInstance() {
     if (m_pFSClient == nullptr) {
@@ -179,7 +253,7 @@ void zvFSClient::initialize(const zvString& configPath) {
                     zvTextBuilder::concat("The Java virtual machine was looked for in ",
                                           zvC2JBridge::searchedPlaces()));
     }
-    m_pImpl->env();
+    const GivenSecrets secrets(m_pImpl->env());
     m_pImpl->createFactory(configPath);
     m_pImpl->createClient();
     connect();
@@ -245,10 +319,37 @@ void zvFSClient::mkDir(const zvString& dir) {
     logger.info("Successfully created directory [", dir, "]");
 }
 
+bool zvFSClient::mkNewDir(const zvString& dir) {
+    if (m_pImpl->lacks(makeNewDirectory, m_pImpl->lacksNewDirectory)) {
+        const bool isNew = !exists(dir);
+        if (isNew) {
+            mkDir(dir);
+        }
+        return isNew;
+    }
+    logger.info("Creating new directory [", dir, "] on FileServer");
+    const bool created = m_pImpl->invokeAndReceive<jboolean>(makeNewDirectory, isTrue, dir);
+    logger.info(created ? "Successfully created new directory [" : "There is already a directory [", dir,
+                "]");
+    return created;
+}
+
+void zvFSClient::removeLeftovers(const zvString& dir, const zvStringList& localFiles) {
+    if (m_pImpl->lacks(removeLeftoverFiles, m_pImpl->lacksLeftovers)) {
+        return;
+    }
+    logger.info("Removing incomplete files in FileServer directory [", dir, "]");
+    zvStringList files;
+    for (int i = 0; i < localFiles.numStrings(); ++i) {
+        files.addString(native(localFiles.getString(i)));
+    }
+    m_pImpl->invoke(removeLeftoverFiles, dir, &files);
+    logger.info("Successfully removed incomplete files in FileServer directory");
+}
+
 bool zvFSClient::exists(const zvString& path) {
     logger.info("Checking if file [", path, "] exists on FileServer");
-    const bool found = m_pImpl->invokeAndReceive<jboolean>(
-        testExistence, [](const zvJniFrame&, jboolean answer) { return answer == JNI_TRUE; }, path);
+    const bool found = m_pImpl->invokeAndReceive<jboolean>(testExistence, isTrue, path);
     logger.info("File [", path, found ? "] exists on FileServer" : "] does not exists on FileServer");
     return found;
 }

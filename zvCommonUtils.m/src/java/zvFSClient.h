@@ -6,6 +6,7 @@
 #include "zvCoreObject.h"
 #include "zvString.h"
 #include "zvStringList.h"
+#include "zvTransferObserver.h"
 
 /// The connection to the file server, a singleton over the Java file-server client on CLASSPATH.
 ///
@@ -27,6 +28,13 @@ public:
     static zvFSClient* getInstance(const zvString& configPath);
     /// The instance; null if it was not created.
     static zvFSClient* getInstance();
+    /// Sets a secret to which the configuration refers as ${secret:NAME}. Java gets the secrets from
+    /// getInstance(configPath), as the system properties zv.secret.NAME, until it returns. They are not
+    /// logged, and appear neither in the environment nor on a command line.
+    static void setSecret(const zvString& name, const zvString& value);
+    /// Sets the observer of the client's notices, which is not owned and may be set before the instance is
+    /// created; null for none.
+    static void setObserver(zvTransferObserver* observer);
     /// Disconnects and deletes the instance, if any; a failure is only logged. The JVM keeps running.
     static void destroyInstance();
 
@@ -44,6 +52,14 @@ public:
     void put(const zvString& localDir, const zvString& remoteDir, const zvString& filter);
     /// Creates a remote directory and its missing parents.
     void mkDir(const zvString& dir);
+    /// Creates a remote directory for this caller alone, and its missing parents: of several clients that try
+    /// it only one succeeds. Returns false if there is something of that name already. With a Java client of
+    /// the site's own that cannot do this, another client may create the directory between test and creation.
+    bool mkNewDir(const zvString& dir);
+    /// Removes what interrupted transfers have left in a remote directory, except what the binary uploads of
+    /// some files to it would continue. Nobody else may transfer files into the directory at the time. Does
+    /// nothing with a Java client of the site's own that cannot do this.
+    void removeLeftovers(const zvString& dir, const zvStringList& localFiles);
     /// Whether a file or directory exists on the server.
     bool exists(const zvString& path);
     /// Appends the names of the entries of a remote directory to `out`, which is unchanged on failure.

@@ -10,6 +10,7 @@
 #include "zvCharString.h"
 #include "zvDirFileUtils.h"
 #include "zvFSClient.h"
+#include "zvFSNotices.h"
 #include "zvLogSource.h"
 #include "zvPath.h"
 #include "zvPlatform.h"
@@ -132,6 +133,27 @@ void onFileServer(const char* what, const zvString& subject, Action action) {
     }
 }
 
+// RAII guard for the observer of a transfer, if any.
+class NoticeGuard {
+public:
+    explicit NoticeGuard(zvTransferObserver* observer) : m_bSet(observer != nullptr) {
+        if (m_bSet) {
+            m_pBefore = zvFSNotices::setObserver(observer);
+        }
+    }
+    NoticeGuard(const NoticeGuard&) = delete;
+    NoticeGuard& operator=(const NoticeGuard&) = delete;
+    ~NoticeGuard() {
+        if (m_bSet) {
+            zvFSNotices::setObserver(m_pBefore);
+        }
+    }
+
+private:
+    const bool m_bSet;
+    zvTransferObserver* m_pBefore = nullptr;
+};
+
 void tell(zvTransferObserver& observer, const zvString& local, std::chrono::steady_clock::time_point start) {
     const auto duration = std::chrono::steady_clock::now() - start;
     std::error_code error;
@@ -154,6 +176,18 @@ void transfer(const EventFile& file, const zvString& local, const zvString& remo
     if (observer != nullptr) {
         tell(*observer, local, start);
     }
+}
+
+// Before the files are sent: some of them may continue what is there.
+void removeLeftovers(const EventFiles& files, const zvString& remoteDir) {
+    zvStringList binaryFiles;
+    for (const EventFile& file : files) {
+        if (file.mode == binary) {
+            binaryFiles.addString(file.path);
+        }
+    }
+    onFileServer("Error in removing incomplete files in directory [", remoteDir,
+                 [&] { client().removeLeftovers(remoteDir, binaryFiles); });
 }
 
 // @return the paths that could not be removed.
@@ -190,6 +224,24 @@ zvResult zvFSClientUtil::createShadowDir(const zvEventArguments& args) {
     });
 }
 
+zvResult zvFSClientUtil::createNewShadowDir(const zvEventArguments& args) {
+    return resultOf([&](zvResult& result) {
+        const zvString localDir = localDirectory(args);
+        const zvString directory = required(args, "EventShadowDir");
+        zvFSClient& server = client();
+        bool created = false;
+        onFileServer("Error in creating directory [", directory,
+                     [&] { created = server.mkNewDir(directory); });
+        if (!created) {
+            result.setResult(directoryExists);
+            result.setMessage(
+                zvTextBuilder::concat("The event in [", localDir, "] needs a new directory [", directory,
+                                      "] on the file server, which has one of this name already"));
+            logger.error("", result.getMessage());
+        }
+    });
+}
+
 zvResult zvFSClientUtil::uploadEventFiles(const zvEventArguments& args, const zvAttachmentList& attachments,
                                           zvTransferObserver* observer) {
     return resultOf([&](zvResult& result) {
@@ -205,7 +257,8 @@ zvResult zvFSClientUtil::uploadEventFiles(const zvEventArguments& args, const zv
             toBeSent.push_back(file);
         }
         const zvString remoteDir = required(args, "EventShadowDir");
-        client();
+        const NoticeGuard guard(observer);
+        removeLeftovers(toBeSent, remoteDir);
         for (const EventFile& file : toBeSent) {
             transfer(file, file.path, remoteDir, upload, observer);
         }
@@ -223,6 +276,7 @@ zvResult zvFSClientUtil::downloadEventFiles(const zvEventArguments& args, const 
             logger.raise("The directory [", localDir, "] cannot be created");
         }
         const zvString remoteDir = required(args, "EventShadowDir");
+        const NoticeGuard guard(observer);
         client();
         for (const EventFile& file : files) {
             transfer(file, zvPath::join(localDir, file.name), remoteDir, download, observer);

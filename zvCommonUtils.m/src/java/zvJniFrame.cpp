@@ -71,6 +71,19 @@ jmethodID zvJniFrame::method(jobject object, const char* name, const char* signa
     return checked([&] { return m_env.GetMethodID(type, name, signature); });
 }
 
+jmethodID zvJniFrame::findMethod(jobject object, const char* name, const char* signature) const {
+    try {
+        return method(object, name, signature);
+    } catch (const zvJavaThrown&) {
+        return nullptr;
+    }
+}
+
+void zvJniFrame::registerNative(const char* className, const JNINativeMethod& method) const {
+    jclass const type = findClass(className);
+    checked([&] { return m_env.RegisterNatives(type, &method, 1); });
+}
+
 jstring zvJniFrame::toJava(const zvString& text) const {
     constexpr jchar none[] = {0};
     return checked([&] { return m_env.NewString(text.empty() ? none : text.data(), text.size()); });

@@ -35,6 +35,10 @@ public:
 
     jclass findClass(const char* name) const;
     jmethodID method(jobject object, const char* name, const char* signature) const;
+    /// The method; null if the object has none of that name and signature, and for null.
+    jmethodID findMethod(jobject object, const char* name, const char* signature) const;
+    /// Makes a function the implementation of a static native method.
+    void registerNative(const char* className, const JNINativeMethod& method) const;
 
     /// `Result` is void, jboolean or a reference type; an argument is a reference or a jint.
     template <typename Result, typename... Arguments>

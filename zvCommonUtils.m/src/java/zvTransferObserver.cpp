@@ -5,3 +5,5 @@ zvTransferObserver::~zvTransferObserver() = default;
 bool zvTransferObserver::hasArrived(const zvString&) { return false; }
 
 void zvTransferObserver::fileBegins(const zvString&) {}
+
+void zvTransferObserver::notice(const zvString&) {}

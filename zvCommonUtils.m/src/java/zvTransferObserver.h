@@ -4,7 +4,7 @@
 #include "zvString.h"
 #include "zvTypes.h"
 
-/// The observer of a transfer, called for each file with its local path.
+/// The observer of a transfer, called for each file with its local path, in the thread that transfers.
 class ZV_EXPORT zvTransferObserver {
 public:
     virtual ~zvTransferObserver();
@@ -16,6 +16,10 @@ public:
     virtual void fileBegins(const zvString& local);
     /// Called after the file was transferred successfully, with its size and the duration.
     virtual void fileTransferred(const zvString& local, zvInt64 bytes, zvInt64 milliseconds) = 0;
+    /// Called at once when the file-server client tells something that does not end the operation, in one
+    /// line: a retry with its reason, a file that is continued, text that arrived with other line ends. What
+    /// it throws is ignored. The default does nothing.
+    virtual void notice(const zvString& text);
 };
 
 #endif

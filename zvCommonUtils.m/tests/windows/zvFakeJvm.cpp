@@ -105,6 +105,13 @@ void JNICALL callStaticVoid(JNIEnv*, jclass, jmethodID id, const jvalue* argumen
     recordCall("CallStaticVoidMethod", id, arguments);
 }
 
+jint JNICALL registerNatives(JNIEnv*, jclass, const JNINativeMethod* natives, jint count) {
+    for (jint i = 0; i < count; ++i) {
+        record(std::string("RegisterNatives ") + natives[i].name + natives[i].signature);
+    }
+    return JNI_OK;
+}
+
 jstring JNICALL newString(JNIEnv*, const jchar* units, jsize length) {
     return reference<jstring>(std::u16string(units, units + length));
 }
@@ -136,6 +143,7 @@ JNINativeInterface_ environmentFunctions() {
     functions.CallVoidMethodA = &callVoid;
     functions.CallStaticObjectMethodA = &callStaticObject;
     functions.CallStaticVoidMethodA = &callStaticVoid;
+    functions.RegisterNatives = &registerNatives;
     functions.NewString = &newString;
     functions.GetStringLength = &stringLength;
     functions.GetStringRegion = &stringRegion;

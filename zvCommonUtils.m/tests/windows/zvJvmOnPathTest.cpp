@@ -52,6 +52,8 @@ TEST_F(zvJvmOnPathTest, IsFoundOnPathAndDrivenThroughJni) {
               "CallStaticObjectMethod getInstance\n"
               "GetMethodID toString()Ljava/lang/String;\n"
               "CallObjectMethod toString\n"
+              "FindClass com/vantorel/ep/products/fsclient/Notices\n"
+              "RegisterNatives receive(Ljava/lang/String;)V\n"
               "GetMethodID initialize(Ljava/lang/String;)V\n"
               "CallVoidMethod initialize C:\\home\\client.properties\n"
               "GetMethodID getFileServerClient()Lcom/vantorel/ep/products/fsclient/FileServerClient;\n"

@@ -34,25 +34,38 @@ void offerClient() {
     }
 }
 
-// The connection to the file server, as long as it lives.
+// The exception with where Java was looked for, which is in its result's additional information.
+zvException detailed(const zvException& exception) {
+    const zvString detail = exception.getResult().getAdditionalInformation();
+    zvException result(exception);
+    if (!detail.empty()) {
+        result.setMessage(exception.getMessage() + ". " + detail);
+    }
+    return result;
+}
+
+// The connection to the file server, as long as it lives, with its observer.
 class Connection {
 public:
-    explicit Connection(const zvString& configuration) {
+    Connection(const zvString& configuration, zvTransferObserver& observer) {
         const zvProcess::SignalsUntouched signals;  // by the Java machine, which would end the process
+        zvFSClient::setObserver(&observer);
         try {
             zvFSClient::getInstance(zvDirFileUtils::nativePath(configuration));
         } catch (const zvException& exception) {
-            const zvString detail = exception.getResult().getAdditionalInformation();
-            zvException detailed(exception);
-            if (!detail.empty()) {
-                detailed.setMessage(exception.getMessage() + ". " + detail);
-            }
-            throw zvException(detailed);
+            close();
+            throw zvException(detailed(exception));
         }
     }
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
-    ~Connection() { zvFSClient::destroyInstance(); }
+    ~Connection() { close(); }
+
+private:
+    static void close() {
+        zvFSClient::destroyInstance();
+        zvFSClient::setObserver(nullptr);
+    }
 };
 
 zvInt64 sizeOf(const zvString& file) {
@@ -131,6 +144,16 @@ zvStepOutcome zvTransferStep::showFiles() {
     return zvStepOutcome::leftOut("dry run: " + zvConsole::counted(count, "file"));
 }
 
+bool zvTransferStep::isRemoteDirectoryInUse() const {
+    const zvString name = m_event.argument("EventShadowDir");
+    zvFSClient& server = *zvFSClient::getInstance();
+    zvStringList entries;
+    if (server.exists(name)) {
+        server.list(name, entries);
+    }
+    return entries.numStrings() > 0;
+}
+
 // A directory of the event's name that it has not made itself is another event's: of another root on the same
 // file server, or of an earlier one in the same second.
 void zvTransferStep::makeDirectory() {
@@ -140,31 +163,35 @@ void zvTransferStep::makeDirectory() {
         require(zvFSClientUtil::createShadowDir(*m_event.arguments));
         return;
     }
-    const zvString name = m_event.argument("EventShadowDir");
-    zvFSClient& server = *zvFSClient::getInstance();
-    // A claim without a directory of its own in the record may have been made good all the same; nothing was
-    // sent into it then.
-    zvStringList entries;
-    const bool isThere = server.exists(name);
-    if (isThere) {
-        server.list(name, entries);
-    }
-    if (isThere && (record.remoteDirectory() == State::unknown || entries.numStrings() > 0)) {
-        throw zvStepFailure{zvConsole::printable(name),
+    const auto refuse = [this] {
+        throw zvStepFailure{zvConsole::printable(m_event.argument("EventShadowDir")),
                             "this directory of the file server is not the event's, whose own is " +
                                 zvConsole::printablePath(m_event.directory()) +
                                 ": run the event anew, or remove that directory"};
+    };
+    if (record.remoteDirectory() == State::claimed) {
+        // It was killed before or after it made the directory; nothing was sent into it.
+        if (isRemoteDirectoryInUse()) {
+            refuse();
+        }
+        require(zvFSClientUtil::createShadowDir(*m_event.arguments));
+    } else {
+        record.setRemoteDirectory(State::claimed);
+        record.requireWritten();
+        const zvResult made = zvFSClientUtil::createNewShadowDir(*m_event.arguments);
+        if (made.getResult() == zvFSClientUtil::directoryExists) {
+            record.setRemoteDirectory(State::unknown);
+            refuse();
+        }
+        require(made);
     }
-    record.setRemoteDirectory(State::claimed);
-    record.requireWritten();
-    require(zvFSClientUtil::createShadowDir(*m_event.arguments));
     record.setRemoteDirectory(State::own);
     record.requireWritten();
 }
 
 zvStepOutcome zvTransferStep::send(const zvString& configuration) {
     offerClient();
-    const Connection connection(configuration);
+    const Connection connection(configuration, *this);
     makeDirectory();
     const zvResult sent = zvFSClientUtil::uploadEventFiles(*m_event.arguments, m_event.attachments, this);
     require(sent);
@@ -212,3 +239,5 @@ void zvTransferStep::fileTransferred(const zvString& local, zvInt64 bytes, zvInt
                         zvConsole::rate(static_cast<double>(bytes), static_cast<double>(milliseconds)));
     m_event.report.addFile({path, "sent", bytes, static_cast<double>(milliseconds)});
 }
+
+void zvTransferStep::notice(const zvString& text) { zvConsole::fact("notice", zvConsole::printable(text)); }

@@ -20,6 +20,7 @@ private:
     std::vector<zvString> files() const;
     bool isDone() const;
     zvStepOutcome showFiles();
+    bool isRemoteDirectoryInUse() const;
     void makeDirectory();
     zvStepOutcome send(const zvString& configuration);
     static void require(const zvResult& result);
@@ -27,6 +28,7 @@ private:
     bool hasArrived(const zvString& local) override;
     void fileBegins(const zvString& local) override;
     void fileTransferred(const zvString& local, zvInt64 bytes, zvInt64 milliseconds) override;
+    void notice(const zvString& text) override;
 
     zvGatewayEvent& m_event;
     zvInt64 m_sentBytes = 0;

@@ -13,8 +13,8 @@ import java.util.stream.Collectors;
 
 /**
  * Records the calls, one per line, in a file next to the configuration file, from which it reads their return
- * values. {@code throw.METHOD} is the class of an exception to throw, optionally followed by a blank and a
- * message.
+ * values. {@code secret} is the name of a secret whose value is recorded with each call. {@code throw.METHOD} is
+ * the class of an exception to throw, optionally followed by a blank and a message.
  */
 final class Recorder {
     private static final Properties SCRIPT = new Properties();
@@ -37,7 +37,9 @@ final class Recorder {
     static void record(String method, Object... arguments) throws Exception {
         if (answer("quiet") == null) {
             String line = method + Arrays.stream(arguments).map(Recorder::shown).collect(
-                    Collectors.joining(",", "(", ")\n"));
+                    Collectors.joining(",", "(", ")"));
+            String secret = answer("secret");
+            line += secret == null ? "\n" : " " + shown(System.getProperty("zv.secret." + secret)) + "\n";
             Files.write(calls, line.getBytes(StandardCharsets.US_ASCII), StandardOpenOption.CREATE,
                     StandardOpenOption.APPEND);
         }

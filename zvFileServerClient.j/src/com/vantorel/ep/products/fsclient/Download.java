@@ -11,26 +11,24 @@ import java.nio.file.StandardCopyOption;
  */
 final class Download {
     private final Transport transport;
-    private final Retry retry;
     private final TransferMode mode;
 
-    Download(Transport transport, Retry retry, TransferMode mode) {
+    Download(Transport transport, TransferMode mode) {
         this.transport = transport;
-        this.retry = retry;
         this.mode = mode;
     }
 
     /**
      * Downloads the file. An existing target is replaced; on failure it is unchanged.
      */
-    void run(RemotePath source, Path target) throws FileServerException {
+    void run(String what, Retry retry, RemotePath source, Path target) throws FileServerException {
         if (Files.exists(target) && !Files.isRegularFile(target)) {
             throw new FileServerException("'" + target + "' is not a regular file");
         }
         LocalFiles.directory(target.toAbsolutePath().getParent().toString());
         Path temporary = target.resolveSibling(TemporaryName.forArriving());
         try {
-            retry.run(() -> {
+            retry.run(what, () -> {
                 receive(source, temporary);
                 return null;
             });

@@ -1,9 +1,7 @@
 package com.vantorel.ep.products.fsclient;
 
-import java.util.ArrayDeque;
 import java.util.ArrayList;
 import java.util.Collection;
-import java.util.Deque;
 import java.util.List;
 import java.util.Map;
 
@@ -11,8 +9,9 @@ import java.util.Map;
  * Transfers files between this host and a file server.
  *
  * <p>The transfer of a file is atomic in both directions: an existing file is replaced only by a complete
- * one. When a connection breaks, the operation is retried over a new one, as often as configured. An
- * operation on several files validates all names first and stops at the first failure; files transferred
+ * one. When a connection breaks, the operation is retried over a new one, as often as configured, and the
+ * upload of a large binary file is continued, even by a later process on the same host. An operation on
+ * several files validates all names first and stops at the first failure; files transferred
  * before stay.
  *
  * <p>Remote paths are relative to the configured root, even with a leading separator; {@code /} and {@code \}
@@ -27,18 +26,23 @@ public final class FileServerClient {
     private final String url;
     private final Transport transport;
     private final Retry retry;
+    private final long resumeFrom;
+    /** The directory that was created last, where nobody can have left anything. */
+    private String newest;
     private TransferMode mode = TransferMode.BINARY;
     private boolean connected;
 
-    FileServerClient(String url, Transport transport, Retry retry) {
+    FileServerClient(String url, Transport transport, Retry retry, long resumeFrom) {
         this.url = url;
         this.transport = transport;
         this.retry = retry;
+        this.resumeFrom = resumeFrom;
     }
 
     /** Connects and logs in, which is required before any file operation. Idempotent. */
     public void connect() throws FileServerException {
-        explained("connect to " + url, () -> retry.run(() -> null));
+        String what = "connect to " + url;
+        explained(what, () -> retry.run(what, () -> null));
         connected = true;
     }
 
@@ -87,8 +91,10 @@ public final class FileServerClient {
     public void get(String remoteDir, String localDir, String filter) throws FileServerException {
         String what = "get files '" + filter + "' from remote directory '" + remoteDir + "' to local directory '"
                 + localDir + "'";
-        List<FilePair> pairs = onServer(what,
-                () -> FilePair.of(remoteDir, localDir, matching(filter, remoteFileNames(RemotePath.of(remoteDir)))));
+        List<FilePair> pairs = onServer(what, () -> {
+            Collection<String> names = remoteFileNames(what, RemotePath.of(remoteDir));
+            return FilePair.of(remoteDir, localDir, matching(filter, names));
+        });
         for (FilePair pair : pairs) {
             fetch(pair);
         }
@@ -128,10 +134,49 @@ public final class FileServerClient {
 
     /** Creates a directory and its missing parents. Idempotent. */
     public void mkDir(String dir) throws FileServerException {
-        onServer("make directory '" + dir + "' on the file server", () -> {
+        String what = "make directory '" + dir + "' on the file server";
+        onServer(what, () -> {
             RemotePath directory = RemotePath.of(dir);
-            return retry.run(() -> {
-                makeDirectories(directory);
+            Directories directories = new Directories(transport);
+            return noteNew(directory, retry.run(what, () -> directories.make(directory)));
+        });
+    }
+
+    /**
+     * Creates a directory, and its missing parents, for the caller alone: of several clients that try it only
+     * one succeeds.
+     *
+     * @return false when there is something of that name already
+     */
+    public boolean mkNewDir(String dir) throws FileServerException {
+        String what = "make new directory '" + dir + "' on the file server";
+        return onServer(what, () -> {
+            RemotePath directory = RemotePath.of(dir);
+            Directories directories = new Directories(transport);
+            return noteNew(directory, retry.run(what, () -> directories.makeNew(directory)));
+        });
+    }
+
+    /**
+     * Removes what interrupted transfers have left in a directory, except what the uploads of some files to it
+     * would continue. Nobody else may transfer files into the directory at the time. What the server does not
+     * let go stays.
+     *
+     * @param localFiles the paths of the files that are going to be uploaded in binary mode
+     */
+    public void removeLeftovers(String dir, List<String> localFiles) throws FileServerException {
+        String what = "remove incomplete files in directory '" + dir + "' of the file server";
+        onServer(what, () -> {
+            RemotePath directory = RemotePath.of(dir);
+            if (directory.toString().equals(newest)) {
+                return null;
+            }
+            Leftovers leftovers = new Leftovers(transport, directory, resumeFrom);
+            for (String localFile : localFiles) {
+                leftovers.keepFor(LocalFiles.path(localFile));
+            }
+            return retry.run(what, () -> {
+                leftovers.remove();
                 return null;
             });
         });
@@ -139,17 +184,19 @@ public final class FileServerClient {
 
     /** Whether a file, a directory or anything else exists at the path. */
     public boolean exists(String path) throws FileServerException {
-        return onServer("tell whether '" + path + "' exists on the file server", () -> {
+        String what = "tell whether '" + path + "' exists on the file server";
+        return onServer(what, () -> {
             RemotePath name = RemotePath.of(path);
-            return retry.run(() -> transport.kind(name)) != Transport.Kind.ABSENT;
+            return retry.run(what, () -> transport.kind(name)) != Transport.Kind.ABSENT;
         });
     }
 
     /** The names of all entries of a directory, sorted. */
     public String[] list(String dir) throws FileServerException {
-        return onServer("list directory '" + dir + "' of the file server", () -> {
+        String what = "list directory '" + dir + "' of the file server";
+        return onServer(what, () -> {
             List<String> names = new ArrayList<>();
-            for (String name : listing(RemotePath.of(dir)).keySet()) {
+            for (String name : listing(what, RemotePath.of(dir)).keySet()) {
                 names.add(RemotePath.checkFileName(name));
             }
             return names.toArray(new String[0]);
@@ -163,27 +210,36 @@ public final class FileServerClient {
     }
 
     private void fetch(FilePair pair) throws FileServerException {
-        onServer(fetching(pair.remote, pair.local), () -> {
-            new Download(transport, retry, mode).run(pair.remote, pair.local);
+        String what = fetching(pair.remote, pair.local);
+        onServer(what, () -> {
+            new Download(transport, mode).run(what, retry, pair.remote, pair.local);
             return null;
         });
     }
 
     private void send(FilePair pair) throws FileServerException {
-        onServer(sending(pair.local, pair.remote), () -> {
-            new Upload(transport, retry, mode, pair.local, pair.remote).run();
+        String what = sending(pair.local, pair.remote);
+        onServer(what, () -> {
+            new Upload(transport, mode, resumeFrom, pair.local, pair.remote).run(what, retry);
             return null;
         });
     }
 
-    private Map<String, Transport.Kind> listing(RemotePath directory) throws FileServerException {
-        Map<String, Transport.Kind> entries = retry.run(() -> transport.list(directory));
+    private boolean noteNew(RemotePath directory, boolean created) {
+        if (created) {
+            newest = directory.toString();
+        }
+        return created;
+    }
+
+    private Map<String, Transport.Kind> listing(String what, RemotePath directory) throws FileServerException {
+        Map<String, Transport.Kind> entries = retry.run(what, () -> transport.list(directory));
         entries.keySet().removeIf(TemporaryName::matches);
         return entries;
     }
 
-    private Collection<String> remoteFileNames(RemotePath directory) throws FileServerException {
-        Map<String, Transport.Kind> entries = listing(directory);
+    private Collection<String> remoteFileNames(String what, RemotePath directory) throws FileServerException {
+        Map<String, Transport.Kind> entries = listing(what, directory);
         entries.values().removeIf(kind -> kind != Transport.Kind.FILE);
         return entries.keySet();
     }
@@ -197,36 +253,6 @@ public final class FileServerClient {
             }
         }
         return matching;
-    }
-
-    private void makeDirectories(RemotePath directory) throws FileServerException {
-        Deque<RemotePath> missing = new ArrayDeque<>();
-        RemotePath path = directory;
-        Transport.Kind kind = transport.kind(path);
-        while (kind == Transport.Kind.ABSENT) {
-            missing.push(path);
-            path = path.parent();
-            kind = transport.kind(path);
-        }
-        if (kind != Transport.Kind.DIRECTORY) {
-            throw new FileServerException("'" + path + "' is not a directory");
-        }
-        while (!missing.isEmpty()) {
-            makeDirectory(missing.pop());
-        }
-    }
-
-    private void makeDirectory(RemotePath directory) throws FileServerException {
-        try {
-            transport.makeDirectory(directory);
-        } catch (BrokenConnectionException e) {
-            throw e;
-        } catch (FileServerException e) {
-            // Another process may have won the race.
-            if (transport.kind(directory) != Transport.Kind.DIRECTORY) {
-                throw e;
-            }
-        }
     }
 
     private static String fetching(Object remote, Object local) {

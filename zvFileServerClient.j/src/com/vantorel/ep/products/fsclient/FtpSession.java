@@ -21,6 +21,7 @@ final class FtpSession {
     private final FTPClient ftp;
     private final String root;
     private TransferMode currentMode;
+    private LineEnds lineEnds;
     private volatile boolean open = true;
 
     /** A command for the server. */
@@ -85,6 +86,16 @@ final class FtpSession {
         }
     }
 
+    /** The line ends of the server's system. */
+    LineEnds lineEnds() throws FileServerException {
+        if (lineEnds == null) {
+            boolean known = ask(client -> FTPReply.isPositiveCompletion(client.syst()));
+            // After the reply code.
+            lineEnds = known ? LineEnds.ofSystem(ftp.getReplyString().substring(3)) : LineEnds.UNKNOWN;
+        }
+        return lineEnds;
+    }
+
     /** Sends a command and fails on a negative reply. */
     void order(Command<Boolean> command) throws FileServerException {
         require(ask(command));
@@ -147,9 +158,8 @@ final class FtpSession {
         ftp.setDataTimeout(settings.timeout);
         ftp.setControlEncoding(settings.encoding.name());
         ftp.setBufferSize(BUFFER_SIZE);
-        if (settings.passive) {
-            ftp.enterLocalPassiveMode();
-        }
+        // Data goes to the host of the control connection, whatever host the reply to PASV names.
+        ftp.setIpAddressFromPasvResponse(false);
     }
 
     private void connect() throws FileServerException {
@@ -157,6 +167,10 @@ final class FtpSession {
             client.connect(settings.host, settings.port);
             client.setSoTimeout((int) settings.timeout.toMillis());
             client.setKeepAlive(true);
+            // Connecting resets it.
+            if (settings.passive) {
+                client.enterLocalPassiveMode();
+            }
             return FTPReply.isPositiveCompletion(client.getReplyCode());
         });
     }
@@ -164,7 +178,8 @@ final class FtpSession {
     private void login() throws FileServerException {
         boolean welcome = ask(client -> client.login(settings.user, settings.password));
         if (!welcome && FTPReply.isNegativePermanent(replyCode())) {
-            throw new FileServerException("the server refuses the login of user '" + settings.user + "': " + reply());
+            throw new FileServerException(
+                    "the server refuses the login of user '" + settings.shownUser() + "': " + reply());
         }
         require(welcome);
         ask(client -> {
@@ -204,13 +219,13 @@ final class FtpSession {
         return new BrokenConnectionException(masked(reason));
     }
 
-    private String reply() {
+    /** The last reply, for a message. */
+    String reply() {
         return masked(String.join(" ", Arrays.asList(ftp.getReplyStrings())));
     }
 
     /** Sanitises external text for a message: a server may echo the password in a reply. */
     private String masked(String text) {
-        String line = text.replaceAll("\\p{Cntrl}+", " ").trim();
-        return settings.password.isEmpty() ? line : line.replace(settings.password, "********");
+        return settings.masked(text.replaceAll("\\p{Cntrl}+", " ")).trim();
     }
 }

@@ -1,10 +1,12 @@
 package com.vantorel.ep.products.fsclient;
 
-import java.io.InputStream;
+import java.io.IOException;
 import java.io.OutputStream;
+import java.util.Set;
 import java.util.SortedMap;
 import java.util.TreeMap;
 import java.util.regex.Pattern;
+import org.apache.commons.net.ftp.FTPClient;
 import org.apache.commons.net.ftp.FTPFile;
 import org.apache.commons.net.ftp.FTPReply;
 
@@ -73,11 +75,23 @@ final class FtpTransport implements Transport {
 
     @Override
     public SortedMap<String, Kind> list(RemotePath directory) throws FileServerException {
+        return list(directory, false);
+    }
+
+    @Override
+    public Set<String> listHidden(RemotePath directory) throws FileServerException {
+        return list(directory, true).keySet();
+    }
+
+    private SortedMap<String, Kind> list(RemotePath directory, boolean hidden) throws FileServerException {
         String name = session.path(directory);
         // Changes the working directory, since servers may interpret an argument of LIST as an option or a
         // pattern.
         session.order(ftp -> ftp.changeWorkingDirectory(name));
-        FTPFile[] files = session.ask(ftp -> ftp.hasFeature("MLST") ? ftp.mlistDir() : ftp.listFiles());
+        FTPFile[] files = session.ask(ftp -> {
+            ftp.setListHiddenFiles(hidden);
+            return ftp.hasFeature("MLST") ? ftp.mlistDir() : ftp.listFiles();
+        });
         session.require(FTPReply.isPositiveCompletion(session.replyCode()));
         SortedMap<String, Kind> names = new TreeMap<>();
         for (FTPFile file : files) {
@@ -96,22 +110,43 @@ final class FtpTransport implements Transport {
     }
 
     @Override
-    public void send(InputStream source, TransferMode mode, RemotePath target) throws FileServerException {
+    public void send(LocalSource source, TransferMode mode, RemotePath target) throws FileServerException {
         String name = session.path(target);
         session.useMode(mode);
         try (StallGuard guard = new StallGuard(settings.timeout, session::drop)) {
             try {
-                session.order(ftp -> {
+                boolean stored = session.ask(ftp -> {
                     ftp.setCopyStreamListener(guard);
-                    boolean stored = ftp.storeFile(name, source);
+                    boolean done = store(ftp, name, source);
                     ftp.setCopyStreamListener(null);
-                    return stored;
+                    return done;
                 });
+                if (!stored && source.offset() > 0 && source.position() == source.offset()
+                        && session.replyCode() != FTPReply.CANNOT_OPEN_DATA_CONNECTION) {
+                    throw new ResumeRefusedException("the server answered '" + session.reply() + "'");
+                }
+                session.require(stored);
             } catch (BrokenConnectionException e) {
                 throw guard.stalled() ? new BrokenConnectionException(
                         "the server took nothing for " + settings.timeout.getSeconds() + " seconds") : e;
             }
         }
+    }
+
+    /** Without the feature the meaning of REST is the server's own; APPE is an old command of every server. */
+    private static boolean store(FTPClient ftp, String name, LocalSource source) throws IOException {
+        if (source.offset() > 0) {
+            if (!ftp.hasFeature("REST", "STREAM")) {
+                return ftp.appendFile(name, source);
+            }
+            ftp.setRestartOffset(source.offset());
+        }
+        return ftp.storeFile(name, source);
+    }
+
+    @Override
+    public LineEnds lineEnds() throws FileServerException {
+        return session.lineEnds();
     }
 
     @Override

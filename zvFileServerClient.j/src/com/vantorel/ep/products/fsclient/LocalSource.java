@@ -1,44 +1,59 @@
 package com.vantorel.ep.products.fsclient;
 
 import java.io.IOException;
+import java.nio.channels.Channels;
+import java.nio.channels.SeekableByteChannel;
 import java.nio.file.Files;
 import java.nio.file.Path;
 
 /**
- * An input stream of a local file that counts bytes and throws {@link FileServerException}s, which
- * distinguishes its failures from those of the network.
+ * An input stream of a local file, from an offset, that counts bytes and throws {@link FileServerException}s,
+ * which distinguishes its failures from those of the network.
  */
-final class LocalSource extends BulkInput {
-    private long count;
+class LocalSource extends BulkInput {
+    private final long offset;
+    private long position;
 
     /**
+     * @param offset the number of bytes to skip
      * @throws FileServerException when it is not a regular file that can be read
      */
-    static LocalSource open(Path file) throws FileServerException {
+    static LocalSource open(Path file, long offset) throws FileServerException {
+        return new LocalSource(channel(file, offset), offset);
+    }
+
+    LocalSource(SeekableByteChannel channel, long offset) {
+        super(Channels.newInputStream(channel));
+        this.offset = offset;
+        this.position = offset;
+    }
+
+    static SeekableByteChannel channel(Path file, long offset) throws FileServerException {
         if (Files.exists(file) && !Files.isRegularFile(file)) {
             throw new FileServerException("'" + file + "' is not a regular file");
         }
         try {
-            return new LocalSource(file);
+            return Files.newByteChannel(file).position(offset);
         } catch (IOException e) {
             throw LocalFiles.failure(e);
         }
     }
 
-    private LocalSource(Path file) throws IOException {
-        super(Files.newInputStream(file));
+    /** Where it began in the file. */
+    final long offset() {
+        return offset;
     }
 
-    /** The number of bytes read. */
-    long count() {
-        return count;
+    /** Where it is in the file. */
+    final long position() {
+        return position;
     }
 
     @Override
-    public int read(byte[] bytes, int offset, int length) throws IOException {
+    public int read(byte[] bytes, int start, int length) throws IOException {
         try {
-            int read = in.read(bytes, offset, length);
-            count += Math.max(read, 0);
+            int read = in.read(bytes, start, length);
+            position += Math.max(read, 0);
             return read;
         } catch (IOException e) {
             throw LocalFiles.failure(e);
@@ -46,7 +61,7 @@ final class LocalSource extends BulkInput {
     }
 
     @Override
-    public boolean markSupported() {
+    public final boolean markSupported() {
         return false;
     }
 }

@@ -80,6 +80,11 @@ final class LocalTransport implements Transport {
     }
 
     @Override
+    public Set<String> listHidden(RemotePath directory) throws FileServerException {
+        return list(directory).keySet();
+    }
+
+    @Override
     public void receive(RemotePath source, TransferMode mode, OutputStream target) throws FileServerException {
         Path file = regularFile(source);
         attempt(() -> {
@@ -90,18 +95,24 @@ final class LocalTransport implements Transport {
     }
 
     @Override
-    public void send(InputStream source, TransferMode mode, RemotePath target) throws FileServerException {
+    public void send(LocalSource source, TransferMode mode, RemotePath target) throws FileServerException {
         requireDirectory(target.parent());
         Path file = resolve(target);
         attempt(() -> {
             try (FileChannel channel = FileChannel.open(file, Set.of(StandardOpenOption.CREATE,
-                    StandardOpenOption.WRITE, StandardOpenOption.TRUNCATE_EXISTING, LinkOption.NOFOLLOW_LINKS))) {
+                    StandardOpenOption.WRITE, LinkOption.NOFOLLOW_LINKS))) {
+                channel.truncate(source.offset()).position(source.offset());
                 copy(source, Channels.newOutputStream(channel), mode);
                 // On disk before it is renamed, since the sender may delete its file after that.
                 channel.force(false);
                 return null;
             }
         });
+    }
+
+    @Override
+    public LineEnds lineEnds() {
+        return LineEnds.ofThisHost();
     }
 
     @Override
@@ -174,7 +185,7 @@ final class LocalTransport implements Transport {
             return source.transferTo(target);
         }
         InputStream text = new FromNetASCIIInputStream(source);
-        if (!System.lineSeparator().equals("\r\n")) {
+        if (LineEnds.ofThisHost() == LineEnds.LF) {
             return text.transferTo(target);
         }
         // On this system, CRLF is kept and a bare LF becomes CRLF.

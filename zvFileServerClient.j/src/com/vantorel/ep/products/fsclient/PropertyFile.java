@@ -68,6 +68,24 @@ final class PropertyFile {
         return exactly(key).trim();
     }
 
+    /**
+     * The value of a key, untrimmed, or the secret that it refers to.
+     *
+     * @throws FileServerException when there is no such secret
+     */
+    String confidential(String key) throws FileServerException {
+        String value = exactly(key);
+        String reference = value.trim();
+        if (!Secrets.isReference(reference)) {
+            return value;
+        }
+        try {
+            return Secrets.resolve(reference);
+        } catch (FileServerException e) {
+            throw failure(key, e.getMessage());
+        }
+    }
+
     /** Validates a value that is part of an FTP command: control characters would allow injection. */
     String word(String key, String value) throws FileServerException {
         if (value.chars().anyMatch(Character::isISOControl)) {

@@ -1,6 +1,7 @@
 package com.vantorel.ep.products.fsclient;
 
 import java.time.Duration;
+import java.util.concurrent.ThreadLocalRandom;
 
 /** Runs an operation over a transport and retries it over a new connection when the connection breaks. */
 final class Retry {
@@ -9,47 +10,65 @@ final class Retry {
         T run() throws FileServerException;
     }
 
+    private static final long LONGEST_DELAY = 60_000;
+    private static final int MOST_DOUBLINGS = 20;
+
     private final Transport transport;
     private final int retries;
-    private final Duration delay;
+    private final long delay;
 
     /**
      * @param retries the number of retries after the first attempt
-     * @param delay the back-off before each retry
+     * @param delay the back-off before the first retry, see {@link #backOff}
      */
     Retry(Transport transport, int retries, Duration delay) {
         this.transport = transport;
         this.retries = retries;
-        this.delay = delay;
+        this.delay = delay.toMillis();
     }
 
     /**
-     * Connects the transport if necessary and runs an operation.
+     * Connects the transport if necessary and runs an operation. Each retry is told as a notice.
      *
+     * @param what the operation, for the notice
      * @throws FileServerException the operation's own failure, or the last broken connection
      */
-    <T> T run(Operation<T> operation) throws FileServerException {
-        for (int left = retries;; --left) {
+    <T> T run(String what, Operation<T> operation) throws FileServerException {
+        for (int retry = 1;; ++retry) {
             try {
                 transport.connect();
                 return operation.run();
             } catch (BrokenConnectionException e) {
                 transport.disconnect();
-                if (left <= 0) {
+                if (retry > retries) {
                     throw new FileServerException(e.getMessage() + attempts(), e);
                 }
-                pause();
+                long pause = backOff(retry);
+                Notices.tell("Cannot " + what + ": " + e.getMessage() + "; retry " + retry + " of " + retries + " in "
+                        + Math.round(pause / 100.0) / 10.0 + " s");
+                pause(pause);
             }
         }
+    }
+
+    /**
+     * The milliseconds before a retry, the first of which is 1: doubled for each up to a minute, unless the
+     * first delay is longer already. Up to half of it is left to chance, so that clients do not all come back
+     * at once.
+     */
+    long backOff(int retry) {
+        long longest = Math.max(LONGEST_DELAY, delay);
+        long whole = Math.min(longest, delay << Math.min(retry - 1, MOST_DOUBLINGS));
+        return whole - ThreadLocalRandom.current().nextLong(whole / 2 + 1);
     }
 
     private String attempts() {
         return retries == 0 ? "" : " (after " + (retries + 1) + " attempts)";
     }
 
-    private void pause() throws FileServerException {
+    private static void pause(long milliseconds) throws FileServerException {
         try {
-            Thread.sleep(delay.toMillis());
+            Thread.sleep(milliseconds);
         } catch (InterruptedException e) {
             Thread.currentThread().interrupt();
             throw new FileServerException("interrupted while waiting for the next attempt", e);

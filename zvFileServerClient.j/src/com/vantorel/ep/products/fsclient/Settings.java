@@ -15,6 +15,9 @@ final class Settings {
     private static final int IMPLICIT_FTPS_PORT = 990;
     private static final int FTP_PORT = 21;
     private static final int ONE_DAY = 24 * 60 * 60;
+    private static final long MEBIBYTE = 1 << 20;
+    private static final int LARGEST_RESUME_FROM = 1_000_000;
+    private static final String MASK = "********";
 
     /** The URL schemes. */
     enum Scheme { FILE, FTP, FTPS }
@@ -29,11 +32,14 @@ final class Settings {
     /** The root, absolute or relative to the login directory; empty for the login directory itself. */
     final String serverPath;
     final String user;
+    private final boolean userIsSecret;
     final String password;
     final Duration connectTimeout;
     final Duration timeout;
     final int retries;
     final Duration retryDelay;
+    /** The size in bytes above which an upload that was cut off is continued. */
+    final long resumeFrom;
     final boolean passive;
     final Charset encoding;
     final boolean implicit;
@@ -68,17 +74,36 @@ final class Settings {
             port = uri.getPort() >= 0 ? uri.getPort() : usualPort;
             serverPath = file.word("url", uri.getPath().isEmpty() ? "" : uri.getPath().substring(1));
         }
-        user = file.word("user", file.text("user"));
+        user = file.word("user", file.confidential("user").trim());
+        userIsSecret = Secrets.isReference(file.text("user"));
         password = password(file);
         connectTimeout = seconds(file, "connect-timeout", 1);
         timeout = seconds(file, "timeout", 1);
         retries = file.number("retries", 1000);
         retryDelay = seconds(file, "retry-delay", 0);
+        resumeFrom = file.number("resume-from", LARGEST_RESUME_FROM) * MEBIBYTE;
         passive = file.flag("passive");
         encoding = encoding(file);
         protocols = file.words("ftps-protocols", "TLSv1.2", "TLSv1.3");
         certificates = certificates(file);
         checkHost = file.flag("ftps-check-host");
+    }
+
+    /** The user for a message. */
+    String shownUser() {
+        return userIsSecret ? MASK : user;
+    }
+
+    /** A text without the password, and without the user if that is a secret. */
+    String masked(String text) {
+        String masked = masked(text, password);
+        return userIsSecret ? masked(masked, user) : masked;
+    }
+
+    /** Blanks at the ends of a secret get lost in replies. */
+    private static String masked(String text, String secret) {
+        String core = secret.strip();
+        return core.isEmpty() ? text : text.replace(secret, MASK).replace(core, MASK);
     }
 
     private static URI uri(PropertyFile file, String url) throws FileServerException {
@@ -128,7 +153,7 @@ final class Settings {
     }
 
     private static String password(PropertyFile file) throws FileServerException {
-        String password = file.exactly("password");
+        String password = file.confidential("password");
         String variable = file.text("password-env");
         if (variable.isEmpty()) {
             return file.word("password", password);

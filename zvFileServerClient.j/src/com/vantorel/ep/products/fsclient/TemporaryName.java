@@ -1,5 +1,6 @@
 package com.vantorel.ep.products.fsclient;
 
+import java.nio.charset.StandardCharsets;
 import java.util.UUID;
 import java.util.regex.Pattern;
 
@@ -15,12 +16,17 @@ final class TemporaryName {
 
     /** A new name for an incomplete file. */
     static String forArriving() {
-        return create("part");
+        return create(UUID.randomUUID(), "part");
+    }
+
+    /** The name for an incomplete file that may be continued: always the same for a transfer. */
+    static String forResuming(String transfer) {
+        return create(UUID.nameUUIDFromBytes(transfer.getBytes(StandardCharsets.UTF_8)), "part");
     }
 
     /** A new name for a file that is being replaced. */
     static String forReplaced() {
-        return create("old");
+        return create(UUID.randomUUID(), "old");
     }
 
     /** Whether a file name is that of a temporary file. */
@@ -28,7 +34,7 @@ final class TemporaryName {
         return PATTERN.matcher(fileName).matches();
     }
 
-    private static String create(String ending) {
-        return ".zv-" + UUID.randomUUID().toString().replace("-", "") + "." + ending;
+    private static String create(UUID id, String ending) {
+        return ".zv-" + id.toString().replace("-", "") + "." + ending;
     }
 }

@@ -1,7 +1,7 @@
 package com.vantorel.ep.products.fsclient;
 
-import java.io.InputStream;
 import java.io.OutputStream;
+import java.util.Set;
 import java.util.SortedMap;
 
 /**
@@ -34,15 +34,24 @@ interface Transport {
      */
     SortedMap<String, Kind> list(RemotePath directory) throws FileServerException;
 
+    /** The names of a directory's entries, with those that the server otherwise hides; not validated either. */
+    Set<String> listHidden(RemotePath directory) throws FileServerException;
+
     /** Downloads a file to a stream, which stays open. Exceptions of the stream propagate. */
     void receive(RemotePath source, TransferMode mode, OutputStream target) throws FileServerException;
 
     /**
-     * Uploads a stream, which stays open, to a new or overwritten file. Exceptions of the stream propagate.
+     * Uploads a source, which stays open, to a new or overwritten file; from an offset, to the end of a file
+     * that has just this size. Exceptions of the source propagate.
+     *
+     * @throws ResumeRefusedException when the server does not continue files, before anything was sent
      */
-    void send(InputStream source, TransferMode mode, RemotePath target) throws FileServerException;
+    void send(LocalSource source, TransferMode mode, RemotePath target) throws FileServerException;
 
-    /** Creates one directory; its parent has to exist. */
+    /** The line ends that text in ASCII mode has on the server. */
+    LineEnds lineEnds() throws FileServerException;
+
+    /** Creates one directory, which must not exist; its parent has to. */
     void makeDirectory(RemotePath directory) throws FileServerException;
 
     /** Renames a file. It depends on the server whether an existing target is replaced or refused. */

@@ -1,6 +1,7 @@
 package com.vantorel.ep.products.fsclient;
 
 import static com.vantorel.ep.products.fsclient.TestFiles.fill;
+import static com.vantorel.ep.products.fsclient.TestFiles.notices;
 import static com.vantorel.ep.products.fsclient.TestFiles.refused;
 import static com.vantorel.ep.products.fsclient.TestFiles.tree;
 import static org.junit.Assert.assertEquals;
@@ -12,6 +13,11 @@ import java.io.PrintWriter;
 import java.io.StringWriter;
 import java.nio.file.Files;
 import java.nio.file.Path;
+import java.time.Duration;
+import java.util.Collections;
+import java.util.HashSet;
+import java.util.List;
+import java.util.Set;
 import java.util.SortedMap;
 import org.junit.Before;
 import org.junit.Rule;
@@ -137,12 +143,69 @@ public class BrokenTransferTest {
     @Test
     public void aPasswordIsNeverTold() throws IOException {
         try (TestServer server = new TestServer(remote, "--echo-password")) {
-            FileServerException failure =
-                    refused("user 'gate'.*530", () -> server.client(home, "password=Wrong-9", "retries=5"));
-            StringWriter trace = new StringWriter();
-            failure.printStackTrace(new PrintWriter(trace));
-            assertFalse(trace.toString(), trace.toString().contains("Wrong-9"));
-            assertTrue(trace.toString(), trace.toString().contains("No, ******** is wrong."));
+            for (String password : new String[] {"Wrong-9", "Wrong-9\\  ", "\\ Wrong-9"}) {
+                FileServerException failure =
+                        refused("user 'gate'.*530", () -> server.client(home, "password=" + password, "retries=5"));
+                StringWriter trace = new StringWriter();
+                failure.printStackTrace(new PrintWriter(trace));
+                assertFalse(trace.toString(), trace.toString().contains("Wrong-9"));
+                assertTrue(trace.toString(), trace.toString().matches("(?s).*No, +\\*+ +is wrong.*"));
+            }
+        }
+    }
+
+    @Test
+    public void eachRetryIsTold() throws IOException {
+        Files.write(local.resolve("f"), new byte[LARGE]);
+        try (TestServer server = new TestServer(remote, "--fault=drop", "--faults=2")) {
+            FileServerClient client = server.client(home, "retries=5");
+            List<String> told = notices(() -> client.put(localFile, "f"));
+            assertEquals(told.toString(), 2, told.size());
+            for (int i = 0; i < 2; ++i) {
+                String expected =
+                        "Cannot put local file '.*/f' to remote file 'f': .+; retry " + (i + 1) + " of 5 in 0.0 s";
+                assertTrue(told.get(i), told.get(i).matches(expected));
+            }
+        }
+    }
+
+    @Test
+    public void theBackOffGrowsUpToAMinuteAndVaries() {
+        // Delay, retry, the shortest and the longest pause, all in milliseconds but the retry.
+        long[][] cases = {{0, 1, 0, 0}, {0, 9, 0, 0}, {2000, 1, 1000, 2000}, {2000, 2, 2000, 4000},
+                {2000, 4, 8000, 16_000}, {2000, 6, 30_000, 60_000}, {2000, 1000, 30_000, 60_000},
+                {86_400_000, 7, 43_200_000, 86_400_000}};
+        for (long[] c : cases) {
+            Retry retry = new Retry(null, 1000, Duration.ofMillis(c[0]));
+            Set<Long> pauses = new HashSet<>();
+            for (int i = 0; i < 100; ++i) {
+                long pause = retry.backOff((int) c[1]);
+                assertTrue(c[0] + ", " + c[1] + ": " + pause, pause >= c[2] && pause <= c[3]);
+                pauses.add(pause);
+            }
+            assertEquals(c[2] != c[3], pauses.size() > 1);
+        }
+    }
+
+    @Test
+    public void aDirectoryWhoseMakingWasNotAnsweredIsNobodys() throws IOException {
+        try (TestServer server = new TestServer(remote, "--fault=mkd", "--faults=1")) {
+            FileServerClient client = server.client(home, "retries=2");
+            refused("it is not known whether", () -> client.mkNewDir("event"));
+            assertFalse(client.mkNewDir("event"));
+            assertTrue(client.mkNewDir("another"));
+        }
+    }
+
+    @Test
+    public void leftoversThatCannotBeRemovedAreTold() throws IOException {
+        String part = ".zv-0123456789abcdef0123456789abcdef.part";
+        fill(remote, part);
+        try (TestServer server = new TestServer(remote, "--read-only")) {
+            FileServerClient client = server.client(home);
+            List<String> told = notices(() -> client.removeLeftovers("", Collections.emptyList()));
+            assertEquals(told.toString(), 1, told.size());
+            assertTrue(told.get(0), told.get(0).contains(part) && told.get(0).contains("550"));
         }
     }
 

@@ -3,6 +3,7 @@ package com.vantorel.ep.products.fsclient;
 import static com.vantorel.ep.products.fsclient.TestFiles.refused;
 import static org.junit.Assert.assertEquals;
 import static org.junit.Assert.assertFalse;
+import static org.junit.Assert.assertThrows;
 import static org.junit.Assert.assertTrue;
 
 import java.io.IOException;
@@ -28,6 +29,7 @@ public class SettingsTest {
         assertEquals("ä, x ,7", settings.user + "," + settings.password + "," + settings.timeout.getSeconds());
         assertEquals(30, settings.connectTimeout.getSeconds());
         assertEquals("3, 2", settings.retries + ", " + settings.retryDelay.getSeconds());
+        assertEquals(16 << 20, settings.resumeFrom);
         assertEquals(StandardCharsets.UTF_8, settings.encoding);
         assertTrue(settings.passive && settings.checkHost && !settings.implicit);
         assertEquals("anonymous", read("url=ftp://h").user);
@@ -71,6 +73,39 @@ public class SettingsTest {
             String text = refused("my.properties', key '" + c[1] + "': .*(" + c[2] + ")",
                     () -> FileServerClientFactory.getInstance().initialize(file.toString())).toString();
             assertFalse(text, text.contains("Secret-7"));
+        }
+    }
+
+    /** The folder of credentials is made by the build. */
+    @Test
+    public void secretsComeFromTheProgramOrTheFolderOfCredentials() throws IOException {
+        System.setProperty("zv.secret.given", " Secret-7 ");
+        System.setProperty("zv.secret.broken", "Secret-7\r\nDELE x");
+        try {
+            Settings settings = read("url=ftp://h\nuser=${secret:given}\npassword = ${secret:in-folder} ");
+            assertEquals("Secret-7,Secret 8 ", settings.user + "," + settings.password);
+            assertEquals("********", settings.shownUser());
+            assertEquals("no ********, no ********.", settings.masked("no Secret-7, no Secret 8."));
+            assertEquals(" Secret-7 ", read("url=ftp://h\npassword=${secret:given}").password);
+            assertEquals("gate", read("url=ftp://h\nuser=gate").shownUser());
+            assertEquals("${secret:x", read("url=ftp://h\npassword=${secret:x").password);
+            String[][] cases = {
+                    {"user=${secret:none}", "user", "'none' was not given, and cannot be read: there is no '.*none'"},
+                    {"password=${secret:../in-folder}", "password", "'../in-folder' .*separator"},
+                    {"password=${secret:}", "password", "empty"},
+                    {"password=${secret:broken}", "password", "control character"},
+                    {"password=${secret:given}\npassword-env=PATH", "password-env", "password too"},
+                    {"retries=${secret:given}", "retries", "whole number"}};
+            for (String[] c : cases) {
+                FileServerException failure =
+                        assertThrows(FileServerException.class, () -> read("url=ftp://h\n" + c[0]));
+                String text = failure.getMessage();
+                assertTrue(text, text.matches(".*key '" + c[1] + "': .*(" + c[2] + ").*"));
+                assertFalse(text, text.contains("Secret-7"));
+            }
+        } finally {
+            System.clearProperty("zv.secret.given");
+            System.clearProperty("zv.secret.broken");
         }
     }
 

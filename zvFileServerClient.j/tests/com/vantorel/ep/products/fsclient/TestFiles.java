@@ -4,8 +4,11 @@ import static org.junit.Assert.assertThrows;
 import static org.junit.Assert.assertTrue;
 
 import java.io.IOException;
+import java.nio.channels.FileChannel;
 import java.nio.file.Files;
 import java.nio.file.Path;
+import java.util.ArrayList;
+import java.util.List;
 import java.util.SortedMap;
 import java.util.TreeMap;
 import java.util.stream.Collectors;
@@ -33,6 +36,30 @@ final class TestFiles {
             }
             return contents;
         }
+    }
+
+    /** Whether two files have the same content; suits large ones. */
+    static boolean same(Path one, Path other) throws IOException {
+        try (FileChannel a = FileChannel.open(one); FileChannel b = FileChannel.open(other)) {
+            return a.size() == b.size() && a.map(FileChannel.MapMode.READ_ONLY, 0, a.size()).equals(
+                    b.map(FileChannel.MapMode.READ_ONLY, 0, b.size()));
+        }
+    }
+
+    /** Runs an operation and returns what it told. */
+    static List<String> notices(ThrowingRunnable operation) throws IOException {
+        List<String> told = new ArrayList<>();
+        Notices.listener = told::add;
+        try {
+            operation.run();
+        } catch (IOException | RuntimeException | Error e) {
+            throw e;
+        } catch (Throwable e) {
+            throw new AssertionError(e);
+        } finally {
+            Notices.listener = null;
+        }
+        return told;
     }
 
     /** Expects a failure whose message says what could not be done and, as a pattern, why. */

@@ -29,6 +29,13 @@ final class TestServer implements AutoCloseable {
         port = Integer.parseInt(line);
     }
 
+    /** The lines of a server's log that match a pattern. */
+    static List<String> log(Path file, String pattern) throws IOException {
+        List<String> lines = Files.readAllLines(file);
+        lines.removeIf(line -> !line.matches(pattern));
+        return lines;
+    }
+
     @Override
     public void close() {
         process.destroyForcibly();

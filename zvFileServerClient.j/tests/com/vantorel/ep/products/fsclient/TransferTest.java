@@ -149,6 +149,34 @@ public class TransferTest {
     }
 
     @Test
+    public void aNewDirectoryIsMadeByOneOnly() throws IOException {
+        fill(remote, "file");
+        assertTrue(client.mkNewDir("new/er/est"));
+        assertTrue(client.mkNewDir("new/er/Ä 1"));
+        for (String there : new String[] {"new/er/est", "new\\er\\Ä 1", "/new", "file", ""}) {
+            assertFalse(there, client.mkNewDir(there));
+        }
+        refused("'file' is not a directory", () -> client.mkNewDir("file/below"));
+        assertArrayEquals(new String[] {"est", "Ä 1"}, client.list("new/er"));
+    }
+
+    @Test
+    public void leftoversAreRemoved() throws IOException {
+        Path event = Files.createDirectory(remote.resolve("event"));
+        String part = ".zv-0123456789abcdef0123456789abcdef.part";
+        fill(event, part, part.replace("part", "old"), ".zv-notes.part", "whole");
+        client.removeLeftovers("event", Collections.emptyList());
+        client.removeLeftovers("absent", Collections.emptyList());
+        assertEquals("{.zv-notes.part=.zv-notes.part, whole=whole}", tree(event).toString());
+        assertTrue(client.mkNewDir("other"));
+        fill(remote.resolve("other"), part);
+        client.removeLeftovers("event", Collections.emptyList());
+        client.removeLeftovers("other/", Collections.emptyList());
+        // What this client has just made is not looked through.
+        assertEquals(Collections.singleton(part), tree(remote.resolve("other")).keySet());
+    }
+
+    @Test
     public void anExistingFileIsReplaced() throws IOException {
         fill(remote, "a", "b");
         Path file = Files.writeString(local.resolve("a"), "new");

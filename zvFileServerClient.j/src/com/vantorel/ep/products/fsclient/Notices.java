@@ -1,0 +1,44 @@
+package com.vantorel.ep.products.fsclient;
+
+/**
+ * What happens during an operation without ending it, for the people who wait for it: retries, resumed
+ * uploads, text that arrived with other line ends. The program that loads this class into its process may
+ * register a native method to receive the texts; otherwise nobody does.
+ */
+final class Notices {
+    /** Receives the notices instead of the program. */
+    interface Listener {
+        void notice(String text);
+    }
+
+    /** Null for the program. */
+    static Listener listener;
+
+    private Notices() {}
+
+    /** Passes on a text of one line: control characters become blanks. */
+    static void tell(String text) {
+        String line = printable(text);
+        if (listener != null) {
+            listener.notice(line);
+            return;
+        }
+        try {
+            receive(line);
+        } catch (UnsatisfiedLinkError e) {
+            // The program does not want to know.
+        }
+    }
+
+    private static native void receive(String text);
+
+    private static String printable(String text) {
+        char[] characters = text.toCharArray();
+        for (int i = 0; i < characters.length; ++i) {
+            if (Character.isISOControl(characters[i])) {
+                characters[i] = ' ';
+            }
+        }
+        return new String(characters);
+    }
+}
