@@ -5,6 +5,7 @@
 
 #include "zvCoreObject.h"
 #include "zvEventArguments.h"
+#include "zvRequestOutcome.h"
 #include "zvResult.h"
 #include "zvString.h"
 
@@ -39,6 +40,9 @@ public:
     virtual void queryResponse() = 0;
     virtual void queryResponseHeader() = 0;
     /// @}
+
+    /// More of the last request than its result says; by default, nothing.
+    virtual zvRequestOutcome lastOutcome() const;
 };
 
 #endif
