@@ -63,6 +63,11 @@ public:
         }
         if (code != CURLE_OK) {
             outcome.errorText = m_errorText[0] != '\0' ? m_errorText : curl_easy_strerror(code);
+            const auto number = info<long>(CURLINFO_OS_ERRNO);
+            if (outcome.failure == zvRequestOutcome::Failure::connect && number != 0) {
+                outcome.errorText += ": ";
+                outcome.errorText += zvPlatform::errorText(static_cast<unsigned long>(number)).c_str();
+            }
         }
         return outcome;
     }

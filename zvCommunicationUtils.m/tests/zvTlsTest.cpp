@@ -71,6 +71,8 @@ TEST_F(zvTlsTest, TheFailedCheckIsTold) {
         const zvRequestOutcome outcome = outcomeOf(server);
         EXPECT_EQ(outcome.tlsFailure, failure) << name << ": " << narrow(outcome.errorText);
         EXPECT_EQ(outcome.failure, failure == TlsFailure::none ? Failure::none : Failure::tls) << name;
+        EXPECT_EQ(m_strMessage,
+                  failure == TlsFailure::none ? "" : "SSL peer certificate or SSH remote key was not OK");
         EXPECT_EQ(server.m_requests, failure == TlsFailure::none ? 1 : 0) << name;
     }
 }
@@ -78,6 +80,7 @@ TEST_F(zvTlsTest, TheFailedCheckIsTold) {
 TEST_F(zvTlsTest, WhatIsNotTlsIsNoCertificateProblem) {
     LoopbackServer server;
     EXPECT_EQ(outcomeOf(server).failure, Failure::tls);
+    EXPECT_EQ(m_strMessage, "SSL connect error");
     EXPECT_EQ(outcomeOf(server).tlsFailure, TlsFailure::other);
 }
 
