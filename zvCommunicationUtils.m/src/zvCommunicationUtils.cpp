@@ -32,3 +32,5 @@ void zvCommunicationUtils::queryResponse() {
 void zvCommunicationUtils::queryResponseHeader() {
     logger.warn("Function zvCommunicationUtils::queryResponseHeader() has no protocol");
 }
+
+zvRequestOutcome zvCommunicationUtils::lastOutcome() const { return {}; }

@@ -5,6 +5,7 @@
 
 #include "zvCoreObject.h"
 #include "zvEventArguments.h"
+#include "zvRequestOutcome.h"
 #include "zvResult.h"
 #include "zvString.h"
 
@@ -40,6 +41,9 @@ public:
     virtual void queryResponse();
     virtual void queryResponseHeader();
     /// @}
+
+    /// More of the last request than its result says; by default, nothing.
+    virtual zvRequestOutcome lastOutcome() const;
 };
 
 #endif

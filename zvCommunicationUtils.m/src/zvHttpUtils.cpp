@@ -2,11 +2,13 @@
 
 #include <curl/curl.h>
 
-#include <fstream>
-#include <memory>
+#include <algorithm>
 #include <string>
+#include <string_view>
 
-#include "zvGatewayHome.h"
+#include "zvCharString.h"
+#include "zvCurlFailure.h"
+#include "zvDirFileUtils.h"
 #include "zvLogSource.h"
 #include "zvPath.h"
 #include "zvPlatform.h"
@@ -16,8 +18,7 @@ namespace {
 
 constexpr zvLogSource logger("zvCommunicationUtils.m/src/zvHttpUtils");
 
-constexpr int longestTimeout = 86400;
-constexpr long firstErrorStatus = 400;
+constexpr int firstErrorStatus = 400;
 
 void initializeLibrary() {
     const CURLcode code = curl_global_init(CURL_GLOBAL_ALL);
@@ -41,20 +42,47 @@ public:
         }
     }
 
-    CURLcode perform() { return m_code == CURLE_OK ? curl_easy_perform(m_pHandle.get()) : m_code; }
+    CURLcode perform() {
+        set(CURLOPT_ERRORBUFFER, m_errorText);
+        return m_code == CURLE_OK ? curl_easy_perform(m_pHandle.get()) : m_code;
+    }
 
-    // The status of the response; 0 if there was none.
-    long status() const {
-        long status = 0;
-        curl_easy_getinfo(m_pHandle.get(), CURLINFO_RESPONSE_CODE, &status);
-        return status;
+    // What is known once it was performed with the result `code`.
+    zvRequestOutcome outcome(CURLcode code) const {
+        zvRequestOutcome outcome;
+        outcome.status = static_cast<int>(info<long>(CURLINFO_RESPONSE_CODE));
+        outcome.location = info<const char*>(CURLINFO_REDIRECT_URL);
+        // Negative for a date that has passed.
+        outcome.retryAfterSeconds = std::max(info<curl_off_t>(CURLINFO_RETRY_AFTER), curl_off_t{0});
+        outcome.failure = zvCurlFailure::kindOf(code, m_errorText);
+        if (outcome.failure == zvRequestOutcome::Failure::tls) {
+            outcome.tlsFailure =
+                zvCurlFailure::tlsKindOf(code, info<long>(CURLINFO_SSL_VERIFYRESULT), m_errorText);
+        }
+        if (code != CURLE_OK) {
+            outcome.errorText = m_errorText[0] != '\0' ? m_errorText : curl_easy_strerror(code);
+            const auto number = info<long>(CURLINFO_OS_ERRNO);
+            if (outcome.failure == zvRequestOutcome::Failure::connect && number != 0) {
+                outcome.errorText += ": ";
+                outcome.errorText += zvPlatform::errorText(static_cast<unsigned long>(number)).c_str();
+            }
+        }
+        return outcome;
     }
 
 private:
+    template <typename Value>
+    Value info(CURLINFO key) const {
+        Value value{};
+        curl_easy_getinfo(m_pHandle.get(), key, &value);
+        return value;
+    }
+
     struct Cleanup {
         void operator()(CURL* handle) const { curl_easy_cleanup(handle); }
     };
 
+    char m_errorText[CURL_ERROR_SIZE] = "";
     std::unique_ptr<CURL, Cleanup> m_pHandle{curl_easy_init()};
     CURLcode m_code = CURLE_OK;
 };
@@ -65,40 +93,61 @@ void setSink(Transfer& transfer, WriteMemoryCallbackWrapper* sink) {
     transfer.set(CURLOPT_WRITEDATA, sink);
 }
 
-// A number of seconds in the client configuration, of which the first line with the key counts.
-struct Seconds {
-    std::string key;
-    long& value;
-    bool isRead = false;
-};
+std::string nativeText(const zvString& path) { return zvCharString(zvDirFileUtils::nativePath(path)).data(); }
 
-// A line that is no property ends the reading of a properties file.
-bool isProperty(const std::string& line) {
-    const std::size_t separator = line.find('=');
-    const bool isComment = line.empty() || line.front() == '#';
-    return isComment || (separator != std::string::npos && separator > 0 && separator + 1 < line.size());
+bool endsWith(const std::string& text, std::string_view end) {
+    return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
 }
 
-// Overwrites `seconds` if the line has the key and a valid value.
-void readSeconds(const std::string& line, Seconds& seconds) {
-    const std::size_t separator = seconds.key.size();
-    if (seconds.isRead || line.compare(0, separator, seconds.key) != 0 || line[separator] != '=') {
-        return;
+// libcurl's defaults: certificates are verified, redirects are not followed.
+void setConnection(Transfer& transfer, const zvHttpSettings& settings) {
+    transfer.set(CURLOPT_PROTOCOLS_STR, "http,https");
+    transfer.set(CURLOPT_CONNECTTIMEOUT, settings.connectSeconds);
+    transfer.set(CURLOPT_LOW_SPEED_LIMIT, 1L);
+    transfer.set(CURLOPT_LOW_SPEED_TIME, settings.stallSeconds);
+    transfer.set(CURLOPT_NOSIGNAL, 1L);
+}
+
+void setCertificates(Transfer& transfer, const zvHttpSettings& settings) {
+    const auto setPath = [&](CURLoption option, const zvString& path) {
+        if (!path.empty()) {
+            transfer.set(option, nativeText(path).c_str());
+        }
+    };
+    setPath(CURLOPT_CAINFO, settings.caFile);
+    setPath(CURLOPT_CAPATH, settings.caFolder);
+    setPath(CURLOPT_SSLCERT, settings.clientCertificate);
+    setPath(CURLOPT_SSLKEY, settings.clientKey);
+    const std::string certificate = nativeText(settings.clientCertificate);
+    if (endsWith(certificate, ".p12") || endsWith(certificate, ".pfx")) {
+        transfer.set(CURLOPT_SSLCERTTYPE, "P12");
     }
-    seconds.isRead = true;
-    zvString text = line.substr(separator + 1).c_str();
-    text.trim();
-    const int number = zvString::convertUnicodeToInt(text);
-    if (number >= 1 && number <= longestTimeout && zvString(number) == text) {
-        seconds.value = number;
-    } else {
-        logger.warn("\"", text, "\" is no number of seconds from 1 to ", longestTimeout, ": \"",
-                    seconds.key.c_str(), "\" of the file \"client-config.ini\" stays ",
-                    static_cast<int>(seconds.value));
+    if (!settings.clientKeyPassword.empty()) {
+        transfer.set(CURLOPT_KEYPASSWD, zvUtf8::encode(settings.clientKeyPassword).c_str());
     }
 }
 
-zvResult outcome(CURLcode code, long status) {
+// The file and, if it cannot be read, the system's reason.
+zvString describeFile(const zvString& path) {
+    const zvString error = zvDirFileUtils::getAccessError(path, zvPlatform::readable);
+    return ": \"" + path + "\"" + (error.empty() ? zvString() : ": " + error);
+}
+
+// libcurl's text does not name the files.
+zvString describe(CURLcode code, const zvHttpSettings& settings) {
+    zvString text = curl_easy_strerror(code);
+    if (code == CURLE_SSL_CACERT_BADFILE && !settings.caFile.empty()) {
+        text += describeFile(settings.caFile);
+    } else if (code == CURLE_SSL_CERTPROBLEM) {
+        text += describeFile(settings.clientCertificate);
+        if (!settings.clientKey.empty()) {
+            text += describeFile(settings.clientKey);
+        }
+    }
+    return text;
+}
+
+zvResult concluded(CURLcode code, int status, const zvHttpSettings& settings) {
     zvResult result;
     if (status > 0) {
         result.setAdditionalInformation(zvString(status));
@@ -107,8 +156,7 @@ zvResult outcome(CURLcode code, long status) {
         result.setOk();
         return result;
     }
-    result.setMessage(code != CURLE_OK ? zvString(curl_easy_strerror(code))
-                                       : "HTTP status " + zvString(status));
+    result.setMessage(code != CURLE_OK ? describe(code, settings) : "HTTP status " + zvString(status));
     logger.error("Following error occured while sending the request : ", result.getMessage());
     return result;
 }
@@ -118,32 +166,11 @@ zvResult outcome(CURLcode code, long status) {
 zvHttpUtils::zvHttpUtils() { initializeLibrary(); }
 
 zvHttpUtils::zvHttpUtils(const zvHttpUtils& other)
-    : zvCommunicationUtils(other),
-      m_bTimeoutsAreRead(other.m_bTimeoutsAreRead),
-      m_connectSeconds(other.m_connectSeconds),
-      m_stallSeconds(other.m_stallSeconds) {
+    : zvCommunicationUtils(other), m_settings(other.m_settings), m_outcome(other.m_outcome) {
     initializeLibrary();
 }
 
 zvHttpUtils::~zvHttpUtils() { curl_global_cleanup(); }
-
-// Not with zvProperties, which logs what it reads: only a wrong value is worth a line. A missing home, file
-// or key means the defaults.
-void zvHttpUtils::readTimeouts() {
-    m_bTimeoutsAreRead = true;
-    const zvString home = zvGatewayHome::readEnvironment(zvGatewayHome::getEnvVariable());
-    if (home.empty()) {
-        return;
-    }
-    const std::string path = zvPath::native(zvGatewayHome::configFile(home, "client-config.ini"));
-    std::ifstream file(zvPlatform::pathOf(path));
-    Seconds timeouts[] = {{"http-connect-timeout", m_connectSeconds}, {"http-stall-timeout", m_stallSeconds}};
-    for (std::string line; std::getline(file, line) && isProperty(line);) {
-        for (Seconds& timeout : timeouts) {
-            readSeconds(line, timeout);
-        }
-    }
-}
 
 zvFormBody zvHttpUtils::computeHttpRequestArgs(const zvEventArguments& args) const {
     logger.debug("Inside function zvHttpUtils::computeHttpRequestArgs(zvEventArguments)");
@@ -155,9 +182,10 @@ zvFormBody zvHttpUtils::computeHttpRequestArgs(const zvEventArguments& args) con
 
 zvResult zvHttpUtils::request(const zvString& url, const zvEventArguments& args,
                               WriteMemoryCallbackWrapper* sink) {
-    if (!m_bTimeoutsAreRead) {
-        readTimeouts();
+    if (!m_settings) {
+        m_settings = zvHttpSettings::read();
     }
+    m_outcome = {};
     logger.debug(
         "Inside function zvHttpUtils::request(zvString,zvEventArguments,WriteMemoryCallbackWrapper*)");
     zvResult result = post(url, args, sink);
@@ -167,7 +195,7 @@ zvResult zvHttpUtils::request(const zvString& url, const zvEventArguments& args,
 }
 
 zvResult zvHttpUtils::post(const zvString& url, const zvEventArguments& args,
-                           WriteMemoryCallbackWrapper* sink) const {
+                           WriteMemoryCallbackWrapper* sink) {
     Transfer transfer;
     if (!transfer.isOpen()) {
         constexpr char noHandle[] = "Error in getting an handle to curl-easy interface.";
@@ -182,14 +210,11 @@ zvResult zvHttpUtils::post(const zvString& url, const zvEventArguments& args,
     transfer.set(CURLOPT_POSTFIELDS, body.sent().c_str());
     transfer.set(CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(body.sent().size()));
     setSink(transfer, sink);
-    // libcurl's defaults: certificates are verified, redirects are not followed.
-    transfer.set(CURLOPT_PROTOCOLS_STR, "http,https");
-    transfer.set(CURLOPT_CONNECTTIMEOUT, m_connectSeconds);
-    transfer.set(CURLOPT_LOW_SPEED_LIMIT, 1L);
-    transfer.set(CURLOPT_LOW_SPEED_TIME, m_stallSeconds);
-    transfer.set(CURLOPT_NOSIGNAL, 1L);
+    setConnection(transfer, *m_settings);
+    setCertificates(transfer, *m_settings);
     const CURLcode code = transfer.perform();
-    return outcome(code, transfer.status());
+    m_outcome = transfer.outcome(code);
+    return concluded(code, m_outcome.status, *m_settings);
 }
 
 void zvHttpUtils::queryResponse() {

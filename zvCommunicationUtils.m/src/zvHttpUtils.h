@@ -1,8 +1,11 @@
 #ifndef ZV_HTTP_UTILS_H
 #define ZV_HTTP_UTILS_H
 
+#include <optional>
+
 #include "zvCommunicationUtils.h"
 #include "zvFormBody.h"
+#include "zvHttpSettings.h"
 
 /// Posts event arguments as a form with libcurl. Created by zvCommunicationFactory only.
 ///
@@ -17,18 +20,18 @@ public:
                      WriteMemoryCallbackWrapper* sink) override;
     void queryResponse() override;
     void queryResponseHeader() override;
+    zvRequestOutcome lastOutcome() const override { return m_outcome; }
 
 private:
     friend class zvCommunicationFactory;
     zvHttpUtils();
 
-    void readTimeouts();
     zvFormBody computeHttpRequestArgs(const zvEventArguments& args) const;
-    zvResult post(const zvString& url, const zvEventArguments& args, WriteMemoryCallbackWrapper* sink) const;
+    zvResult post(const zvString& url, const zvEventArguments& args, WriteMemoryCallbackWrapper* sink);
 
-    bool m_bTimeoutsAreRead = false;
-    long m_connectSeconds = 30;
-    long m_stallSeconds = 60;
+    // Read by the first request.
+    std::optional<zvHttpSettings> m_settings;
+    zvRequestOutcome m_outcome;
 };
 
 #endif

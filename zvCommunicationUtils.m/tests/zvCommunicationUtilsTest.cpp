@@ -241,16 +241,6 @@ TEST_F(zvCommunicationUtilsTest, UnusableUrlsAndAbsentServersAreRefused) {
         << unknown;
 }
 
-TEST_F(zvCommunicationUtilsTest, ACertificateThatNobodyVouchesForIsRefused) {
-    auto selfSigned = selfSignedServer();
-    if (selfSigned == nullptr) {
-        GTEST_SKIP() << "a server with TLS";
-    }
-    LoopbackServer server(std::move(selfSigned));
-    EXPECT_EQ(request(server.url("/200", "https")), "-1|SSL peer certificate or SSH remote key was not OK|");
-    EXPECT_EQ(server.m_requests, 0);
-}
-
 TEST_F(zvCommunicationUtilsTest, AServerThatHangsUpIsAFailure) {
     LoopbackServer midway;
     midway.m_answer = [](httplib::Response& response) {

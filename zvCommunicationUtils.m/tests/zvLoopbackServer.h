@@ -79,22 +79,4 @@ private:
     std::thread m_thread;
 };
 
-/// Null where the server is built without TLS.
-inline std::unique_ptr<httplib::Server> selfSignedServer() {
-#ifdef CPPHTTPLIB_OPENSSL_SUPPORT
-    const std::unique_ptr<EVP_PKEY, decltype(&EVP_PKEY_free)> key(EVP_EC_gen("P-256"), &EVP_PKEY_free);
-    const std::unique_ptr<X509, decltype(&X509_free)> certificate(X509_new(), &X509_free);
-    X509_gmtime_adj(X509_getm_notBefore(certificate.get()), -3600);
-    X509_gmtime_adj(X509_getm_notAfter(certificate.get()), 3600);
-    X509_NAME_add_entry_by_txt(X509_get_subject_name(certificate.get()), "CN", MBSTRING_ASC,
-                               reinterpret_cast<const unsigned char*>("127.0.0.1"), -1, -1, 0);
-    X509_set_issuer_name(certificate.get(), X509_get_subject_name(certificate.get()));
-    X509_set_pubkey(certificate.get(), key.get());
-    X509_sign(certificate.get(), key.get(), EVP_sha256());
-    return std::make_unique<httplib::SSLServer>(certificate.get(), key.get());
-#else
-    return nullptr;
-#endif
-}
-
 #endif

@@ -1,13 +1,14 @@
 #ifndef ZV_PROCESS_H
 #define ZV_PROCESS_H
 
+#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <string>
 #include <system_error>
 
-/// What the program needs of the operating system beside the library: one source file for each system, and no
-/// other file of the program includes a system header.
+/// What the program needs of the operating system beside the library: one source file for each system and one
+/// for what is the same on all, and no other file of the program includes a system header.
 namespace zvProcess {
 
 /// The number by which the system knows this process.
@@ -18,6 +19,9 @@ std::string hostName();
 std::filesystem::path programFile();
 /// Sets a variable of this process's environment.
 void setEnvironment(const char* name, const char* value);
+/// Blocks the calling thread, until a request to end the process is noted at the longest. Every wait of the
+/// program goes through here.
+void waitFor(std::chrono::milliseconds time);
 
 enum class Lock { taken, heldByAnother, refused };
 /// Takes an advisory lock on the file, which is created if need be. It is held until the process exits.

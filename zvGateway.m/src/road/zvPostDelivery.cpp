@@ -1,0 +1,122 @@
+#include "zvPostDelivery.h"
+
+#include <chrono>
+#include <cstdio>
+#include <utility>
+#include <vector>
+
+#include "zvCharString.h"
+#include "zvCommunicationFactory.h"
+#include "zvConsole.h"
+#include "zvInterruption.h"
+#include "zvLogLevel.h"
+#include "zvLogger.h"
+#include "zvPostReason.h"
+#include "zvProcess.h"
+#include "zvServerAnswer.h"
+
+namespace {
+
+void log(zvLogLevel level, const std::string& text, int line) {
+    zvLogger::getInstance()->log(level, text.c_str(), "zvGateway.m/src/zvPostDelivery", line);
+}
+
+bool isDelivered(const zvRequestOutcome& outcome) {
+    constexpr int first = 200;
+    constexpr int last = 299;
+    return outcome.failure == zvRequestOutcome::Failure::none && outcome.status >= first &&
+           outcome.status <= last;
+}
+
+std::string seconds(std::chrono::milliseconds time) {
+    constexpr double perSecond = 1000;
+    constexpr std::size_t width = 40;
+    char text[width];
+    std::snprintf(text, width, "%.1f s", static_cast<double>(time.count()) / perSecond);
+    return text;
+}
+
+zvPostRetry readRetry() {
+    std::vector<std::string> faults;
+    const zvPostRetry retry = zvPostRetry::read(faults);
+    for (const std::string& fault : faults) {
+        zvConsole::fact("warning", fault);
+        log(zvLogLevel::warn, fault, __LINE__);
+    }
+    return retry;
+}
+
+void logFailure(zvLogLevel level, const zvString& url, const std::string& text) {
+    log(level, "Post to \"" + zvConsole::printable(url) + "\" failed: " + text, __LINE__);
+}
+
+}  // namespace
+
+zvPostDelivery::zvPostDelivery(zvGatewayEvent& event, const zvString& url)
+    : m_event(event),
+      m_url(url),
+      m_secrets(*event.arguments),
+      m_pServer(zvCommunicationFactory::createCommunicationUtils(zvCommProtocoalHTTP)) {}
+
+std::string zvPostDelivery::run() {
+    const zvPostRetry retry = readRetry();
+    for (int attempt = 1;; ++attempt) {
+        const std::string reason = post();
+        const zvRequestOutcome outcome = m_pServer->lastOutcome();
+        if (isDelivered(outcome)) {
+            tellAnswer();
+            return "HTTP status " + std::to_string(outcome.status) +
+                   (attempt == 1 ? "" : ", try " + std::to_string(attempt));
+        }
+        const zvPostRetry::Decision decision = retry.decide(outcome, attempt);
+        if (decision != zvPostRetry::Decision::again) {
+            fail(reason, decision, attempt);
+        }
+        const auto wait =
+            retry.wait(outcome, attempt, std::uniform_real_distribution<double>(0, 1)(m_random));
+        tellRetry(reason + "; try " + std::to_string(attempt + 1) + " of " +
+                  std::to_string(retry.retries + 1) + " in " + seconds(wait));
+        zvProcess::waitFor(wait);
+        zvInterruption::throwIfRequested();
+    }
+}
+
+// Returns the reason in case it failed.
+std::string zvPostDelivery::post() {
+    zvServerAnswer answer(m_secrets);
+    const zvResult posted = m_pServer->request(m_url, *m_event.arguments, answer.sink());
+    const zvRequestOutcome outcome = m_pServer->lastOutcome();
+    m_strAnswer = answer.text();
+    constexpr std::size_t longestTarget = 2000;
+    const std::string target = zvCharString(outcome.location).data();
+    const zvPostReason reason = {zvConsole::printable(m_url), m_strAnswer,
+                                 zvConsole::printable(m_secrets.masked(target, longestTarget).c_str()),
+                                 zvConsole::printable(posted.getMessage())};
+    return reason.text(outcome);
+}
+
+void zvPostDelivery::tellAnswer() {
+    if (!m_strAnswer.empty()) {
+        zvConsole::fact("answer", m_strAnswer);
+        m_event.report.setFact("answer", "", m_strAnswer);
+    }
+}
+
+void zvPostDelivery::tellRetry(const std::string& text) {
+    zvConsole::fact("retry", text);
+    logFailure(zvLogLevel::warn, m_url, text);
+}
+
+void zvPostDelivery::fail(std::string reason, zvPostRetry::Decision decision, int attempt) {
+    tellAnswer();
+    if (decision == zvPostRetry::Decision::tooLong) {
+        reason += "; the server asks to wait " + std::to_string(m_pServer->lastOutcome().retryAfterSeconds) +
+                  " s, and more than " + std::to_string(zvPostRetry::longestRetryAfter.count()) +
+                  " s is not waited: go on with the event then";
+    }
+    if (attempt > 1) {
+        reason += " (" + std::to_string(attempt) + " tries)";
+    }
+    logFailure(zvLogLevel::error, m_url, reason);
+    throw zvStepFailure{zvConsole::printable(m_url), reason};
+}
