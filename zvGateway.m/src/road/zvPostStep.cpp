@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <memory>
 
-#include "zvCommonUtils.h"
 #include "zvCommunicationFactory.h"
 #include "zvConsole.h"
+#include "zvGatewayHomeStep.h"
 
 namespace {
 
@@ -35,7 +35,7 @@ private:
 }  // namespace
 
 zvStepOutcome zvPostStep::run() {
-    const zvString url = zvCommonUtils::getLocalServerUrl();
+    const zvString url = zvGatewayHomeStep::localServerUrl();
     const std::string to = zvConsole::printable(url);
     zvConsole::fact("to", to);
     if (m_event.record->isPosted()) {
