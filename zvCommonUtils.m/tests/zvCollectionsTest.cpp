@@ -114,6 +114,7 @@ TEST(zvTemplateMapTest, FirstValueWins) {
 class Counted : public zvReferenceCtr {
 public:
     explicit Counted(bool& gone) : m_bGone(gone) {}
+    Counted(const Counted& other, bool& gone) : zvReferenceCtr(other), m_bGone(gone) {}
     ~Counted() override { m_bGone = true; }
 
 private:
@@ -132,6 +133,21 @@ TEST(zvReferenceCtrTest, TheLastReleaseDeletes) {
     bool unownedGone = false;
     EXPECT_EQ((new Counted(unownedGone))->Release(), 0);
     EXPECT_TRUE(unownedGone);
+}
+
+TEST(zvReferenceCtrTest, ACopyHasNoOwnersYet) {
+    bool gone = false;
+    auto* const original = new Counted(gone);
+    original->AddRef();
+    original->AddRef();
+    bool copyGone = false;
+    auto* const copy = new Counted(*original, copyGone);
+    EXPECT_EQ(copy->AddRef(), 1);
+    static_cast<zvReferenceCtr&>(*copy) = *original;
+    EXPECT_EQ(copy->Release(), 0);
+    EXPECT_TRUE(copyGone && !gone);
+    EXPECT_EQ(original->Release(), 1);
+    original->Release();
 }
 
 }  // namespace

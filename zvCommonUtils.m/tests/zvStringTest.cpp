@@ -56,6 +56,42 @@ TEST(zvStringTest, IsConstructedFromTextsAndNumbers) {
     EXPECT_TRUE("ab" != zvString("aB"));
 }
 
+// Neither is 0 a null pointer anywhere, nor is a wide character cut down to a narrow one.
+TEST(zvStringTest, NumbersAndCharactersStandForTheirText) {
+    const zvString euro = u"\u20AC", zero = 0, empty;
+    zvString text("abc");
+    text = 0;
+    EXPECT_EQ(text.size(), 1);
+    EXPECT_TRUE(text == 0 && 0 == text && text == 0L && !(text != 0) && text == zero);
+    EXPECT_TRUE(empty != 0 && 0 != empty && !(empty == 0) && !(0L == empty));
+    EXPECT_EQ(text + euro[0], u"0\u20AC");
+    EXPECT_EQ(text + u'\u20AC', u"0\u20AC");
+    EXPECT_EQ(u'\u20AC' + text, u"\u20AC0");
+    EXPECT_EQ(text + 65, "065");
+    EXPECT_EQ(0 + text, "00");
+    EXPECT_EQ(text + false + 'x' + 2.5, "0Falsex2.500000");
+}
+
+TEST(zvStringTest, AssigningItsOwnBufferKeepsTheText) {
+    using Assign = void (*)(zvString&);
+    const Assign assignments[] = {
+        [](zvString& s) { s = s.getChars(); },
+        [](zvString& s) { s = s.data(); },
+        [](zvString& s) { s = reinterpret_cast<const char16_t*>(s.data()); },
+    };
+    for (const Assign assign : assignments) {
+        zvString text(u"a longer text");
+        assign(text);
+        EXPECT_EQ(text, "a longer text");
+        EXPECT_STREQ(text.getChars(), "a longer text");
+    }
+    zvString text(u"a longer text");
+    text = reinterpret_cast<const char16_t*>(text.data()) + 2;
+    EXPECT_EQ(text, "longer text");
+    text = static_cast<const char16_t*>(nullptr);
+    EXPECT_TRUE(text.empty() && text.getChars() == nullptr);
+}
+
 TEST(zvStringTest, GrowsToAnExactFitAndKeepsALargerBuffer) {
     zvString text("abcdef");
     const wchar16* const buffer = text.data();

@@ -27,6 +27,16 @@ std::string comparisons(const zvValue& left, const zvValue& right) {
 
 zvValue text(const char* value) { return zvValue(zvString(value)); }
 
+TEST(zvValueTest, TextOfAnyKindIsAString) {
+    const wchar16 units[] = {'a', 'b', 'c', 0};
+    const zvValue texts[] = {"abc", u"abc", units, zvString("abc")};
+    for (const zvValue& value : texts) {
+        EXPECT_EQ(value.getDataType(), zvDataTypeString);
+        EXPECT_EQ(value.getValue(), "abc");
+    }
+    EXPECT_EQ(zvValue(static_cast<const char*>(nullptr)).getDataType(), zvDataTypeString);
+}
+
 TEST(zvValueTest, ComparesByTheTypeOnTheLeft) {
     const zvValue early{zvDateTime(2011, 4, 30, 1, 2, 3)};
     const zvValue late{zvDateTime(2011, 5, 1, 1, 2, 3)};

@@ -18,7 +18,8 @@ struct WriteMemoryCallbackWrapper {
     void* m_pUserData = nullptr;
 };
 
-/// Sends event arguments to a server over one protocol; created by zvCommunicationFactory.
+/// Sends event arguments to a server over one protocol; created by zvCommunicationFactory. The class itself,
+/// which a copy of such an object may be, knows no protocol: its operations log that and do nothing.
 class ZV_EXPORT zvCommunicationUtils : public zvCoreObject {
 public:
     zvCommunicationUtils();
@@ -32,12 +33,12 @@ public:
     /// otherwise -1 with the reason as message. The additional information is the status in decimal, empty if
     /// there was no response.
     virtual zvResult request(const zvString& url, const zvEventArguments& args,
-                             WriteMemoryCallbackWrapper* sink) = 0;
+                             WriteMemoryCallbackWrapper* sink);
     /// @name Not implemented
     /// Only logs a warning.
     /// @{
-    virtual void queryResponse() = 0;
-    virtual void queryResponseHeader() = 0;
+    virtual void queryResponse();
+    virtual void queryResponseHeader();
     /// @}
 };
 

@@ -86,6 +86,19 @@ TEST_F(zvCommunicationUtilsTest, TheLogFollowsARequestStepByStep) {
     EXPECT_EQ(zvRecordingLogger::events()[2].file, "zvCommunicationUtils.m/src/zvHttpUtils");
 }
 
+TEST_F(zvCommunicationUtilsTest, ACopyAsTheBaseRefuses) {
+    const std::unique_ptr<zvCommunicationUtils> http(
+        zvCommunicationFactory::createCommunicationUtils(zvCommProtocoalHTTP));
+    zvCommunicationUtils copy(*http);
+    zvRecordingLogger::reset();
+    const zvResult result = copy.request("http://localhost", zvEventArguments(zvEventMirror, "u"), nullptr);
+    copy.queryResponse();
+    EXPECT_EQ(result.getResult(), -1);
+    EXPECT_EQ(lines(), (std::vector<std::string>{
+                           "error: " + narrow(result.getMessage()),
+                           "warn: Function zvCommunicationUtils::queryResponse() has no protocol"}));
+}
+
 TEST_F(zvCommunicationUtilsTest, NamesAndValuesTravelAsEscapedUtf8InEveryLocale) {
     const struct {
         const char16_t* text;

@@ -32,9 +32,13 @@ zvICndComparisonCondition::zvICndComparisonCondition(zvCndConditionTypeEnum type
                                                      zvCndOperand&& rhs)
     : zvICndCondition(type), m_lhsOperand(std::move(lhs)), m_rhsOperand(std::move(rhs)) {}
 
+zvICndComparisonCondition::zvICndComparisonCondition(const zvICndComparisonCondition& other) = default;
+
 zvICndComparisonCondition::~zvICndComparisonCondition() = default;
 
-bool zvICndComparisonCondition::evaluate(const zvCndContext& context) const {
+zvICndComparisonCondition& zvICndComparisonCondition::operator=(const zvICndComparisonCondition&) = default;
+
+bool zvICndComparisonCondition::compare(const zvCndContext& context) const {
     const zvCndOperator* const comparison = zvCndOperator::of(getConditionType());
     const zvValue* const left = resolve(m_lhsOperand, context);
     const zvValue* const right = left == nullptr ? nullptr : resolve(m_rhsOperand, context);

@@ -1,6 +1,8 @@
 #ifndef ZV_I_CND_COMPARISON_CONDITION_H
 #define ZV_I_CND_COMPARISON_CONDITION_H
 
+#include <utility>
+
 #include "zvCndCondition.h"
 #include "zvCndOperand.h"
 
@@ -11,9 +13,9 @@
 /// contain. A comparison with a missing operand is false, even NotEquals.
 class ZV_EXPORT zvICndComparisonCondition : public zvICndCondition {
 public:
+    zvICndComparisonCondition(const zvICndComparisonCondition& other);
+    zvICndComparisonCondition& operator=(const zvICndComparisonCondition& other);
     ~zvICndComparisonCondition() override;
-
-    bool evaluate(const zvCndContext& context) const override;
 
     zvCndOperand getLHSOperand() const { return m_lhsOperand; }
     zvCndOperand getRHSOperand() const { return m_rhsOperand; }
@@ -28,7 +30,7 @@ public:
     /// @}
 
 protected:
-    explicit zvICndComparisonCondition(zvCndConditionTypeEnum type);
+    explicit zvICndComparisonCondition(zvCndConditionTypeEnum type = zvCndConditionNone);
     zvICndComparisonCondition(zvCndConditionTypeEnum type, zvCndOperand&& lhs, zvCndOperand&& rhs);
 
     /// Copies the operand's value into `out`. False for a missing operand, with `out` set to the empty
@@ -37,19 +39,34 @@ protected:
     bool getOperandValue(const zvCndOperand& operand, const zvCndContext& context, zvValue& out) const;
     bool getLHSOperandValue(const zvCndContext& context, zvValue& out) const;
     bool getRHSOperandValue(const zvCndContext& context, zvValue& out) const;
+    /// Compares the operands' values with the zvValue operator of the condition's type; false for a missing
+    /// operand, and for a type that is no comparison.
+    bool compare(const zvCndContext& context) const;
 
 private:
     zvCndOperand m_lhsOperand;
     zvCndOperand m_rhsOperand;
 };
 
-using zvICndEqualsCondition = zvICndOfType<zvICndComparisonCondition, zvCndConditionEquals>;
-using zvICndNotEqualsCondition = zvICndOfType<zvICndComparisonCondition, zvCndConditionNotEquals>;
-using zvICndLessThanCondition = zvICndOfType<zvICndComparisonCondition, zvCndConditionLessThan>;
-using zvICndLessThanEqualsCondition = zvICndOfType<zvICndComparisonCondition, zvCndConditionLessThanEquals>;
-using zvICndGreaterThanCondition = zvICndOfType<zvICndComparisonCondition, zvCndConditionGreaterThan>;
-using zvICndGreaterThanEqualsCondition =
-    zvICndOfType<zvICndComparisonCondition, zvCndConditionGreaterThanEquals>;
+/// The comparison of one condition type.
+template <zvCndConditionTypeEnum Type>
+class ZV_EXPORT zvICndComparisonOfType : public zvICndComparisonCondition {
+public:
+    static constexpr zvCndConditionTypeEnum type = Type;
+
+    zvICndComparisonOfType() : zvICndComparisonCondition(Type) {}
+    zvICndComparisonOfType(zvCndOperand&& lhs, zvCndOperand&& rhs)
+        : zvICndComparisonCondition(Type, std::move(lhs), std::move(rhs)) {}
+
+    bool evaluate(const zvCndContext& context) const override { return compare(context); }
+};
+
+using zvICndEqualsCondition = zvICndComparisonOfType<zvCndConditionEquals>;
+using zvICndNotEqualsCondition = zvICndComparisonOfType<zvCndConditionNotEquals>;
+using zvICndLessThanCondition = zvICndComparisonOfType<zvCndConditionLessThan>;
+using zvICndLessThanEqualsCondition = zvICndComparisonOfType<zvCndConditionLessThanEquals>;
+using zvICndGreaterThanCondition = zvICndComparisonOfType<zvCndConditionGreaterThan>;
+using zvICndGreaterThanEqualsCondition = zvICndComparisonOfType<zvCndConditionGreaterThanEquals>;
 
 using zvCndComparisonCondition = zvCndHandle<zvICndComparisonCondition>;
 using zvCndEqualsCondition = zvCndHandle<zvICndEqualsCondition>;

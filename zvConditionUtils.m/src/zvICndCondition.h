@@ -1,8 +1,6 @@
 #ifndef ZV_I_CND_CONDITION_H
 #define ZV_I_CND_CONDITION_H
 
-#include <utility>
-
 #include "zvReferenceCtr.h"
 
 class zvCndContext;
@@ -22,8 +20,12 @@ enum zvCndConditionTypeEnum : int {
 
 /// A boolean expression over named attributes, created by zvCndConditionFactory and held in a handle,
 /// zvCndCondition or a typed one. Cycles are not detected: a condition added below itself leaks.
+///
+/// A copy has the type of its original; an assignment keeps the type, which belongs to the class.
 class ZV_EXPORT zvICndCondition : public zvReferenceCtr {
 public:
+    zvICndCondition(const zvICndCondition& other);
+    zvICndCondition& operator=(const zvICndCondition& other);
     ~zvICndCondition() override;
 
     /// Whether the condition is true for the attributes in `context`. Throws the zvException of zvValue if
@@ -37,16 +39,6 @@ protected:
 
 private:
     zvCndConditionTypeEnum m_conditionType;
-};
-
-/// A class that differs from its base only in the condition type.
-template <class Base, zvCndConditionTypeEnum Type>
-class ZV_EXPORT zvICndOfType : public Base {
-public:
-    static constexpr zvCndConditionTypeEnum type = Type;
-
-    template <class... Arguments>
-    explicit zvICndOfType(Arguments&&... arguments) : Base(Type, std::forward<Arguments>(arguments)...) {}
 };
 
 #endif

@@ -4,6 +4,10 @@
 
 zvICndListCondition::zvICndListCondition(zvCndConditionTypeEnum type) : zvICndLogicalCondition(type) {}
 
+zvICndListCondition::zvICndListCondition(const zvICndListCondition& other) = default;
+
+zvICndListCondition& zvICndListCondition::operator=(const zvICndListCondition& other) = default;
+
 zvICndListCondition::~zvICndListCondition() { release(m_conditions.m_conditions); }
 
 bool zvICndListCondition::addCondition(const zvCndCondition& condition) {

@@ -8,6 +8,8 @@
 /// are false.
 class ZV_EXPORT zvICndListCondition : public zvICndLogicalCondition {
 public:
+    zvICndListCondition(const zvICndListCondition& other);
+    zvICndListCondition& operator=(const zvICndListCondition& other);
     ~zvICndListCondition() override;
 
     /// Appends a child. False, with nothing changed, for null.
@@ -19,7 +21,7 @@ public:
     zvCndChildren children() const override;
 
 protected:
-    explicit zvICndListCondition(zvCndConditionTypeEnum type);
+    explicit zvICndListCondition(zvCndConditionTypeEnum type = zvCndConditionNone);
 
     void moveChildrenTo(std::vector<zvCndCondition>& conditions) override;
 
@@ -27,8 +29,19 @@ private:
     zvCndConditionList m_conditions;
 };
 
-using zvICndAndCondition = zvICndOfType<zvICndListCondition, zvCndConditionAnd>;
-using zvICndOrCondition = zvICndOfType<zvICndListCondition, zvCndConditionOr>;
+/// AND or OR.
+template <zvCndConditionTypeEnum Type>
+class ZV_EXPORT zvICndListOfType : public zvICndListCondition {
+public:
+    static constexpr zvCndConditionTypeEnum type = Type;
+
+    zvICndListOfType() : zvICndListCondition(Type) {}
+
+    bool evaluate(const zvCndContext& context) const override { return evaluateTree(context); }
+};
+
+using zvICndAndCondition = zvICndListOfType<zvCndConditionAnd>;
+using zvICndOrCondition = zvICndListOfType<zvCndConditionOr>;
 
 using zvCndAndCondition = zvCndHandle<zvICndAndCondition>;
 using zvCndOrCondition = zvCndHandle<zvICndOrCondition>;

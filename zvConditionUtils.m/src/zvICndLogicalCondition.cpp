@@ -3,9 +3,31 @@
 #include <array>
 #include <cstddef>
 #include <memory_resource>
+#include <typeinfo>
 #include <utility>
 
+#include "zvICndListCondition.h"
+#include "zvICndNotCondition.h"
+
 namespace {
+
+// Null unless the condition is of one of the library's own classes: a class derived from one may have an
+// evaluate() of its own.
+const zvICndLogicalCondition* asPlain(const zvICndCondition& condition) {
+    const auto ifOfType = [&condition](const std::type_info& made) {
+        return typeid(condition) == made ? static_cast<const zvICndLogicalCondition*>(&condition) : nullptr;
+    };
+    switch (condition.getConditionType()) {
+        case zvCndConditionAnd:
+            return ifOfType(typeid(zvICndAndCondition));
+        case zvCndConditionOr:
+            return ifOfType(typeid(zvICndOrCondition));
+        case zvCndConditionNot:
+            return ifOfType(typeid(zvICndNotCondition));
+        default:
+            return nullptr;
+    }
+}
 
 // A condition whose children are being evaluated.
 struct OpenCondition {
@@ -40,7 +62,15 @@ bool hasOneOwner(zvICndCondition& condition) {
 
 }  // namespace
 
+zvICndLogicalCondition::zvICndLogicalCondition(const zvICndLogicalCondition& other) = default;
+
 zvICndLogicalCondition::~zvICndLogicalCondition() = default;
+
+zvICndLogicalCondition& zvICndLogicalCondition::operator=(const zvICndLogicalCondition&) = default;
+
+zvCndChildren zvICndLogicalCondition::children() const { return {}; }
+
+void zvICndLogicalCondition::moveChildrenTo(std::vector<zvCndCondition>&) {}
 
 zvICndLogicalCondition* zvICndLogicalCondition::from(const zvCndCondition& condition) {
     if (condition.IsNull()) {
@@ -56,7 +86,7 @@ zvICndLogicalCondition* zvICndLogicalCondition::from(const zvCndCondition& condi
     }
 }
 
-bool zvICndLogicalCondition::evaluate(const zvCndContext& context) const {
+bool zvICndLogicalCondition::evaluateTree(const zvCndContext& context) const {
     // Deliberately uninitialised: clearing it would take longer than the evaluation.
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
     alignas(OpenCondition) std::array<std::byte, usualDepth * sizeof(OpenCondition)> memory;
@@ -73,7 +103,7 @@ bool zvICndLogicalCondition::evaluate(const zvCndContext& context) const {
             continue;
         }
         const zvCndCondition& child = *current.rest.next++;
-        if (const zvICndLogicalCondition* const logical = from(child)) {
+        if (const zvICndLogicalCondition* const logical = asPlain(*child.operator->())) {
             open.emplace_back(*logical);
             result = initialResult(open.back());
         } else {

@@ -4,6 +4,10 @@
 
 zvICndNotCondition::zvICndNotCondition() : zvICndLogicalCondition(type) {}
 
+zvICndNotCondition::zvICndNotCondition(const zvICndNotCondition& other) = default;
+
+zvICndNotCondition& zvICndNotCondition::operator=(const zvICndNotCondition& other) = default;
+
 zvICndNotCondition::~zvICndNotCondition() {
     if (from(m_condition) != nullptr) {
         std::vector<zvCndCondition> conditions;
@@ -11,6 +15,8 @@ zvICndNotCondition::~zvICndNotCondition() {
         release(conditions);
     }
 }
+
+bool zvICndNotCondition::evaluate(const zvCndContext& context) const { return evaluateTree(context); }
 
 bool zvICndNotCondition::setCondition(const zvCndCondition& condition) {
     if (condition.IsNull()) {

@@ -9,7 +9,11 @@ public:
     static constexpr zvCndConditionTypeEnum type = zvCndConditionNot;
 
     zvICndNotCondition();
+    zvICndNotCondition(const zvICndNotCondition& other);
+    zvICndNotCondition& operator=(const zvICndNotCondition& other);
     ~zvICndNotCondition() override;
+
+    bool evaluate(const zvCndContext& context) const override;
 
     /// Replaces the child. False, with nothing changed, for null.
     bool setCondition(const zvCndCondition& condition);

@@ -282,4 +282,50 @@ TEST(zvICndLogicalConditionTest, RefusesNullChildren) {
     EXPECT_EQ(1, FixedCondition::living);
 }
 
+// A condition with an evaluate() of its own over one of the library's classes.
+template <class Base>
+class Opposite : public Base {
+public:
+    bool evaluate(const zvCndContext& context) const override {
+        ++FixedCondition::evaluations;
+        return !Base::evaluate(context);
+    }
+};
+
+TEST(zvICndLogicalConditionTest, CallsAnEvaluateOfItsOwnAnywhere) {
+    const zvCndContext context;
+    const zvCndHandle<Opposite<zvICndAndCondition>> notAll(new Opposite<zvICndAndCondition>);
+    const zvCndHandle<Opposite<zvICndOrCondition>> none(new Opposite<zvICndOrCondition>);
+    const zvCndHandle<Opposite<zvICndNotCondition>> same(new Opposite<zvICndNotCondition>);
+    notAll->addCondition(fixed(true));
+    none->addCondition(fixed(true));
+    same->setCondition(fixed(false));
+    for (const zvCndCondition& own :
+         {Factory::getCondition(notAll), Factory::getCondition(none), Factory::getCondition(same)}) {
+        FixedCondition::evaluations = 0;
+        EXPECT_FALSE(own->evaluate(context));
+        EXPECT_FALSE(andOf({own})->evaluate(context));
+        EXPECT_TRUE(notOf(own)->evaluate(context));
+        EXPECT_FALSE(notOf(notOf(Factory::getCondition(andOf({fixed(true), own}))))->evaluate(context));
+        EXPECT_EQ(9,
+                  FixedCondition::evaluations);  // own and its child four times, and the fixed one beside it
+    }
+}
+
+TEST(zvICndConditionTest, ACopySharesTheChildrenAndHasNoOwnersYet) {
+    const zvCndAndCondition original = andOf({fixed(true)});
+    const zvCndAndCondition copy(new zvICndAndCondition(*original.operator->()));
+    EXPECT_EQ(1, owners(copy));
+    copy->addCondition(fixed(false));
+    EXPECT_EQ(1, original->numConditions());
+    EXPECT_TRUE(original->evaluate(zvCndContext()));
+    EXPECT_FALSE(copy->evaluate(zvCndContext()));
+    *copy.operator->() = *original.operator->();
+    EXPECT_TRUE(copy->evaluate(zvCndContext()));
+    EXPECT_EQ(1, FixedCondition::living);
+    const zvCndOrCondition other = Factory::createOrCondition();
+    static_cast<zvICndListCondition&>(*other.operator->()) = *original.operator->();
+    EXPECT_EQ(zvCndConditionOr, other->getConditionType());
+}
+
 }  // namespace

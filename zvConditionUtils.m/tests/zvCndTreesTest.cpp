@@ -153,6 +153,22 @@ const HugeText hugeTexts[] = {
 INSTANTIATE_TEST_SUITE_P(All, zvCndHugeTextsTest, testing::ValuesIn(hugeTexts),
                          [](const auto& info) { return std::string(info.param.name); });
 
+TEST(zvCndTreesTest, AnEvaluateOfItsOwnIsCalledAtAnyDepth) {
+    class Never : public zvICndOrCondition {
+    public:
+        bool evaluate(const zvCndContext&) const override { return false; }
+    };
+    auto* const never = new Never;
+    zvCndCondition tree(never);
+    never->addCondition(parse(repeated(million, "NOT ") + "{a} = '1'"));
+    for (int i = 0; i < million; ++i) {
+        const zvCndNotCondition negation = zvCndConditionFactory::createNotCondition();
+        negation->setCondition(tree);
+        tree = zvCndConditionFactory::getCondition(negation);
+    }
+    EXPECT_FALSE(tree->evaluate(zvCndContext()));
+}
+
 TEST(zvCndTreesTest, AnyDepthCanBeRefused) {
     const char* const unclosed = "Error in matching parenthesis, closing parenthesis missing";
     EXPECT_EQ(unclosed, messageThrownBy([] { parse(repeated(million, "(")); }));

@@ -9,7 +9,7 @@
 #include "zvStringList.h"
 
 /// A list of file extensions in insertion order, with case-insensitive lookup.
-class zvCfgExtensionList {
+class ZV_EXPORT zvCfgExtensionList {
 public:
     void add(const zvString& name);
     bool has(zvString name) const;
@@ -21,7 +21,7 @@ private:
 };
 
 /// The index of the mapped file types, which zvCfgObjectConfig owns.
-class zvCfgFileConfig {
+class ZV_EXPORT zvCfgFileConfig {
 public:
     /// Precondition: the file is not null and is not modified any more.
     void add(zvCfgFile* file);

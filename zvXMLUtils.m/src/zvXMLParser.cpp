@@ -280,8 +280,6 @@ bool zvXMLParser::addEndTag() {
     return m_pCurrentNode != nullptr && changeCurrentNode(m_pCurrentNode->getParentNode());
 }
 
-zvString zvXMLParser::getStringFromXMLCh(const XMLCh* text) { return toString(text); }
-
 zvString zvXMLParser::getStringFromXMLCh(const unsigned short* text) { return {text}; }
 
 bool zvXMLParser::isXMLText(const zvString& text) {

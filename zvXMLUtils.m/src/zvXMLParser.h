@@ -1,22 +1,18 @@
 #ifndef ZV_XML_PARSER_H
 #define ZV_XML_PARSER_H
 
-#include <cstddef>
 #include <memory>
-#include <xercesc/util/XercesDefs.hpp>
+#include <type_traits>
+#include <xercesc/dom/DOMElement.hpp>
+#include <xercesc/dom/DOMNode.hpp>
 
 #include "zvCoreObject.h"
 #include "zvFinding.h"
 #include "zvString.h"
 #include "zvStringList.h"
-
-XERCES_CPP_NAMESPACE_BEGIN
-class DOMElement;
-class DOMNode;
-XERCES_CPP_NAMESPACE_END
+#include "zvXERCESDOMNODEList.h"
 
 class zvDOMLoader;
-class zvXERCESDOMNODEList;
 
 /// XML facade: loads or creates a document, traverses, queries, extends and writes it.
 ///
@@ -133,8 +129,11 @@ public:
     zvXERCESDOMNODEList* getChildNodes(xercesc::DOMElement* element, const zvString& name) const;
     /// Text as the XML library keeps it, up to its terminator; empty for null.
     static zvString getStringFromXMLCh(const unsigned short* text);
-    static zvString getStringFromXMLCh(const XMLCh* text);
-    static zvString getStringFromXMLCh(std::nullptr_t) { return {}; }
+    /// A template, so that a null pointer without a type is no second meaning.
+    template <typename Unit, std::enable_if_t<std::is_same_v<Unit, XMLCh>, bool> = true>
+    static zvString getStringFromXMLCh(const Unit* text) {
+        return text;
+    }
 
     /// Whether an XML document can hold the text: no control characters, no half of a surrogate pair.
     static bool isXMLText(const zvString& text);

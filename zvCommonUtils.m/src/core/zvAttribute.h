@@ -13,6 +13,8 @@ public:
     virtual ~zvAttribute();
 
     zvAttribute& operator=(const zvAttribute& other);
+    /// The same as the assignment.
+    void copy(const zvAttribute& other);
 
     zvString getName() const;
     void setName(const zvString& name);
@@ -20,9 +22,6 @@ public:
     void setValue(const zvValue& value);
     /// The value by reference, owned by the attribute.
     const zvValue& value() const { return m_value; }
-
-protected:
-    void copy(const zvAttribute& other);
 
 private:
     zvKeptString m_strName;

@@ -6,7 +6,7 @@
 /// Owns a null-terminated narrow copy of a zvString, for interfaces that take plain characters.
 class ZV_EXPORT zvCharString {
 public:
-    explicit zvCharString(const zvString& text);
+    zvCharString(const zvString& text);
     zvCharString(const zvCharString&) = delete;
     zvCharString& operator=(const zvCharString&) = delete;
     ~zvCharString();

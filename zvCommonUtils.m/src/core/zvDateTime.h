@@ -12,9 +12,9 @@ class ZV_EXPORT zvDateTime : public zvCoreObject {
 public:
     /// All numbers 0, with the pattern "DD/MM/YYYY::hh-mm-ss".
     zvDateTime();
-    explicit zvDateTime(const zvString& format);
+    zvDateTime(const zvString& format);
     zvDateTime(short year, short month, short day, short hour, short minute, short second);
-    explicit zvDateTime(zvInt64 seconds);
+    zvDateTime(zvInt64 seconds);
     zvDateTime(const zvDateTime& other);
     ~zvDateTime() override;
 

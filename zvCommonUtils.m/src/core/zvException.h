@@ -10,8 +10,8 @@
 class ZV_EXPORT zvException {
 public:
     zvException();
-    explicit zvException(const zvResult& result);
-    explicit zvException(const zvString& message);
+    zvException(const zvResult& result);
+    zvException(const zvString& message);
     zvException(const zvException& other);
     virtual ~zvException();
 

@@ -1,6 +1,11 @@
 #include "zvReferenceCtr.h"
 
+zvReferenceCtr::zvReferenceCtr(const zvReferenceCtr& other) : zvCoreObject(other) {}
+
 zvReferenceCtr::~zvReferenceCtr() = default;
+
+// The count says who owns this object, whatever its content.
+zvReferenceCtr& zvReferenceCtr::operator=(const zvReferenceCtr&) { return *this; }
 
 int zvReferenceCtr::AddRef() { return ++m_count; }
 

@@ -4,12 +4,13 @@
 #include "zvCoreObject.h"
 
 /// The base of reference-counted heap objects. The count is not atomic: one thread at a time. It starts at 0,
-/// so that the creator has to call AddRef() to own the object.
+/// so that the creator has to call AddRef() to own the object. A copy has no owners yet, and an assignment
+/// changes no owners.
 class ZV_EXPORT zvReferenceCtr : public zvCoreObject {
 public:
     zvReferenceCtr() = default;
-    zvReferenceCtr(const zvReferenceCtr&) = delete;
-    zvReferenceCtr& operator=(const zvReferenceCtr&) = delete;
+    zvReferenceCtr(const zvReferenceCtr& other);
+    zvReferenceCtr& operator=(const zvReferenceCtr& other);
     ~zvReferenceCtr() override;
 
     /// @return the new count.

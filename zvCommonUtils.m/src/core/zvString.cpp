@@ -47,7 +47,10 @@ zvString::zvString(const char16_t* text, int n) {
     }
 }
 
-zvString::zvString(char c) { set(&c, 1); }
+zvString::zvString(char c) {
+    const char text[] = {c, '\0'};
+    set(text);
+}
 
 zvString::zvString(wchar16 c) { setW(&c, 1); }
 
@@ -177,11 +180,15 @@ zvString& zvString::operator=(const zvString& other) {
     return *this;
 }
 
-zvString& zvString::operator=(const char16_t* text) {
-    reset();
-    if (text != nullptr) {
-        assign(text, lengthOf(text));
+// Without a copy of its own, and so without writing before the text, which may be in this buffer, is read.
+zvString& zvString::assignUnits(const char16_t* text) {
+    const int length = text == nullptr ? 0 : lengthOf(text);
+    if (length == 0) {
+        reset();
+        return *this;
     }
+    _clearCache();
+    assign(text, length);
     return *this;
 }
 
@@ -209,11 +216,7 @@ zvString& zvString::operator+=(wchar16 c) {
 
 zvString& zvString::operator+=(char16_t c) { return *this += static_cast<wchar16>(c); }
 
-zvString& zvString::operator+=(char c) {
-    _clearCache();
-    addTail(&c, 1);
-    return *this;
-}
+zvString& zvString::operator+=(char c) { return append(zvString(c)); }
 
 zvString& zvString::operator+=(const char* text) { return append(zvString(text)); }
 

@@ -1,6 +1,8 @@
 #ifndef ZV_STRING_H
 #define ZV_STRING_H
 
+#include <type_traits>
+
 #include "zvExport.h"
 #include "zvTypes.h"
 
@@ -32,22 +34,29 @@ public:
     /// @name From one character
     /// 0 gives an empty string.
     /// @{
-    explicit zvString(char c);
-    explicit zvString(wchar16 c);
-    explicit zvString(char16_t c);
+    zvString(char c);
+    zvString(wchar16 c);
+    zvString(char16_t c);
     /// @}
 
     /// "True" or "False".
-    explicit zvString(bool b);
-    explicit zvString(int v);
-    explicit zvString(long v);
+    zvString(bool b);
+    zvString(int v);
+    zvString(long v);
     /// With six decimals, for example "2.500000"; empty if that takes more than 63 characters.
-    explicit zvString(double v);
+    zvString(double v);
+    /// What is neither text nor a number is refused.
+    template <typename Other,
+              std::enable_if_t<zvIsOtherPointer<Other> || zvIsOtherCharacter<Other>, bool> = true>
+    zvString(Other) = delete;
     virtual ~zvString();
 
     zvString& operator=(const zvString& other);
-    /// Null gives an empty string.
-    zvString& operator=(const char16_t* text);
+    /// Null gives an empty string. A template, so that 0 is no null pointer but a number.
+    template <typename Unit, std::enable_if_t<std::is_same_v<Unit, char16_t>, bool> = true>
+    zvString& operator=(const Unit* text) {
+        return assignUnits(text);
+    }
     /// Swaps the buffers.
     void swap(zvString& other) noexcept;
 
@@ -162,6 +171,7 @@ private:
     void setW(const wchar16* text, int n);
     void addTail(const char* text, int n);
     void addTailW(const wchar16* text, int n);
+    zvString& assignUnits(const char16_t* text);
     template <typename Unit>
     void assign(const Unit* text, int length);
     void extend(const wchar16* text, int tail);
@@ -185,5 +195,27 @@ ZV_EXPORT zvString operator+(const zvString& left, char right);
 ZV_EXPORT zvString operator+(const char* left, const zvString& right);
 ZV_EXPORT bool operator==(const char* left, const zvString& right);
 ZV_EXPORT bool operator!=(const char* left, const zvString& right);
+
+/// @name Operands that are a character or a number
+/// Each stands for the string that is constructed from it. Without these overloads 0 would be a null pointer
+/// and a wide character would be cut down to a narrow one.
+/// @{
+template <typename Number>
+std::enable_if_t<std::is_arithmetic_v<Number>, zvString> operator+(const zvString& left, Number right) {
+    return left + zvString(right);
+}
+template <typename Number>
+std::enable_if_t<std::is_arithmetic_v<Number>, zvString> operator+(Number left, const zvString& right) {
+    return zvString(left) + right;
+}
+template <typename Number>
+std::enable_if_t<std::is_arithmetic_v<Number>, bool> operator==(Number left, const zvString& right) {
+    return right == zvString(left);
+}
+template <typename Number>
+std::enable_if_t<std::is_arithmetic_v<Number>, bool> operator!=(Number left, const zvString& right) {
+    return right != zvString(left);
+}
+/// @}
 
 #endif

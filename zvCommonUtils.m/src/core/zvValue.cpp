@@ -54,6 +54,12 @@ zvValue::zvValue(const zvString& value) : zvValue() { setStrValue(value); }
 
 zvValue::zvValue(zvString&& value) : m_strValue(std::move(value)), m_dataType(zvDataTypeString) {}
 
+zvValue::zvValue(const char* value) : zvValue(zvString(value)) {}
+
+zvValue::zvValue(const wchar16* value) : zvValue(zvString(value)) {}
+
+zvValue::zvValue(const char16_t* value) : zvValue(zvString(value)) {}
+
 zvValue::zvValue(const zvDateTime& value) : zvValue() { setDateValue(value); }
 
 zvValue::zvValue(const zvString& text, zvDataTypeEnum type, int precision) : zvValue() {

@@ -23,12 +23,22 @@ class ZV_EXPORT zvValue {
 public:
     /// Type None, which converts to an empty string only.
     zvValue();
-    explicit zvValue(bool value);
-    explicit zvValue(int value);
-    explicit zvValue(float value);
-    explicit zvValue(const zvString& value);
-    explicit zvValue(zvString&& value);
-    explicit zvValue(const zvDateTime& value);
+    zvValue(bool value);
+    zvValue(int value);
+    zvValue(float value);
+    zvValue(const zvString& value);
+    zvValue(zvString&& value);
+    /// @name Strings from text
+    /// Null gives an empty string.
+    /// @{
+    zvValue(const char* value);
+    zvValue(const wchar16* value);
+    zvValue(const char16_t* value);
+    /// @}
+    /// Any other pointer is refused.
+    template <typename Other, std::enable_if_t<zvIsOtherPointer<Other>, bool> = true>
+    zvValue(Other) = delete;
+    zvValue(const zvDateTime& value);
     zvValue(const zvString& text, zvDataTypeEnum type, int precision);
     zvValue(const zvValue& other);
     zvValue(zvValue&& other) noexcept;

@@ -42,16 +42,15 @@ void close(int descriptor);
 std::FILE* reserveStandardOutput();
 
 /// From now on a request to end the process (Ctrl-C, SIGTERM, SIGHUP) is noted: work ends where it can be
-/// ended cleanly. A second one ends the process at once. To be repeated after a library has set handlers of
-/// its own.
+/// ended cleanly. A second one ends the process at once.
 void noteSignals();
-/// Keeps such requests from other threads, which a library is about to start, while it lives.
-class SignalsForThisThread {
+/// While it lives, a library that is started and sets handlers of its own leaves those of noteSignals() alone.
+class SignalsUntouched {
 public:
-    SignalsForThisThread();
-    SignalsForThisThread(const SignalsForThisThread&) = delete;
-    SignalsForThisThread& operator=(const SignalsForThisThread&) = delete;
-    ~SignalsForThisThread();
+    SignalsUntouched();
+    SignalsUntouched(const SignalsUntouched&) = delete;
+    SignalsUntouched& operator=(const SignalsUntouched&) = delete;
+    ~SignalsUntouched();
 };
 /// The number of the signal that was noted; 0 for none.
 int notedSignal();

@@ -122,7 +122,11 @@ std::FILE* zvProcess::reserveStandardOutput() {
 
 namespace {
 
-constexpr std::array<int, 3> endingSignals = {SIGINT, SIGTERM, SIGHUP};
+struct EndingSignal {
+    int number;
+    bool isNoted;
+};
+std::array<EndingSignal, 3> endingSignals = {{{SIGINT, false}, {SIGTERM, false}, {SIGHUP, false}}};
 std::atomic<int> noted{0};
 static_assert(std::atomic<int>::is_always_lock_free, "a signal handler may use nothing else");
 
@@ -132,39 +136,51 @@ void note(int signal) {
     }
 }
 
-sigset_t endingSet() {
+void setHandler(int signal, void (*handler)(int)) {
+    struct sigaction action {};
+    action.sa_handler = handler;
+    action.sa_flags = SA_RESTART;
+    ::sigaction(signal, &action, nullptr);
+}
+
+void setHandlers(void (*handler)(int)) {
+    for (const EndingSignal& signal : endingSignals) {
+        if (signal.isNoted) {
+            setHandler(signal.number, handler);
+        }
+    }
+}
+
+void setMask(int how) {
     sigset_t set;
     sigemptyset(&set);
-    for (const int signal : endingSignals) {
-        sigaddset(&set, signal);
+    for (const EndingSignal& signal : endingSignals) {
+        sigaddset(&set, signal.number);
     }
-    return set;
+    ::pthread_sigmask(how, &set, nullptr);
 }
 
 }  // namespace
 
 void zvProcess::noteSignals() {
-    for (const int signal : endingSignals) {
+    for (EndingSignal& signal : endingSignals) {
         struct sigaction action {};
         // A signal that the parent process ignores, as nohup does, stays ignored.
-        if (::sigaction(signal, nullptr, &action) == 0 && action.sa_handler != SIG_IGN) {
-            action = {};
-            action.sa_handler = note;
-            action.sa_flags = SA_RESTART;
-            ::sigaction(signal, &action, nullptr);
-        }
+        signal.isNoted = ::sigaction(signal.number, nullptr, &action) == 0 && action.sa_handler != SIG_IGN;
     }
+    setHandlers(note);
 }
 
-zvProcess::SignalsForThisThread::SignalsForThisThread() {
-    const sigset_t set = endingSet();
-    ::pthread_sigmask(SIG_BLOCK, &set, nullptr);
+// A Java machine leaves alone what is ignored when it starts. A signal that comes then waits for this thread,
+// unless one of the machine's own has dropped it.
+zvProcess::SignalsUntouched::SignalsUntouched() {
+    setMask(SIG_BLOCK);
+    setHandlers(SIG_IGN);
 }
 
-zvProcess::SignalsForThisThread::~SignalsForThisThread() {
-    noteSignals();
-    const sigset_t set = endingSet();
-    ::pthread_sigmask(SIG_UNBLOCK, &set, nullptr);
+zvProcess::SignalsUntouched::~SignalsUntouched() {
+    setHandlers(note);
+    setMask(SIG_UNBLOCK);
 }
 
 int zvProcess::notedSignal() { return noted; }

@@ -137,8 +137,8 @@ BOOL WINAPI note(DWORD event) {
 
 void zvProcess::noteSignals() { ::SetConsoleCtrlHandler(note, TRUE); }
 
-// Requests come on a thread of their own here.
-zvProcess::SignalsForThisThread::SignalsForThisThread() = default;
-zvProcess::SignalsForThisThread::~SignalsForThisThread() { noteSignals(); }
+// The handler that was added last is called first.
+zvProcess::SignalsUntouched::SignalsUntouched() = default;
+zvProcess::SignalsUntouched::~SignalsUntouched() { noteSignals(); }
 
 int zvProcess::notedSignal() { return noted; }

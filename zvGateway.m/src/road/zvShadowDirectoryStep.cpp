@@ -1,5 +1,7 @@
 #include "zvShadowDirectoryStep.h"
 
+#include <cstdint>
+#include <ctime>
 #include <filesystem>
 #include <system_error>
 
@@ -82,11 +84,31 @@ void zvShadowDirectoryStep::beginAttempt(const zvEventRecord::Arguments& given) 
 
 void zvShadowDirectoryStep::makeDirectory() {
     const zvString root = m_event.argument("RootShadowDir");
+    if (std::time(nullptr) > INT32_MAX) {
+        makeDirectoryAfter2038(root);
+        return;
+    }
     const zvResult made = zvEventArguments::populateEventArguments(root, *m_event.arguments);
     if (!made.isOk()) {
         throw failure(root, refusal(made));
     }
     requireFiles(refusal(made));
+}
+
+// The library names directories by 32-bit seconds, which would be negative then.
+void zvShadowDirectoryStep::makeDirectoryAfter2038(const zvString& root) {
+    for (auto candidate = static_cast<zvInt64>(std::time(nullptr));; ++candidate) {
+        const zvString name = std::to_string(candidate).c_str();
+        std::error_code error;
+        if (std::filesystem::create_directory(toNativePath(root + "\\" + name), error)) {
+            m_event.arguments->setEventArgument("EventShadowDir", name);
+            resumeIn(name);
+            return;
+        }
+        if (error) {
+            throw failure(root, error.message());
+        }
+    }
 }
 
 void zvShadowDirectoryStep::resumeIn(const zvString& name) {

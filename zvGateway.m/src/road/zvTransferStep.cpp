@@ -38,7 +38,7 @@ void offerClient() {
 class Connection {
 public:
     explicit Connection(const zvString& configuration) {
-        const zvProcess::SignalsForThisThread signals;  // the Java machine starts threads and sets handlers
+        const zvProcess::SignalsUntouched signals;  // by the Java machine, which would end the process
         zvFSClient::getInstance(configuration);
     }
     Connection(const Connection&) = delete;

@@ -1,0 +1,6 @@
+#ifndef ZV_CND_AND_CONDITION_H
+#define ZV_CND_AND_CONDITION_H
+
+#include "zvICndListCondition.h"
+
+#endif

@@ -1,0 +1,6 @@
+#ifndef ZV_I_CND_NOT_EQUALS_CONDITION_H
+#define ZV_I_CND_NOT_EQUALS_CONDITION_H
+
+#include "zvICndComparisonCondition.h"
+
+#endif
