@@ -4,6 +4,7 @@
 
 #include "zvPlatform.h"
 #include "zvRecordingLogger.h"
+#include "zvSecrets.h"
 #include "zvTestSupport.h"
 
 namespace {
@@ -104,6 +105,20 @@ TEST_F(zvEventArgumentsTest, SecretsReachNoLogLine) {
         "KPDMPasswd=******** not added to Arguments"};
     const Lines found = zvRecordingLogger::lines("warn");
     EXPECT_EQ(Lines(found.end() - 2, found.end()), warnings);
+}
+
+TEST_F(zvEventArgumentsTest, KeysCanBeAddedToTheSecrets) {
+    zvSecrets::addKey("Pin");
+    const Arguments arguments =
+        parse({"Pin=s3cret", "Pin=s3cret again", "Pinboard=shown", "Note=Pin is shown", "Pin\\=shown=1"});
+    EXPECT_EQ(zvSecrets::maskedValue("Pin", arguments->getEventArgumentValue("Pin")), "********");
+    const Lines info = zvRecordingLogger::lines("info");
+    const Lines expected = {"> Pin=********", "> Pin=********", "> Pinboard=shown", "> Note=Pin is shown",
+                            "> Pin\\=shown=1"};
+    EXPECT_EQ(Lines(info.begin() + 2, info.end()), expected);
+    for (const std::string& text : zvRecordingLogger::lines()) {
+        EXPECT_EQ(text.find("s3cret"), std::string::npos) << text;
+    }
 }
 
 TEST_F(zvEventArgumentsTest, SplitsOneString) {

@@ -32,8 +32,12 @@ and there may be
   AttachmentsFile        an XML file that lists the files which the event carries
   EventShadowDir         the directory, below RootShadowDir, of an earlier run of the event: it resumes there, and
                          what arrived is not sent again
-All others travel with the event. A "\" before a "=" puts the "=" into the key. The values of LoginPassword and
-KPDMPasswd are never shown.
+All others travel with the event. A "\" before a "=" puts the "=" into the key. An argument that has no "=" or no
+key, or whose key was given before, ends the program.
+
+The values of LoginPassword and KPDMPasswd are never shown, but the system shows a command line to others. Secrets can
+come from --secrets, from --secrets-fd, and from the folder that the environment variable CREDENTIALS_DIRECTORY names:
+a file for each, whose name is the key. They become arguments of the event, and are never shown whatever their keys.
 
 The environment variable GATEWAY_HOME names the gateway's home, with
   config/client-config.ini  "local-server-url=..."
@@ -45,12 +49,12 @@ Files are sent by the Java client on CLASSPATH; when that is not set, by the one
 Exit codes
   0  the event went the whole road
   1  something unexpected
-  2  the command line: an unknown option, a missing or an invalid argument
+  2  the command line: an unknown option, an argument that is missing or cannot be used, secrets that cannot be read
   3  the gateway home or a configuration file in it
   4  the event's shadow directory
   5  the event's attachments
   6  the configuration file, or an error that "check" finds in it
-  7  the mapping of the event's object
+  7  the mapping of the event's object, and values that do not fit their declared types
   8  the transfer of the event's files
   9  the post to the local server)";
 
@@ -135,6 +139,24 @@ void declareRoad(CLI::App& program, zvRoadOptions& options) {
     program.add_flag("--dry-run", options.isDryRun, "Does everything but the transfer and the post");
     program.add_flag("--json", options.asJson,
                      "The summary goes to standard output as JSON, and everything else to standard error");
+    program.add_flag("--lenient", options.isLenient,
+                     "Values that do not fit their declared types are warned of, and sent");
+    program.add_flag_callback(
+        "--require-log",
+        [&options] {
+            options.requiresLog = true;
+            // Before the first line is logged.
+            zvProcess::setEnvironment("GATEWAY_LOG_REQUIRED", "yes");
+        },
+        "A log that cannot be written fails the event (exit code 3)");
+    program.add_option(
+        "--secrets", options.secretsFile,
+        "A file with a key=value on each line, which become arguments; only its owner may have rights "
+        "to it");
+    program
+        .add_option("--secrets-fd", options.secretsDescriptor,
+                    "The same from an open file descriptor, as in 3<FILE")
+        ->check(CLI::NonNegativeNumber);
 }
 
 // Declares the program's options, and runs what the command line asks for.

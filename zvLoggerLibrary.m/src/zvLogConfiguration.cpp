@@ -7,10 +7,12 @@
 #include <log4cxx/xml/domconfigurator.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <mutex>
 #include <string_view>
 #include <utility>
 
+#include "zvFileAppenders.h"
 #include "zvPlatform.h"
 #include "zvTextCodec.h"
 
@@ -37,12 +39,17 @@ const char* shortName(const char* file) {
     return separator == std::string_view::npos ? file : file + separator + 1;
 }
 
+bool isLogRequired() { return !zvPlatform::environment("GATEWAY_LOG_REQUIRED").empty(); }
+
 }  // namespace
 
 zvLogConfiguration::zvLogConfiguration(std::filesystem::path path)
     : m_path(std::move(path)), m_pRepository(log4cxx::Hierarchy::create()) {
     const log4cxx::File file(m_path.string());
-    const auto status = log4cxx::xml::DOMConfigurator().doConfigure(file, m_pRepository);
+    const auto status = [&] {
+        const zvFileAppenders appenders;
+        return log4cxx::xml::DOMConfigurator().doConfigure(file, m_pRepository);
+    }();
     adoptAppenders(*m_pRepository->getRootLogger());
     for (const LoggerPtr& logger : m_pRepository->getCurrentLoggers()) {
         adoptAppenders(*logger);
@@ -50,7 +57,10 @@ zvLogConfiguration::zvLogConfiguration(std::filesystem::path path)
     if (!m_files.empty()) {
         m_lock.open(m_files.front().path());
     }
-    if (status == log4cxx::spi::ConfigurationStatus::Configured && !m_bCanWrite) {
+    const bool isMissed = std::any_of(m_files.begin(), m_files.end(),
+                                      [this](const zvLogFile& logFile) { return reportUnopenable(logFile); });
+    m_bCanWrite = m_bCanWrite && !(isMissed && isLogRequired());
+    if (status == log4cxx::spi::ConfigurationStatus::Configured && !m_bCanWrite && !isMissed) {
         LogLog::error(LOG4CXX_STR("No appender that can write in file [") + file.getPath() +
                       LOG4CXX_STR("]."));
     }
@@ -70,8 +80,21 @@ void zvLogConfiguration::adoptAppenders(const log4cxx::Logger& logger) {
         if (file != nullptr && std::none_of(m_files.begin(), m_files.end(), isKnown)) {
             m_files.emplace_back(file);
         }
-        m_bCanWrite = m_bCanWrite || file == nullptr || file->getWriter() != nullptr;
+        m_bCanWrite = m_bCanWrite || file == nullptr || file->getWriter() != nullptr ||
+                      !zvFileAppenders::openingError(*file).empty();
     }
+}
+
+// Once: whoever runs many events does not want to read it before each line.
+bool zvLogConfiguration::reportUnopenable(const zvLogFile& logFile) {
+    const std::string reason = logFile.openingError();
+    if (!reason.empty() && !m_bReported) {
+        m_bReported = true;
+        std::string path;
+        log4cxx::helpers::Transcoder::encode(logFile.path(), path);
+        std::fprintf(stderr, "log: %s cannot be opened: %s\n", path.c_str(), reason.c_str());
+    }
+    return !reason.empty();
 }
 
 void zvLogConfiguration::write(const log4cxx::LevelPtr& level, const char* loggerName, const char* message,
@@ -87,6 +110,9 @@ void zvLogConfiguration::write(const log4cxx::LevelPtr& level, const char* logge
     const std::lock_guard<zvLogFolderLock> guard(m_lock);
     for (zvLogFile& logFile : m_files) {
         logFile.catchUp();
+        if (!logFile.isOpen() && !m_bReported) {
+            reportUnopenable(logFile);
+        }
     }
     logger->forcedLogLS(level, text, location);
     for (zvLogFile& logFile : m_files) {

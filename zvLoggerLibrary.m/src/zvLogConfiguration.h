@@ -18,7 +18,8 @@
 /// The loggers and appenders of one log4cxx configuration file.
 class zvLogConfiguration {
 public:
-    /// Parses the file `path` and opens its log files. Errors are written to standard error.
+    /// Parses the file `path` and opens its log files. Errors are written to standard error; of log files
+    /// that cannot be opened the first one, in one line.
     explicit zvLogConfiguration(std::filesystem::path path);
     zvLogConfiguration(const zvLogConfiguration&) = delete;
     zvLogConfiguration& operator=(const zvLogConfiguration&) = delete;
@@ -26,7 +27,8 @@ public:
     ~zvLogConfiguration();
 
     const std::filesystem::path& path() const { return m_path; }
-    /// False if the file is invalid or has no appender that can write.
+    /// False if the file is invalid or has no appender, and, when the environment says that the log is
+    /// required, if one of its log files cannot be opened.
     bool canWrite() const { return m_bCanWrite; }
 
     /// Writes one event if the logger's level allows it. Only `file` may be null. Throws log4cxx's exception
@@ -36,6 +38,7 @@ public:
 
 private:
     void adoptAppenders(const log4cxx::Logger& logger);
+    bool reportUnopenable(const zvLogFile& logFile);
     const log4cxx::LoggerPtr& find(const char* loggerName);
     const char* keep(std::string_view source);
 
@@ -47,6 +50,7 @@ private:
     std::vector<zvLogFile> m_files;
     zvLogFolderLock m_lock;
     bool m_bCanWrite = false;
+    bool m_bReported = false;
     std::string m_lastName;
     log4cxx::LoggerPtr m_pLastLogger;
 };

@@ -17,7 +17,9 @@ zvLogFile::zvLogFile(log4cxx::FileAppenderPtr appender)
         m_pAppender->setBufferedIO(false);
         // The base class's version opens the file without initialising the rollover policy again.
         Pool pool;
-        m_pAppender->FileAppender::activateOptions(pool);
+        if (openingError().empty()) {
+            m_pAppender->FileAppender::activateOptions(pool);
+        }
     }
     log4cxx::helpers::Transcoder::encode(path(), m_path);
     look(m_own);

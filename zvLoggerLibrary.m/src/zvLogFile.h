@@ -8,6 +8,8 @@
 #include <memory>
 #include <string>
 
+#include "zvFileAppenders.h"
+
 /// A log file to which other processes append, and which they roll over, at the same time.
 ///
 /// Every line is written between catchUp() and remember(), under a zvLogFolderLock.
@@ -17,6 +19,9 @@ public:
     explicit zvLogFile(log4cxx::FileAppenderPtr appender);
 
     bool belongsTo(const log4cxx::FileAppenderPtr& appender) const { return m_pAppender == appender; }
+    bool isOpen() const { return m_pAppender->getWriter() != nullptr; }
+    /// Why the file is not open, by the system; empty if it is, and for another reason.
+    std::string openingError() const { return zvFileAppenders::openingError(*m_pAppender); }
     log4cxx::LogString path() const { return m_pAppender->getFile(); }
 
     /// Synchronises the appender with the other processes: reopens the file if it was replaced, and updates

@@ -9,14 +9,16 @@
 /// Strings are null-terminated, in the multibyte encoding of the process's locale, and need not outlive the
 /// call. The functions are thread-safe and may be called at any time, including the destruction of static
 /// objects at process exit. Without a valid configuration, or with a null logger name or message, nothing is
-/// written. Failures are not returned: the first one is reported on standard error.
+/// written. Failures are not returned: the first one is reported on standard error. A log file that cannot be
+/// opened is one, told in one line with its path and the reason; each later line tries again.
 extern "C" {
 
 /// Configures the logging system from the log4cxx configuration file at `configurationPath`, a path with "\"
 /// or "/" as separator. Idempotent for the same path; another path replaces the configuration.
-/// @return true if messages can be written; false if the file is missing or invalid or has no appender that
-/// can write, which leaves an earlier configuration in place. Errors in the file are written to standard
-/// error; a missing file is not reported.
+/// @return false if the file is missing or invalid or has no appender, which leaves an earlier configuration
+/// in place. Errors in the file are written to standard error; a missing file is not reported. A log file
+/// that cannot be opened gives false too if the environment variable GATEWAY_LOG_REQUIRED is set, to anything
+/// but nothing.
 ZV_LOGGER_API bool InitializeLogger(const char* configurationPath);
 
 /// Writes one event of the level to the logger `loggerName`, with `file` and `line` as its location; `file`

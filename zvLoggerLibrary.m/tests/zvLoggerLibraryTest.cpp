@@ -132,7 +132,7 @@ TEST_F(zvLoggerLibraryTest, RefusesInvalidConfigurationsWithAReason) {
         write("cut.xml", content.substr(0, content.size() / 2)),
         write("other.xml", "<CustomizationConfig/>"),
         write("none.xml", documentStart + std::string("</log4j:configuration>")),
-        write("unopenable.xml", std::regex_replace(content, std::regex("out[.]log"), "."))};
+        write("classless.xml", std::regex_replace(content, std::regex("FileAppender"), "FilAppender"))};
     for (const std::string& path : refused) {
         testing::internal::CaptureStderr();
         EXPECT_FALSE(InitializeLogger(path.c_str())) << path;
@@ -226,6 +226,37 @@ TEST_F(zvLoggerLibraryTest, ADeletedLogFolderIsRecreated) {
     fs::remove(m_folder / "logs");
     LogInfoMessage("a", "once it is possible", "f", 4);
     EXPECT_EQ(lines(), Lines{"INFO|a|f|4|once it is possible"});
+}
+
+TEST_F(zvLoggerLibraryTest, ALogThatCannotBeOpenedIsToldOnceAndWritesOnceItCan) {
+    const fs::path logs = m_folder / "logs";
+    for (const char* const type : {"FileAppender", "RollingFileAppender"}) {
+        const std::string path = write(std::string(type) + ".xml", configuration("info", "", type));
+        fs::remove_all(logs);
+        write("logs", "in the way");
+        testing::internal::CaptureStderr();
+        EXPECT_TRUE(InitializeLogger(path.c_str()));
+        LogInfoMessage("a", "nowhere to go", "f", 1);
+        LogInfoMessage("a", "nor this one", "f", 2);
+        EXPECT_EQ(testing::internal::GetCapturedStderr(),
+                  "log: " + (logs / "out.log").string() + " cannot be opened: Not a directory\n");
+        fs::remove(logs);
+        LogInfoMessage("a", "once it is possible", "f", 3);
+        EXPECT_EQ(lines(), Lines{"INFO|a|f|3|once it is possible"});
+    }
+}
+
+TEST_F(zvLoggerLibraryTest, ARequiredLogThatCannotBeOpenedIsRefused) {
+    write("logs", "in the way");
+    const std::string path = write("required.xml", configuration("info", ""));
+    ::setenv("GATEWAY_LOG_REQUIRED", "yes", 1);
+    testing::internal::CaptureStderr();
+    EXPECT_FALSE(InitializeLogger(path.c_str()));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "log: " + (m_folder / "logs" / "out.log").string() + " cannot be opened: Not a directory\n");
+    fs::remove(m_folder / "logs");
+    EXPECT_TRUE(InitializeLogger(path.c_str()));
+    ::unsetenv("GATEWAY_LOG_REQUIRED");
 }
 
 TEST_F(zvLoggerLibraryTest, TheSampleHomeLogsBelowItself) {

@@ -69,7 +69,8 @@ void* findFunction(void* library, const char* name);
 std::string environment(const char* name);
 /// Sets an environment variable.
 void setEnvironment(const char* name, const char* value);
-/// Sets the user's locale, or C.UTF-8 if its encoding is not UTF-8; for the start of main().
+/// For the start of main(): sets the user's locale, with C.UTF-8's characters where it is "C" or one that the
+/// system lacks. Numbers keep the point: they are for programs, whatever the user's decimal point.
 void adoptUserLocale();
 /// The locale's decimal point.
 const char* decimalPoint();

@@ -193,10 +193,15 @@ std::string environment(const char* name) {
 void setEnvironment(const char* name, const char* value) { ::setenv(name, value, 1); }
 
 void adoptUserLocale() {
-    std::setlocale(LC_ALL, "");
-    if (std::strcmp(::nl_langinfo(CODESET), "UTF-8") != 0) {
-        std::setlocale(LC_ALL, "C.UTF-8");
+    if (std::setlocale(LC_ALL, "") == nullptr) {
+        // The system may have the encoding, and lack the locale of another category.
+        std::setlocale(LC_CTYPE, "");
     }
+    const std::string characters = std::setlocale(LC_CTYPE, nullptr);
+    if (characters == "C" || characters == "POSIX") {
+        std::setlocale(LC_CTYPE, "C.UTF-8");
+    }
+    std::setlocale(LC_NUMERIC, "C");
 }
 
 const char* decimalPoint() { return nl_langinfo(RADIXCHAR); }

@@ -106,7 +106,10 @@ void setEnvironment(const char* name, const char* value) {
     ::_putenv((std::string(name) + "=" + value).c_str());
 }
 
-void adoptUserLocale() { std::setlocale(LC_ALL, ""); }
+void adoptUserLocale() {
+    std::setlocale(LC_ALL, "");
+    std::setlocale(LC_NUMERIC, "C");
+}
 
 const char* decimalPoint() { return std::localeconv()->decimal_point; }
 

@@ -1,15 +1,48 @@
 #include "zvSecrets.h"
 
+#include <deque>
+#include <string>
+
+#include "zvCharString.h"
+
 namespace {
 
 constexpr const char* keys[] = {"LoginPassword", "KPDMPasswd"};
 
+struct AddedKey {
+    zvString key;
+    std::string narrow;
+
+    bool isIn(const zvString& text) const {
+        const int size = key.size();
+        return text.size() >= size && text.find(key, 0, size - 1) == 0 &&
+               (text.size() == size || text[size] == u'=');
+    }
+};
+
+// Never destroyed: what is logged at the end of the process is masked as well.
+std::deque<AddedKey>& addedKeys() {
+    static auto& added = *new std::deque<AddedKey>;
+    return added;
+}
+
 }  // namespace
+
+void zvSecrets::addKey(const zvString& key) {
+    if (!key.empty()) {
+        addedKeys().push_back({key, zvCharString(key).data()});
+    }
+}
 
 const char* zvSecrets::keyIn(const zvString& text) {
     for (const char* const key : keys) {
         if (text.find(key) != -1) {
             return key;
+        }
+    }
+    for (const AddedKey& added : addedKeys()) {
+        if (added.isIn(text)) {
+            return added.narrow.c_str();
         }
     }
     return nullptr;

@@ -10,7 +10,13 @@ namespace zvSecrets {
 /// What stands in the place of a secret.
 constexpr char mask[] = "********";
 
-/// The first secret key that `text` mentions anywhere; null when it mentions none. Static storage.
+/// Makes the values of the argument `key` secrets too, for the life of the process. For the start of a
+/// program, before threads.
+ZV_EXPORT void addKey(const zvString& key);
+
+/// The first secret key that `text` mentions anywhere; null when it mentions none. An added key, which may be
+/// an everyday word, counts only where it is the whole text, or what stands before its first "=". Static
+/// storage.
 ZV_EXPORT const char* keyIn(const zvString& text);
 
 /// A whole `key=value` argument as it may be shown: one that mentions a secret key becomes that key, "=" and

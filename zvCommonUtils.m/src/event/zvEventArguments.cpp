@@ -144,28 +144,33 @@ zvString zvEventArguments::getStringForEventNameEnum(zvEventNameEnum event) {
     return index < std::size(eventNames) ? eventNames[index] : zvString();
 }
 
-bool zvEventArguments::addKeyValueToEventArgument(zvString& arg, zvEventArguments* args) {
-    if (args == nullptr) {
-        return false;
-    }
+bool zvEventArguments::splitArgument(const zvString& argument, zvString& key, zvString& value) {
     // The key unescaped so far; `from` is the start of the rest.
-    zvTextBuilder key;
+    zvTextBuilder unescaped;
     int from = 0;
-    int separator = arg.find("=");
-    if (separator < 1) {
-        return false;
-    }
-    while (separator > 0 && arg[separator - 1] == u'\\') {
-        key.append(arg.data() + from, separator - 1 - from).append(u'=');
+    int separator = argument.find("=");
+    while (separator > 0 && argument[separator - 1] == u'\\') {
+        unescaped.append(argument.data() + from, separator - 1 - from).append(u'=');
         from = separator + 1;
-        separator = arg.find("=", from);
+        separator = argument.find("=", from);
     }
     const bool found = separator != -1;
-    const int keyEnd = found ? separator : arg.size();
-    key.append(arg.data() + from, keyEnd - from);
-    const zvString name = key.toString();
-    const zvString value = found ? arg.substr(separator + 1, arg.size() - separator - 1) : zvString();
-    if (from > 0) {
+    const int keyEnd = found ? separator : argument.size();
+    unescaped.append(argument.data() + from, keyEnd - from);
+    key = unescaped.toString();
+    value = found ? argument.substr(separator + 1, argument.size() - separator - 1) : zvString();
+    return found && !key.empty();
+}
+
+bool zvEventArguments::addKeyValueToEventArgument(zvString& arg, zvEventArguments* args) {
+    if (args == nullptr || arg.find("=") < 1) {
+        return false;
+    }
+    zvString name;
+    zvString value;
+    const bool found = splitArgument(arg, name, value);
+    const int plainSize = name.size() + (found ? 1 + value.size() : 0);
+    if (plainSize != arg.size()) {
         // Callers get the argument back unescaped.
         arg = found ? zvTextBuilder::concat(name, "=", value) : name;
     }

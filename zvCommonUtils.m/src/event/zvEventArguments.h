@@ -114,6 +114,9 @@ public:
     /// The event's name; empty for a value outside the enumeration.
     static zvString getStringForEventNameEnum(zvEventNameEnum event);
 
+    /// Splits a `key=value` argument at its first unescaped "=", as the parse operations do: `\=` is a "=" in
+    /// the key, and comes out unescaped. False without such a "=" or without a key.
+    static bool splitArgument(const zvString& argument, zvString& key, zvString& value);
     /// Parses the arguments of main(), without the program's name. `key=value` is split at the first
     /// unescaped "="; `\=` escapes a "=" in the key. Arguments without "=" are skipped; empty and duplicate
     /// keys are refused with a warning.

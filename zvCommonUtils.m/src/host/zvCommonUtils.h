@@ -32,8 +32,9 @@ public:
     static zvString getCurrentTime();
     /// Blocks the calling thread.
     static void sleep(unsigned long milliseconds);
-    /// For the start of a program's main(): sets the locale to the user's, or to C.UTF-8 if the user's
-    /// encoding is not UTF-8 and the system has that locale. Nothing else in the library changes the locale.
+    /// For the start of a program's main(): sets the locale to the user's, with the characters of C.UTF-8
+    /// where that is "C" or one that the system lacks, and with the decimal point of "C". Nothing else in the
+    /// library changes the locale.
     static void adoptUserLocale();
     /// Whether `text` is "true" or "false", case-insensitively.
     static bool validBooleanValue(const zvString& text);

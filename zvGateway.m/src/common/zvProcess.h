@@ -31,6 +31,16 @@ Lock lockFile(const std::filesystem::path& file, std::error_code& error);
 /// Appends to the file; if `isDurable`, returns once it is on the disk. An empty error for success.
 std::error_code appendToFile(const std::filesystem::path& file, const std::string& text, bool isDurable);
 
+/// A descriptor from which the file is read; -1 and the reason in `error` if it cannot be opened.
+int openForReading(const std::filesystem::path& file, std::error_code& error);
+/// Whether this process's user owns the open file, and nobody else but the superuser has any right to it.
+/// Always true on Windows, where access lists say so.
+bool isPrivate(int descriptor);
+/// Sets `content` to all that can be read from the descriptor, which is closed. More than `limit` bytes are
+/// an error.
+std::error_code readToEnd(int descriptor, std::size_t limit, std::string& content);
+void close(int descriptor);
+
 /// Keeps standard output for the caller alone: what the process writes to it otherwise, libraries included,
 /// goes to standard error from now on. Null, with nothing changed, if that fails.
 std::FILE* reserveStandardOutput();

@@ -1,5 +1,6 @@
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <array>
@@ -74,6 +75,40 @@ std::error_code zvProcess::appendToFile(const std::filesystem::path& file, const
     }
     return error;
 }
+
+int zvProcess::openForReading(const std::filesystem::path& file, std::error_code& error) {
+    const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
+    error = {descriptor < 0 ? errno : 0, std::generic_category()};
+    return descriptor;
+}
+
+bool zvProcess::isPrivate(int descriptor) {
+    struct stat status {};
+    return ::fstat(descriptor, &status) == 0 && status.st_uid == ::geteuid() &&
+           (status.st_mode & (S_IRWXG | S_IRWXO)) == 0;
+}
+
+std::error_code zvProcess::readToEnd(int descriptor, std::size_t limit, std::string& content) {
+    constexpr std::size_t blockSize = 4096;
+    std::array<char, blockSize> block{};
+    std::error_code error;
+    content.clear();
+    for (ssize_t count = 1; count != 0 && !error;) {
+        count = ::read(descriptor, block.data(), block.size());
+        if (count > 0) {
+            content.append(block.data(), static_cast<std::size_t>(count));
+        } else if (count < 0 && errno != EINTR) {
+            error = {errno, std::generic_category()};
+        }
+        if (content.size() > limit) {
+            error = std::make_error_code(std::errc::file_too_large);
+        }
+    }
+    close(descriptor);
+    return error;
+}
+
+void zvProcess::close(int descriptor) { ::close(descriptor); }
 
 std::FILE* zvProcess::reserveStandardOutput() {
     std::fflush(stdout);

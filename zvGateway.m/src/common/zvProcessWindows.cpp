@@ -4,6 +4,7 @@
 
 #include <array>
 #include <atomic>
+#include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <string>
@@ -82,6 +83,36 @@ std::error_code zvProcess::appendToFile(const std::filesystem::path& file, const
     ::CloseHandle(handle);
     return error;
 }
+
+int zvProcess::openForReading(const std::filesystem::path& file, std::error_code& error) {
+    const int descriptor = ::_wopen(file.c_str(), _O_RDONLY | _O_BINARY);
+    error = {descriptor < 0 ? errno : 0, std::generic_category()};
+    return descriptor;
+}
+
+bool zvProcess::isPrivate(int) { return true; }
+
+std::error_code zvProcess::readToEnd(int descriptor, std::size_t limit, std::string& content) {
+    constexpr std::size_t blockSize = 4096;
+    std::array<char, blockSize> block{};
+    std::error_code error;
+    content.clear();
+    for (int count = 1; count != 0 && !error;) {
+        count = ::_read(descriptor, block.data(), static_cast<unsigned>(block.size()));
+        if (count > 0) {
+            content.append(block.data(), static_cast<std::size_t>(count));
+        } else if (count < 0) {
+            error = {errno, std::generic_category()};
+        }
+        if (content.size() > limit) {
+            error = std::make_error_code(std::errc::file_too_large);
+        }
+    }
+    close(descriptor);
+    return error;
+}
+
+void zvProcess::close(int descriptor) { ::_close(descriptor); }
 
 std::FILE* zvProcess::reserveStandardOutput() {
     std::fflush(stdout);

@@ -5,41 +5,17 @@
 
 #include "zvCndConditionFactory.h"
 #include "zvCndParsingUtils.h"
+#include "zvConditionTree.h"
 #include "zvConsole.h"
 #include "zvICndComparisonCondition.h"
+
+using zvConditionTree::childrenOf;
+using zvConditionTree::isComparison;
 
 namespace {
 
 // A line indented further than this is no easier to read.
 constexpr std::size_t deepestIndent = 40;
-
-bool isComparison(zvCndConditionTypeEnum type) {
-    return type >= zvCndConditionEquals && type <= zvCndConditionGreaterThanEquals;
-}
-
-// The children of a logical condition, in the order of evaluation.
-std::vector<zvCndCondition> childrenOf(const zvCndCondition& condition) {
-    std::vector<zvCndCondition> children;
-    const auto collect = [&children](const auto& list) {
-        for (int i = 0; i < list->numConditions(); ++i) {
-            children.push_back(list->getCondition(i));
-        }
-    };
-    switch (condition->getConditionType()) {
-        case zvCndConditionAnd:
-            collect(zvCndConditionFactory::getAndCondition(condition));
-            break;
-        case zvCndConditionOr:
-            collect(zvCndConditionFactory::getOrCondition(condition));
-            break;
-        case zvCndConditionNot:
-            children.push_back(zvCndConditionFactory::getNotCondition(condition)->getCondition());
-            break;
-        default:
-            break;
-    }
-    return children;
-}
 
 const char* nameOf(zvCndConditionTypeEnum type) {
     return type == zvCndConditionAnd ? "AND" : type == zvCndConditionOr ? "OR" : "NOT";

@@ -1,32 +1,116 @@
 #include "zvArgumentsStep.h"
 
+#include <algorithm>
+#include <cstdlib>
+#include <map>
+#include <vector>
+
 #include "zvConsole.h"
+#include "zvNearestName.h"
 #include "zvSecrets.h"
 
 namespace {
 
 constexpr const char* requiredArguments[] = {"EventName", "EventTriggeredByUser", "RootShadowDir"};
 
-bool isKnownEvent(const zvString& name) {
+std::vector<zvString> knownEvents() {
+    std::vector<zvString> names;
     for (int event = zvEventMirror; event <= zvEventMirrorFromLK; ++event) {
-        if (zvEventArguments::getStringForEventNameEnum(static_cast<zvEventNameEnum>(event)) == name) {
-            return true;
-        }
+        names.push_back(zvEventArguments::getStringForEventNameEnum(static_cast<zvEventNameEnum>(event)));
     }
-    return false;
+    return names;
 }
+
+void warnOfUnknownEvent(const zvString& event) {
+    const std::vector<zvString> known = knownEvents();
+    if (std::find(known.begin(), known.end(), event) == known.end()) {
+        zvConsole::fact("warning", "\"" + zvConsole::printable(event) + "\" is not a known event" +
+                                       zvNearestName::suggestion(event, known));
+    }
+}
+
+// Looks at one argument after the other. No value is told: what has lost its key may be a secret.
+class UsabilityCheck {
+public:
+    explicit UsabilityCheck(const zvSecretStore& secrets) : m_secrets(secrets) {}
+
+    /// What is wrong with the next argument; empty if it can be used.
+    std::string faultOf(const std::string& argument) {
+        ++m_number;
+        const zvString text(argument.c_str());
+        if (text.empty()) {
+            return argument.empty() ? "it is empty" : "its bytes are no text in the locale's encoding";
+        }
+        zvString key;
+        zvString value;
+        if (!zvEventArguments::splitArgument(text, key, value)) {
+            return key.empty() ? "it has no key before the \"=\"" : "it has no \"=\" after a key";
+        }
+        const char* const secret = zvSecrets::keyIn(key);
+        const std::string named =
+            "its key \"" + (secret == nullptr ? zvConsole::printable(key) : secret) + "\" is ";
+        const std::string source = m_secrets.sourceOf(key);
+        if (!source.empty()) {
+            return named + "one of the secrets in " + source;
+        }
+        const auto [first, isNew] = m_keys.emplace(key, m_number);
+        return isNew ? "" : named + "that of argument " + std::to_string(first->second) + " already";
+    }
+
+private:
+    const zvSecretStore& m_secrets;
+    int m_number = 0;
+    std::map<zvString, int> m_keys;  // to the number of the argument that has it
+};
 
 }  // namespace
 
 zvStepOutcome zvArgumentsStep::run() {
+    readSecrets();
+    requireUsable();
     parse();
     show();
     requireArguments();
-    const zvString event = m_event.argument("EventName");
-    if (!isKnownEvent(event)) {
-        zvConsole::fact("warning", "\"" + zvConsole::printable(event) + "\" is not a known event");
-    }
+    warnOfUnknownEvent(m_event.argument("EventName"));
     return zvStepOutcome::done(zvConsole::counted(m_event.arguments->numEventArguments(), "argument"));
+}
+
+void zvArgumentsStep::readSecrets() {
+    const zvRoadOptions& options = m_event.options;
+    if (!options.secretsFile.empty()) {
+        m_event.secrets.readFile(options.secretsFile);
+    }
+    if (options.secretsDescriptor >= 0) {
+        m_event.secrets.readDescriptor(options.secretsDescriptor);
+    }
+    const char* const folder = std::getenv("CREDENTIALS_DIRECTORY");
+    if (folder != nullptr && *folder != '\0') {
+        m_event.secrets.readFolder(folder);
+    }
+}
+
+void zvArgumentsStep::requireUsable() const {
+    UsabilityCheck check(m_event.secrets);
+    std::string first;
+    std::string reason;
+    int number = 0;
+    for (const std::string& argument : m_event.commandLine) {
+        ++number;
+        const std::string fault = check.faultOf(argument);
+        if (fault.empty()) {
+            continue;
+        }
+        const std::string subject = "argument " + std::to_string(number);
+        if (first.empty()) {
+            first = subject;
+            reason = fault;
+        } else {
+            reason += "; " + subject + ": " + fault;
+        }
+    }
+    if (!first.empty()) {
+        throw zvStepFailure{first, reason};
+    }
 }
 
 void zvArgumentsStep::parse() {
@@ -38,6 +122,9 @@ void zvArgumentsStep::parse() {
     }
     m_event.arguments.reset(
         zvEventArguments::parseEventArguments(static_cast<int>(argv.size()), argv.data()));
+    m_event.secrets.forEach([this](const zvString& name, const zvString& value) {
+        m_event.arguments->addEventArgument(name, value);
+    });
 }
 
 void zvArgumentsStep::show() const {
@@ -45,11 +132,6 @@ void zvArgumentsStep::show() const {
         zvConsole::fact(zvConsole::printable(zvSecrets::maskedKey(key)),
                         zvConsole::printable(zvSecrets::maskedValue(key, value)));
     });
-    const std::size_t unused =
-        m_event.commandLine.size() - static_cast<std::size_t>(m_event.arguments->numEventArguments());
-    if (unused > 0) {
-        zvConsole::fact("not used", std::to_string(unused) + " (no \"=\", no key, or a repeated key)");
-    }
 }
 
 void zvArgumentsStep::requireArguments() const {

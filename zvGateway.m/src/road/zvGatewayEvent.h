@@ -10,6 +10,7 @@
 #include "zvEventRecord.h"
 #include "zvRoadOptions.h"
 #include "zvRoadReport.h"
+#include "zvSecretStore.h"
 
 /// An event on its road: what its steps share.
 struct zvGatewayEvent {
@@ -20,6 +21,7 @@ struct zvGatewayEvent {
     zvRoadOptions options;
     /// As given, `key=value` each.
     std::vector<std::string> commandLine;
+    zvSecretStore secrets;
     /// There from the first step on.
     std::unique_ptr<zvEventArguments, Destroy> arguments;
     /// There once the event has a directory.

@@ -16,23 +16,9 @@ zvString homePath() {
     return zvCommonUtils::getEnvironmentalVariable(zvCommonUtils::getGatewayHomeEnvVariable());
 }
 
-// A home without a log configuration runs without a log; one with an invalid configuration does not run.
-void checkLog() {
-    const zvString configuration = zvCommonUtils::getConfigurationFile("log4cxx.xml");
-    if (!zvDirFileUtils::isAccessible(configuration, zvDirFileUtils::existence)) {
-        zvConsole::fact("log", "off: there is no " + zvConsole::printablePath(configuration));
-        return;
-    }
-    const zvLogger* const logger = zvLogger::getInstance();
-    if (logger == nullptr || !logger->isReady()) {
-        throw failure(configuration, "the logging library refuses this configuration");
-    }
-    zvConsole::fact("log", "by " + zvConsole::printablePath(configuration));
-}
-
 void checkLocalServer() {
     const zvString configuration = zvCommonUtils::getConfigurationFile("client-config.ini");
-    const zvString url = zvCommonUtils::getLocalServerUrl();
+    const zvString url = zvGatewayHomeStep::localServerUrl();
     if (url.empty()) {
         const zvString error = zvDirFileUtils::getAccessError(configuration, zvDirFileUtils::readable);
         throw failure(configuration, error.empty() ? "\"local-server-url\" cannot be found in it"
@@ -42,6 +28,36 @@ void checkLocalServer() {
 }
 
 }  // namespace
+
+zvString zvGatewayHomeStep::localServerUrl() {
+    zvString url = zvCommonUtils::getLocalServerUrl();
+    if (!url.empty() && url[url.size() - 1] == u'\r') {
+        url = url.substr(0, url.size() - 1);
+    }
+    return url;
+}
+
+// A home without a log configuration runs without a log, and so does one whose log cannot be opened, unless
+// the log is required; one with an invalid configuration does not run.
+void zvGatewayHomeStep::checkLog() const {
+    const zvString configuration = zvCommonUtils::getConfigurationFile("log4cxx.xml");
+    const zvString error = zvDirFileUtils::getAccessError(configuration, zvDirFileUtils::existence);
+    if (!error.empty()) {
+        if (m_event.options.requiresLog) {
+            throw failure(configuration, zvConsole::printable(error));
+        }
+        zvConsole::fact("log", "off: there is no " + zvConsole::printablePath(configuration));
+        return;
+    }
+    const zvLogger* const logger = zvLogger::getInstance();
+    if (logger == nullptr || !logger->isReady()) {
+        throw failure(configuration,
+                      m_event.options.requiresLog
+                          ? "the logging library refuses this configuration, or cannot open its log"
+                          : "the logging library refuses this configuration");
+    }
+    zvConsole::fact("log", "by " + zvConsole::printablePath(configuration));
+}
 
 bool zvGatewayHomeStep::isHomeNamed() { return !homePath().empty(); }
 

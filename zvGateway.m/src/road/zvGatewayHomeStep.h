@@ -6,13 +6,22 @@
 /// The step that looks at the gateway home: its log configuration and its client configuration.
 class zvGatewayHomeStep {
 public:
-    explicit zvGatewayHomeStep(const zvGatewayEvent&) {}
+    explicit zvGatewayHomeStep(const zvGatewayEvent& event) : m_event(event) {}
 
     /// Whether the environment names a home.
     static bool isHomeNamed();
 
+    /// Where events are posted; empty if the client configuration does not say so. Its line may end as on
+    /// Windows.
+    static zvString localServerUrl();
+
     /// Throws the zvStepFailure of a home, or of a file in it, that cannot be used.
     zvStepOutcome run() const;
+
+private:
+    void checkLog() const;
+
+    const zvGatewayEvent& m_event;
 };
 
 #endif

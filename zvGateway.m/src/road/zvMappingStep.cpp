@@ -1,5 +1,8 @@
 #include "zvMappingStep.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "zvCfgLcmState.h"
 #include "zvCfgTransition.h"
 #include "zvCfgTransitionPath.h"
@@ -7,11 +10,11 @@
 #include "zvConsole.h"
 #include "zvException.h"
 #include "zvMappedObjectFile.h"
-#include "zvSecrets.h"
+#include "zvNearestName.h"
+#include "zvObjectAttribute.h"
+#include "zvValueCheck.h"
 
 namespace {
-
-constexpr char attributePrefix[] = "attr.";
 
 std::string typesOf(const zvCfgObject& object) {
     return zvConsole::printable(object.getLocalCustomType()) + " -> " +
@@ -22,16 +25,33 @@ std::string namesOf(const zvCfgLcmState& state) {
     return zvConsole::printable(state.localName()) + " (" + zvConsole::printable(state.remoteName()) + ")";
 }
 
+// What the configuration does not carry across, and the name that may have been meant.
+void showUnmapped(const zvObjectMapping& mapping) {
+    std::vector<zvString> known;
+    for (int i = 0; i < mapping.object().numAttributes(); ++i) {
+        known.push_back(mapping.sourceName(*mapping.object().getAttribute(i)));
+    }
+    for (const zvString& name : mapping.unmapped()) {
+        const bool isKnown = std::find(known.begin(), known.end(), name) != known.end();
+        const std::string text = zvConsole::printable(name);
+        if (isKnown) {
+            zvConsole::fact("without a mapping", text);
+        } else {
+            zvConsole::fact("warning", "the object has no attribute \"" + text + "\"" +
+                                           zvNearestName::suggestion(name, known));
+        }
+    }
+}
+
 void show(const zvObjectMapping& mapping) {
     zvConsole::fact("object", typesOf(mapping.object()));
     for (const zvObjectMapping::Attribute& attribute : mapping.attributes()) {
+        const zvString value = zvObjectAttribute::shownValue(attribute.from, attribute.value);
         zvConsole::fact(zvConsole::printable(attribute.to),
-                        zvConsole::printable(zvSecrets::maskedValue(attribute.to, attribute.value)) +
+                        zvConsole::printable(zvSecrets::maskedValue(attribute.to, value)) +
                             (attribute.isDefault ? "  (default)" : ""));
     }
-    for (const zvString& name : mapping.unmapped()) {
-        zvConsole::fact("without a mapping", zvConsole::printable(name));
-    }
+    showUnmapped(mapping);
 }
 
 }  // namespace
@@ -65,15 +85,32 @@ zvObjectMapping zvMappingStep::mapObject() const {
     zvObjectMapping mapping(
         isLocal() ? zvObjectMapping::Direction::localToRemote : zvObjectMapping::Direction::remoteToLocal,
         attributeValues());
-    const std::string type = zvConsole::printable(isLocal() ? m_strLocalType : m_strRemoteType);
+    std::string reason;
     try {
-        if (!mapping.map(&candidates())) {
-            throw zvStepFailure{type, "no mapping rule of this type holds for the attributes"};
-        }
+        reason = mapping.map(&candidates()) ? "" : "no mapping rule of this type holds for the attributes";
     } catch (const zvException& exception) {
-        throw zvStepFailure{type, zvConsole::printable(exception.getResult().getMessage())};
+        reason = zvConsole::printable(exception.getResult().getMessage());
+    }
+    // First: a value that is not what was meant may be why no rule holds.
+    checkValues(mapping);
+    if (!reason.empty()) {
+        throw zvStepFailure{zvConsole::printable(isLocal() ? m_strLocalType : m_strRemoteType), reason};
     }
     return mapping;
+}
+
+void zvMappingStep::checkValues(const zvObjectMapping& mapping) const {
+    const std::vector<std::string> faults = zvValueCheck::faultsOf(mapping);
+    std::string reason;
+    for (const std::string& fault : faults) {
+        if (m_event.options.isLenient) {
+            zvConsole::fact("warning", fault);
+        }
+        reason += (reason.empty() ? "" : "; ") + fault;
+    }
+    if (!faults.empty() && !m_event.options.isLenient) {
+        throw zvStepFailure{zvConsole::counted(static_cast<std::ptrdiff_t>(faults.size()), "fault"), reason};
+    }
 }
 
 const zvCfgObjectList& zvMappingStep::candidates() const {
@@ -90,7 +127,7 @@ const zvCfgObjectList& zvMappingStep::candidates() const {
 }
 
 zvObjectMapping::Values zvMappingStep::attributeValues() const {
-    const zvString prefix(attributePrefix);
+    const zvString prefix(zvObjectAttribute::argumentPrefix);
     zvObjectMapping::Values values;
     m_event.arguments->forEach([&](const zvString& key, const zvString& value) {
         if (key.find(prefix, 0, prefix.size() - 1) == 0) {

@@ -12,7 +12,9 @@ bool zvObjectMapping::map(const zvCfgObjectList* candidates) {
     const int count = candidates == nullptr ? 0 : candidates->size();
     for (int i = 0; i < count; ++i) {
         const zvCfgObject& candidate = *candidates->get(i);
+        m_passedOver.push_back(&candidate);
         if (applies(candidate)) {
+            m_passedOver.pop_back();
             m_pObject = &candidate;
             carry(candidate);
             return true;
@@ -35,9 +37,8 @@ zvCndContext zvObjectMapping::contextFor(const zvCfgObject& object) const {
     };
     for (int i = 0; i < object.numAttributes(); ++i) {
         const zvCfgAttribute& attribute = *object.getAttribute(i);
-        const auto given = m_values.find(sourceName(attribute));
-        if (given != m_values.end()) {
-            const zvValue value = toTypedValue(given->second, attribute.getDataType());
+        if (const zvString* const given = findValue(sourceName(attribute))) {
+            const zvValue value = toTypedValue(*given, attribute.getDataType());
             add(sourceName(attribute), value);
             add(targetName(attribute), value);
         }
@@ -54,18 +55,22 @@ void zvObjectMapping::carry(const zvCfgObject& object) {
         const zvCfgAttribute& attribute = *object.getAttribute(i);
         const zvString& from = sourceName(attribute);
         const zvString& to = targetName(attribute);
-        const auto given = m_values.find(from);
-        const bool isGiven = !from.empty() && given != m_values.end();
-        if (to.empty() || (!isGiven && !attribute.isDefaultValueSpecified())) {
+        const zvString* const given = findValue(from);
+        if (to.empty() || (given == nullptr && !attribute.isDefaultValueSpecified())) {
             continue;
         }
         left.erase(from);
-        m_attributes.push_back({from, to, isGiven ? given->second : attribute.getDefaultValue(),
-                                attribute.getDataType(), !isGiven});
+        m_attributes.push_back({from, to, given == nullptr ? attribute.getDefaultValue() : *given,
+                                attribute.getDataType(), given == nullptr});
     }
     for (const auto& [name, value] : left) {
         m_unmapped.push_back(name);
     }
+}
+
+const zvString* zvObjectMapping::findValue(const zvString& name) const {
+    const auto found = m_values.find(name);
+    return name.empty() || found == m_values.end() ? nullptr : &found->second;
 }
 
 const zvString& zvObjectMapping::sourceName(const zvCfgAttribute& attribute) const {

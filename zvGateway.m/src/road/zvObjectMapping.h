@@ -31,8 +31,19 @@ public:
     /// False without one. Throws the zvException of a rule that cannot be evaluated.
     bool map(const zvCfgObjectList* candidates);
 
+    bool hasObject() const { return m_pObject != nullptr; }
     /// What map() chose, owned by the configuration manager.
     const zvCfgObject& object() const { return *m_pObject; }
+    /// The candidates whose rules do not hold, or cannot be evaluated.
+    const std::vector<const zvCfgObject*>& passedOver() const { return m_passedOver; }
+    /// The value that the object has under this name; null if it has none.
+    const zvString* findValue(const zvString& name) const;
+
+    /// The attribute's name in the system that the object comes from, and in the other one; empty if it has
+    /// none there.
+    const zvString& sourceName(const zvCfgAttribute& attribute) const;
+    const zvString& targetName(const zvCfgAttribute& attribute) const;
+
     /// In the order of the configuration; attributes without a value and without a default are not among
     /// them.
     const std::vector<Attribute>& attributes() const { return m_attributes; }
@@ -43,12 +54,11 @@ private:
     bool applies(const zvCfgObject& object) const;
     zvCndContext contextFor(const zvCfgObject& object) const;
     void carry(const zvCfgObject& object);
-    const zvString& sourceName(const zvCfgAttribute& attribute) const;
-    const zvString& targetName(const zvCfgAttribute& attribute) const;
 
     Direction m_direction;
     Values m_values;
     const zvCfgObject* m_pObject = nullptr;
+    std::vector<const zvCfgObject*> m_passedOver;
     std::vector<Attribute> m_attributes;
     std::vector<zvString> m_unmapped;
 };

@@ -1,11 +1,11 @@
 #include "zvPostStep.h"
 
-#include "zvCommonUtils.h"
 #include "zvConsole.h"
+#include "zvGatewayHomeStep.h"
 #include "zvPostDelivery.h"
 
 zvStepOutcome zvPostStep::run() {
-    const zvString url = zvCommonUtils::getLocalServerUrl();
+    const zvString url = zvGatewayHomeStep::localServerUrl();
     zvConsole::fact("to", zvConsole::printable(url));
     if (m_event.record->isPosted()) {
         return zvStepOutcome::leftOut("posted before");

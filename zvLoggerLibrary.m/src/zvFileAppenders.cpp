@@ -1,0 +1,91 @@
+#include "zvFileAppenders.h"
+
+#include <log4cxx/helpers/class.h>
+#include <log4cxx/helpers/loglog.h>
+#include <log4cxx/helpers/pool.h>
+#include <log4cxx/helpers/transcoder.h>
+#include <log4cxx/rolling/rollingfileappender.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+
+#include "zvPlatform.h"
+
+using log4cxx::LogString;
+using log4cxx::helpers::Class;
+using log4cxx::helpers::LogLog;
+using log4cxx::helpers::Pool;
+
+namespace {
+
+class Silence {
+public:
+    Silence() { LogLog::setQuietMode(true); }
+    Silence(const Silence&) = delete;
+    Silence& operator=(const Silence&) = delete;
+    ~Silence() { LogLog::setQuietMode(false); }
+};
+
+template <class Appender>
+class SilentAppender : public Appender {
+public:
+    void activateOptions(Pool& pool) override {
+        {
+            const Silence silence;
+            Appender::activateOptions(pool);
+        }
+        if (this->getWriter() == nullptr && zvFileAppenders::openingError(*this).empty()) {
+            // Something else is wrong, which log4cxx can tell.
+            Appender::activateOptions(pool);
+        }
+    }
+
+    void append(const log4cxx::spi::LoggingEventPtr& event, Pool& pool) override {
+        if (this->getWriter() != nullptr) {
+            Appender::append(event, pool);
+        }
+    }
+};
+
+template <class Appender>
+class SilentAppenderClass : public Class {
+public:
+    LogString getName() const override { return Appender::getStaticClass().getName(); }
+    log4cxx::helpers::Object* newInstance() const override { return new SilentAppender<Appender>; }
+};
+
+template <class Appender>
+void replaceClass() {
+    static const SilentAppenderClass<Appender> silent;
+    Class::registerClass(silent);
+}
+
+}  // namespace
+
+zvFileAppenders::zvFileAppenders() {
+    replaceClass<log4cxx::FileAppender>();
+    replaceClass<log4cxx::rolling::RollingFileAppender>();
+}
+
+zvFileAppenders::~zvFileAppenders() {
+    Class::registerClass(log4cxx::FileAppender::getStaticClass());
+    Class::registerClass(log4cxx::rolling::RollingFileAppender::getStaticClass());
+}
+
+std::string zvFileAppenders::openingError(const log4cxx::FileAppender& appender) {
+    std::string file;
+    log4cxx::helpers::Transcoder::encode(appender.getFile(), file);
+    if (appender.getWriter() != nullptr || file.empty()) {
+        return "";
+    }
+    const std::filesystem::path folder = std::filesystem::path(file).parent_path();
+    std::error_code error;
+    if (!folder.empty()) {
+        std::filesystem::create_directories(folder, error);
+    }
+    if (!error && zvPlatform::File(std::fopen(file.c_str(), "ab")) == nullptr) {
+        error = {errno, std::generic_category()};
+    }
+    return error ? error.message() : "";
+}
