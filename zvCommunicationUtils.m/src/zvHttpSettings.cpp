@@ -26,7 +26,8 @@ Values readValues(const zvString& path) {
     for (std::string line; std::getline(file, line);) {
         const std::size_t separator = line.find('=');
         const bool isComment = line.empty() || line.front() == '#';
-        if (!isComment && (separator == std::string::npos || separator == 0 || separator + 1 == line.size())) {
+        if (!isComment &&
+            (separator == std::string::npos || separator == 0 || separator + 1 == line.size())) {
             break;
         }
         if (!isComment) {

@@ -25,13 +25,26 @@ void JNICALL receiveNotice(JNIEnv* env, jclass, jstring text) {
     }
 }
 
+jboolean JNICALL isCancelled(JNIEnv*, jclass) {
+    try {
+        return currentObserver != nullptr && currentObserver->isCancelled() ? JNI_TRUE : JNI_FALSE;
+    } catch (...) {
+        return JNI_FALSE;
+    }
+}
+
 }  // namespace
 
 void zvFSNotices::receive(const zvJniFrame& frame) {
-    static char name[] = "receive";
-    static char signature[] = "(Ljava/lang/String;)V";
+    static char receiveName[] = "receive";
+    static char receiveSignature[] = "(Ljava/lang/String;)V";
+    static char cancelledName[] = "isCancelled";
+    static char cancelledSignature[] = "()Z";
     try {
-        frame.registerNative(noticesClass, {name, signature, reinterpret_cast<void*>(receiveNotice)});
+        frame.registerNative(noticesClass,
+                             {receiveName, receiveSignature, reinterpret_cast<void*>(receiveNotice)});
+        frame.registerNative(noticesClass,
+                             {cancelledName, cancelledSignature, reinterpret_cast<void*>(isCancelled)});
     } catch (const zvJavaThrown&) {
         logger.debug("The Java client tells no notices");
     }

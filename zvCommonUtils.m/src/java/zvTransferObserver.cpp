@@ -7,3 +7,4 @@ bool zvTransferObserver::hasArrived(const zvString&) { return false; }
 void zvTransferObserver::fileBegins(const zvString&) {}
 
 void zvTransferObserver::notice(const zvString&) {}
+bool zvTransferObserver::isCancelled() { return false; }

@@ -20,6 +20,9 @@ public:
     /// line: a retry with its reason, a file that is continued, text that arrived with other line ends. What
     /// it throws is ignored. The default does nothing.
     virtual void notice(const zvString& text);
+    /// Asked again and again while the file-server client works: true ends the operation with a failure,
+    /// which keeps what was uploaded of a large file to be continued. The default is false.
+    virtual bool isCancelled();
 };
 
 #endif

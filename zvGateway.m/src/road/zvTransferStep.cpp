@@ -44,11 +44,19 @@ zvException detailed(const zvException& exception) {
     return result;
 }
 
+// Java says no more of a class that it lacks than the class's name.
+zvString explained(const zvString& message) {
+    constexpr char package[] = "com/vantorel/ep/products/fsclient/";
+    const bool isMissingClass = message.find(package) == 0 && message.find(" ") == -1;
+    return isMissingClass ? "the Java class " + message + " is not on the class path, which is \"" +
+                                zvCommonUtils::getEnvironmentalVariable("CLASSPATH") + "\""
+                          : message;
+}
+
 // The connection to the file server, as long as it lives, with its observer.
 class Connection {
 public:
     Connection(const zvString& configuration, zvTransferObserver& observer) {
-        const zvProcess::SignalsUntouched signals;  // by the Java machine, which would end the process
         zvFSClient::setObserver(&observer);
         try {
             zvFSClient::getInstance(zvDirFileUtils::nativePath(configuration));
@@ -103,8 +111,9 @@ zvStepOutcome zvTransferStep::run() {
     try {
         return send(configuration);
     } catch (const zvException& exception) {
+        zvInterruption::throwIfRequested();
         const zvString message = exception.getMessage();
-        throw failure(message.empty() ? exception.getResult().getMessage() : message);
+        throw failure(explained(message.empty() ? exception.getResult().getMessage() : message));
     }
 }
 
@@ -191,7 +200,11 @@ void zvTransferStep::makeDirectory() {
 
 zvStepOutcome zvTransferStep::send(const zvString& configuration) {
     offerClient();
+    m_event.secrets.forEach(
+        [](const zvString& name, const zvString& value) { zvFSClient::setSecret(name, value); });
+    m_signals.emplace();
     const Connection connection(configuration, *this);
+    m_signals.reset();
     makeDirectory();
     const zvResult sent = zvFSClientUtil::uploadEventFiles(*m_event.arguments, m_event.attachments, this);
     require(sent);
@@ -207,6 +220,12 @@ void zvTransferStep::require(const zvResult& result) {
     if (!result.isOk()) {
         throw zvException(result);
     }
+}
+
+// Asked by the client, for the first time once the Java machine has started.
+bool zvTransferStep::isCancelled() {
+    m_signals.reset();
+    return zvProcess::notedSignal() != 0;
 }
 
 bool zvTransferStep::hasArrived(const zvString& local) {

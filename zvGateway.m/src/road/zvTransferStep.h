@@ -1,9 +1,11 @@
 #ifndef ZV_TRANSFER_STEP_H
 #define ZV_TRANSFER_STEP_H
 
+#include <optional>
 #include <vector>
 
 #include "zvGatewayEvent.h"
+#include "zvProcess.h"
 #include "zvResult.h"
 #include "zvTransferObserver.h"
 
@@ -29,8 +31,11 @@ private:
     void fileBegins(const zvString& local) override;
     void fileTransferred(const zvString& local, zvInt64 bytes, zvInt64 milliseconds) override;
     void notice(const zvString& text) override;
+    bool isCancelled() override;
 
     zvGatewayEvent& m_event;
+    // Keeps the program's handlers of signals while the Java machine starts.
+    std::optional<zvProcess::SignalsUntouched> m_signals;
     zvInt64 m_sentBytes = 0;
     int m_sentFiles = 0;
 };

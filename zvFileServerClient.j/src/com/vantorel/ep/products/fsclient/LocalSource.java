@@ -51,6 +51,7 @@ class LocalSource extends BulkInput {
 
     @Override
     public int read(byte[] bytes, int start, int length) throws IOException {
+        Notices.throwIfCancelled();
         try {
             int read = in.read(bytes, start, length);
             position += Math.max(read, 0);

@@ -3,7 +3,7 @@ package com.vantorel.ep.products.fsclient;
 /**
  * What happens during an operation without ending it, for the people who wait for it: retries, resumed
  * uploads, text that arrived with other line ends. The program that loads this class into its process may
- * register a native method to receive the texts; otherwise nobody does.
+ * register native methods to receive the texts, and to cancel an operation; otherwise nobody does.
  */
 final class Notices {
     /** Receives the notices instead of the program. */
@@ -13,6 +13,9 @@ final class Notices {
 
     /** Null for the program. */
     static Listener listener;
+
+    /** Whether the program may have registered a method that tells. */
+    private static boolean asksProgram = true;
 
     private Notices() {}
 
@@ -31,6 +34,21 @@ final class Notices {
     }
 
     private static native void receive(String text);
+
+    /** Ends an operation that the program no longer wants. */
+    static void throwIfCancelled() throws CancelledException {
+        if (asksProgram) {
+            try {
+                if (isCancelled()) {
+                    throw new CancelledException();
+                }
+            } catch (UnsatisfiedLinkError e) {
+                asksProgram = false;
+            }
+        }
+    }
+
+    private static native boolean isCancelled();
 
     private static String printable(String text) {
         char[] characters = text.toCharArray();

@@ -10,6 +10,10 @@ final class Retry {
         T run() throws FileServerException;
     }
 
+    /** Milliseconds after which a pause looks whether it is wanted any longer. */
+    private static final long LONGEST_SLEEP = 100;
+    /** In a millisecond. */
+    private static final long NANOSECONDS = 1_000_000;
     private static final long LONGEST_DELAY = 60_000;
     private static final int MOST_DOUBLINGS = 20;
 
@@ -35,6 +39,7 @@ final class Retry {
      */
     <T> T run(String what, Operation<T> operation) throws FileServerException {
         for (int retry = 1;; ++retry) {
+            Notices.throwIfCancelled();
             try {
                 transport.connect();
                 return operation.run();
@@ -67,8 +72,12 @@ final class Retry {
     }
 
     private static void pause(long milliseconds) throws FileServerException {
+        long end = System.nanoTime() + milliseconds * NANOSECONDS;
         try {
-            Thread.sleep(milliseconds);
+            for (long left = milliseconds; left > 0; left = (end - System.nanoTime()) / NANOSECONDS) {
+                Notices.throwIfCancelled();
+                Thread.sleep(Math.min(left, LONGEST_SLEEP));
+            }
         } catch (InterruptedException e) {
             Thread.currentThread().interrupt();
             throw new FileServerException("interrupted while waiting for the next attempt", e);

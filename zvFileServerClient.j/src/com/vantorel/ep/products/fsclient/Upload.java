@@ -54,7 +54,8 @@ final class Upload {
             if (replacing) {
                 quietly(this::restore);
             }
-            boolean later = resumable != null && e.getCause() instanceof BrokenConnectionException;
+            boolean isCutOff = e.getCause() instanceof BrokenConnectionException || e instanceof CancelledException;
+            boolean later = resumable != null && isCutOff;
             if (sending && !later) {
                 quietly(() -> transport.delete(temporary));
             }
