@@ -1,5 +1,3 @@
-#include <sys/wait.h>
-
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -66,8 +64,8 @@ TEST_F(zvLoggerLibraryFaultTest, TheFirstConfigurationSurvivesAFailedAllocation)
         EXPECT_EXIT(
             std::exit(attempt(allowed)),
             [&isDone](int status) {
-                isDone = WIFEXITED(status) && WEXITSTATUS(status) == faultless;
-                return isDone || (WIFEXITED(status) && WEXITSTATUS(status) == survived);
+                isDone = testing::ExitedWithCode(faultless)(status);
+                return isDone || testing::ExitedWithCode(survived)(status);
             },
             "")
             << allowed;
