@@ -14,6 +14,7 @@
 #include <filesystem>
 #include <memory>
 #include <mutex>
+#include <new>
 
 #include "zvLogConfiguration.h"
 #include "zvPlatform.h"
@@ -28,6 +29,9 @@ std::mutex mutex;
 // Owned; null if there is nothing to write to. Trivially destructible, and so valid during process exit.
 zvLogConfiguration* configuration = nullptr;
 bool isExiting = false;
+// Whether a call ran out of memory: log4cxx may then hold a logger that is half made, and is configured
+// afresh.
+bool isSuspect = false;
 
 /// Keeps the parts of log4cxx that a line needs alive from the loading of this library to process exit.
 ///
@@ -79,7 +83,7 @@ struct ConfigurationPhase {
 };
 
 bool configure(const std::filesystem::path& path) {
-    if (configuration != nullptr && configuration->path() == path) {
+    if (configuration != nullptr && configuration->path() == path && !isSuspect) {
         return true;
     }
     // A missing file is no error and not reported: the program runs without a log.
@@ -93,6 +97,7 @@ bool configure(const std::filesystem::path& path) {
     }
     delete configuration;
     configuration = fresh.release();
+    isSuspect = false;
     return true;
 }
 
@@ -108,7 +113,13 @@ void write(LevelPtr (*level)(), const char* loggerName, const char* message, con
         return;
     }
     try {
+        if (isSuspect) {
+            configure(std::filesystem::path(configuration->path()));
+        }
         configuration->write(level(), loggerName, message, file, line);
+    } catch (const std::bad_alloc&) {
+        // The message is lost, and a report of it would need more memory.
+        isSuspect = true;
     } catch (const std::exception& failure) {
         lifetime.report(failure);
     }
@@ -121,11 +132,17 @@ bool InitializeLogger(const char* configurationPath) {
         return false;
     }
     const std::lock_guard<std::mutex> guard(mutex);
-    try {
-        return configure(std::filesystem::weakly_canonical(zvPlatform::nativePath(configurationPath)));
-    } catch (const std::exception&) {
-        return false;
+    // Twice: callers do not ask again, and a moment without memory must not leave them without a log.
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        try {
+            return configure(std::filesystem::weakly_canonical(zvPlatform::nativePath(configurationPath)));
+        } catch (const std::bad_alloc&) {
+            continue;
+        } catch (const std::exception&) {
+            return false;
+        }
     }
+    return false;
 }
 
 void LogDebugMessage(const char* loggerName, const char* message, const char* file, int line) {

@@ -5,7 +5,6 @@
 #include <optional>
 #include <system_error>
 #include <xercesc/dom/DOM.hpp>
-#include <xercesc/framework/LocalFileInputSource.hpp>
 #include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/util/OutOfMemoryException.hpp>
 #include <xercesc/util/XMLException.hpp>
@@ -14,6 +13,7 @@
 #include "zvDOMErrorHandler.h"
 #include "zvLogSource.h"
 #include "zvPlatform.h"
+#include "zvXMLFileSource.h"
 #include "zvXMLGuardedParser.h"
 #include "zvXMLLocation.h"
 #include "zvXMLMemory.h"
@@ -28,7 +28,6 @@ using xercesc::DOMImplementation;
 using xercesc::DOMImplementationRegistry;
 using xercesc::DOMNode;
 using xercesc::InputSource;
-using xercesc::LocalFileInputSource;
 using xercesc::MemBufInputSource;
 using xercesc::OutOfMemoryException;
 using xercesc::XMLException;
@@ -146,7 +145,7 @@ bool zvDOMLoader::parseFile(const char* location) {
         logger.raise("XML document refused: \"", location, "\" is not a name in this locale");
     }
     m_pTree = std::make_unique<Tree>(file.folder, file.size, m_pFindings);
-    LocalFileInputSource input(zvXMLChars(path).get());
+    zvXMLFileSource input(zvXMLChars(path).get());
     return parseSource(input);
 }
 

@@ -8,7 +8,6 @@
 #include <utility>
 #include <vector>
 #include <xercesc/dom/DOMElement.hpp>
-#include <xercesc/framework/LocalFileInputSource.hpp>
 #include <xercesc/framework/Wrapper4InputSource.hpp>
 #include <xercesc/framework/XMLErrorCodes.hpp>
 #include <xercesc/internal/XMLScanner.hpp>
@@ -23,6 +22,7 @@
 #include "zvCharString.h"
 #include "zvLogSource.h"
 #include "zvPlatform.h"
+#include "zvXMLFileSource.h"
 #include "zvXMLLocation.h"
 #include "zvXMLMemory.h"
 #include "zvXMLPositions.h"
@@ -37,7 +37,6 @@ using xercesc::DTDAttDef;
 using xercesc::DTDElementDecl;
 using xercesc::DTDEntityDecl;
 using xercesc::InputSource;
-using xercesc::LocalFileInputSource;
 using xercesc::RefVectorOf;
 using xercesc::Wrapper4InputSource;
 using xercesc::XMLAttr;
@@ -156,7 +155,7 @@ InputSource* zvXMLGuardedParser::resolveEntity(XMLResourceIdentifier* entity) {
     }
     allowReading(file, name);
     const zvXMLChars systemId(zvString(text.c_str()));
-    return new (&m_memory) LocalFileInputSource(systemId.get(), &m_memory);
+    return new (&m_memory) zvXMLFileSource(systemId.get(), &m_memory);
 }
 
 // A file's first reading is paid for by its size; all others share one allowance.

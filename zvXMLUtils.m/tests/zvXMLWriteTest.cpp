@@ -1,6 +1,7 @@
 #include <string>
 
 #include "zvPlatform.h"
+#include "zvTestLocale.h"
 #include "zvXMLTestSupport.h"
 
 namespace {
@@ -77,6 +78,23 @@ TEST_F(zvXMLWriteTest, WritesToFilesAndStandardOutput) {
     testing::internal::CaptureStdout();
     EXPECT_TRUE(parser.writeTreeToFile("", "UTF-8"));
     EXPECT_EQ(expected, testing::internal::GetCapturedStdout());
+}
+
+TEST_F(zvXMLWriteTest, WritesAndReadsFilesInEveryEncoding) {
+    for (const zvTestEncoding& encoding : zvTestEncodings) {
+        const zvTestLocale locale(encoding.definition, encoding.encoding);
+        if (!locale.isSet()) {
+            GTEST_SKIP() << "the locale " << encoding.definition << " in " << encoding.encoding;
+        }
+        const std::string name = encoding.character;
+        std::filesystem::create_directories(m_folder.path() / name);
+        const zvString path = (m_folder.path().string() + "\\" + name + "\\" + name + ".xml").c_str();
+        zvXMLParser parser("<r>a</r>", false);
+        EXPECT_TRUE(parser.writeTreeToFile(path, "UTF-8")) << encoding.encoding;
+        EXPECT_TRUE(std::filesystem::exists(m_folder.path() / name / (name + ".xml"))) << encoding.encoding;
+        EXPECT_TRUE(zvXMLParser().loadXMLFromString(path, true)) << encoding.encoding;
+        EXPECT_EQ(Lines{}, zvRecordingLogger::lines("error"));
+    }
 }
 
 TEST_F(zvXMLWriteTest, AFailedWriteIsToldAndLeavesFilesAlone) {
