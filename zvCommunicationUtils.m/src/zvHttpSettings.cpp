@@ -60,7 +60,7 @@ void readSeconds(const Values& values, const char* key, long& seconds) {
     }
 }
 
-void apply(const Values& values, zvHttpSettings& settings) {
+void applyValues(const Values& values, zvHttpSettings& settings) {
     readSeconds(values, "http-connect-timeout", settings.connectSeconds);
     readSeconds(values, "http-stall-timeout", settings.stallSeconds);
     readText(values, "http-ca-file", settings.caFile);
@@ -89,7 +89,7 @@ zvHttpSettings zvHttpSettings::read() {
     zvHttpSettings settings;
     const zvString home = zvGatewayHome::readEnvironment(zvGatewayHome::getEnvVariable());
     if (!home.empty()) {
-        apply(readValues(zvGatewayHome::configFile(home, "client-config.ini")), settings);
+        applyValues(readValues(zvGatewayHome::configFile(home, "client-config.ini")), settings);
     }
     if (settings.caFile.empty()) {
         readEnvironment(settings);

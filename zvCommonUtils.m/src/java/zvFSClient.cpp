@@ -92,13 +92,6 @@ private:
     JNIEnv& m_env;
 };
 
-// The path with this system's separators; Java needs no narrow copy.
-zvString native(const zvString& path) {
-    zvString translated(path);
-    translated.replace("\\", zvPlatform::nativePath("\\").c_str());
-    return translated;
-}
-
 bool isTrue(const zvJniFrame&, jboolean answer) { return answer == JNI_TRUE; }
 
 }  // namespace
@@ -339,11 +332,7 @@ void zvFSClient::removeLeftovers(const zvString& dir, const zvStringList& localF
         return;
     }
     logger.info("Removing incomplete files in FileServer directory [", dir, "]");
-    zvStringList files;
-    for (int i = 0; i < localFiles.numStrings(); ++i) {
-        files.addString(native(localFiles.getString(i)));
-    }
-    m_pImpl->invoke(removeLeftoverFiles, dir, &files);
+    m_pImpl->invoke(removeLeftoverFiles, dir, &localFiles);
     logger.info("Successfully removed incomplete files in FileServer directory");
 }
 
