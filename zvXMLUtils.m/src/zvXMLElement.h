@@ -61,7 +61,12 @@ public:
         const xercesc::DOMNode* child = m_pElement->getFirstChild();
         for (; child != nullptr; child = child->getNextSibling()) {
             if (isCharacterData(*child)) {
-                text += zvXMLText::toString(child->getNodeValue());
+                zvString piece = zvXMLText::toString(child->getNodeValue());
+                if (text.empty()) {
+                    text.swap(piece);  // nearly always it is the only one
+                } else {
+                    text += piece;
+                }
             }
         }
         return text;

@@ -24,10 +24,11 @@ public:
     /// Creates a new, empty file; fails if it exists. If the system refuses, that is logged, but the code is
     /// 0: check with isAccessible() whether the file exists.
     static zvResult createFile(const zvString& path);
-    /// Deletes one file; false if that fails.
+    /// Deletes one file; false if that fails, and for a directory.
     static bool deleteFile(const zvString& path);
     /// Removes directory trees with the command "rmdir /s/q", to which `path` is appended as it is: it has to
-    /// begin with a blank, and a path with blanks has to be quoted.
+    /// begin with a blank, and a path with blanks has to be quoted. Where the system has no such command, a
+    /// path that ends in "." or ".." is refused.
     static bool deleteDir(const zvString& path);
     /// What an access test asks for.
     enum AccessMode : int { existence = 0, writable = 2, readable = 4, readAndWrite = 6 };
@@ -38,7 +39,7 @@ public:
     /// The path with this system's delimiters, for other libraries.
     static zvString nativePath(const zvString& path);
     /// Appends the file's lines to `lines`, without line feeds and without empty lines; on failure `lines` is
-    /// cleared.
+    /// cleared. After a read error the result's message is the system's reason.
     static zvResult readFile(const zvString& path, zvStringList& lines);
     /// The part before the last backslash; empty for a path without a dot or a backslash.
     static zvString extractDirName(const zvString& path);
