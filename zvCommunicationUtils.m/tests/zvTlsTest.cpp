@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "zvCommunicationTestSupport.h"
 #include "zvCurlFailure.h"

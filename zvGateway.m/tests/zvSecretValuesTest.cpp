@@ -42,8 +42,8 @@ TEST_F(zvSecretValuesTest, NoPartOfASecretIsLeftAtTheLimit) {
     const zvSecretValues secrets(m_args);
     for (std::size_t before = 0; before <= 20; ++before) {
         // What a receiver keeps of an endless answer.
-        const std::string text =
-            (std::string(before, '.') + secret + secret + secret).substr(0, 20 + secrets.longest());
+        std::string text(before, '.');
+        text.append(secret).append(secret).append(secret).resize(20 + secrets.longest());
         const std::string masked = secrets.masked(text, 20);
         EXPECT_LE(masked.size(), 20u);
         EXPECT_EQ(masked.find_first_of("abcdefghijklmnop"), std::string::npos) << masked;
