@@ -65,7 +65,7 @@ const Operation operations[] = {
     {[](Client& c) { return !c.mkNewDir("there"); }, "mkNewDir(there)", "mkNewDir",
      "Creating new directory [there] on FileServer", "There is already a directory [there]"},
     {[](Client& c) { return c.removeLeftovers("d", texts({"l\\f"})), true; },
-     "removeLeftovers(d,java.util.ArrayList[l/f])", "removeLeftovers",
+     "removeLeftovers(d,java.util.ArrayList[l\\f])", "removeLeftovers",
      "Removing incomplete files in FileServer directory [d]",
      "Successfully removed incomplete files in FileServer directory"},
     {[](Client& c) { return c.exists("there"); }, "exists(there)", "exists",

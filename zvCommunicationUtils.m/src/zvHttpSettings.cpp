@@ -49,12 +49,15 @@ void readText(const Values& values, const char* key, zvString& text) {
 
 // Overwrites `seconds` if the key is set and its value is valid.
 void readSeconds(const Values& values, const char* key, long& seconds) {
-    zvString text;
-    readText(values, key, text);
+    const auto found = values.find(key);
+    if (found == values.end()) {
+        return;
+    }
+    const zvString& text = found->second;
     const int number = zvString::convertUnicodeToInt(text);
     if (number >= 1 && number <= longestTimeout && zvString(number) == text) {
         seconds = number;
-    } else if (!text.empty()) {
+    } else {
         logger.warn("\"", text, "\" is no number of seconds from 1 to ", longestTimeout, ": \"", key,
                     "\" of the file \"client-config.ini\" stays ", static_cast<int>(seconds));
     }
