@@ -105,7 +105,7 @@ void zvArgumentsStep::requireUsable() const {
             first = subject;
             reason = fault;
         } else {
-            reason += "; " + subject + ": " + fault;
+            reason.append("; ").append(subject).append(": ").append(fault);
         }
     }
     if (!first.empty()) {

@@ -28,6 +28,7 @@ std::string namesOf(const zvCfgLcmState& state) {
 // What the configuration does not carry across, and the name that may have been meant.
 void showUnmapped(const zvObjectMapping& mapping) {
     std::vector<zvString> known;
+    known.reserve(static_cast<std::size_t>(mapping.object().numAttributes()));
     for (int i = 0; i < mapping.object().numAttributes(); ++i) {
         known.push_back(mapping.sourceName(*mapping.object().getAttribute(i)));
     }
