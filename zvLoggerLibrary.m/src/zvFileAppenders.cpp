@@ -8,6 +8,7 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <new>
 #include <system_error>
 
 #include "zvPlatform.h"
@@ -69,8 +70,12 @@ zvFileAppenders::zvFileAppenders() {
 }
 
 zvFileAppenders::~zvFileAppenders() {
-    Class::registerClass(log4cxx::FileAppender::getStaticClass());
-    Class::registerClass(log4cxx::rolling::RollingFileAppender::getStaticClass());
+    try {
+        Class::registerClass(log4cxx::FileAppender::getStaticClass());
+        Class::registerClass(log4cxx::rolling::RollingFileAppender::getStaticClass());
+    } catch (const std::bad_alloc&) {
+        // The silent ones stay, which write as well.
+    }
 }
 
 std::string zvFileAppenders::openingError(const log4cxx::FileAppender& appender) {
