@@ -50,7 +50,7 @@ install(FILES ${generated_folder}/zvCommonUtilsExport.pc DESTINATION ${CMAKE_INS
 if(ZV_BUILD_TESTS AND NOT ZV_SANITIZE AND NOT CMAKE_CROSSCOMPILING)
     add_test(NAME package.consumers COMMAND ${CMAKE_CURRENT_LIST_DIR}/consumers/test-consumers
         ${PROJECT_BINARY_DIR} ${CMAKE_CXX_COMPILER})
-    set_tests_properties(package.consumers PROPERTIES TIMEOUT 600)
+    set_tests_properties(package.consumers PROPERTIES TIMEOUT 1200)
     # What the documents show is run, against an installed tree and with the installed program.
     add_test(NAME documents COMMAND ${PROJECT_SOURCE_DIR}/docs/test-documents
         ${PROJECT_BINARY_DIR} ${CMAKE_CXX_COMPILER})
