@@ -54,6 +54,8 @@ TEST_F(zvJvmOnPathTest, IsFoundOnPathAndDrivenThroughJni) {
               "CallObjectMethod toString\n"
               "FindClass com/vantorel/ep/products/fsclient/Notices\n"
               "RegisterNatives receive(Ljava/lang/String;)V\n"
+              "FindClass com/vantorel/ep/products/fsclient/Notices\n"
+              "RegisterNatives isCancelled()Z\n"
               "GetMethodID initialize(Ljava/lang/String;)V\n"
               "CallVoidMethod initialize C:\\home\\client.properties\n"
               "GetMethodID getFileServerClient()Lcom/vantorel/ep/products/fsclient/FileServerClient;\n"
