@@ -158,7 +158,7 @@ std::vector<std::string> zvEventRecord::differencesFrom(const Arguments& argumen
         const std::string recorded = valueIn(m_arguments, key);
         const std::string given = valueIn(arguments, key);
         if (recorded != given) {
-            differences.push_back(key + " was " + recorded + " and is " + given);
+            differences.emplace_back(key).append(" was ").append(recorded).append(" and is ").append(given);
         }
     }
     return differences;

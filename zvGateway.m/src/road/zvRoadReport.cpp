@@ -77,7 +77,7 @@ void zvRoadReport::take(const char* name, zvExitCode exitCode, const std::functi
 void zvRoadReport::fail(zvProgramFailure failure, double start) {
     m_steps.push_back({failure.step, "failed", failure.subject + ": " + failure.reason, now() - start});
     m_failure = std::move(failure);
-    throw *m_failure;
+    throw zvProgramFailure(*m_failure);
 }
 
 void zvRoadReport::setFact(const char* key, const char* label, std::string value) {
