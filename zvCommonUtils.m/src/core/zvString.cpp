@@ -180,16 +180,15 @@ zvString& zvString::operator=(const zvString& other) {
     return *this;
 }
 
-// Without a copy of its own, and so without writing before the text, which may be in this buffer, is read.
-zvString& zvString::assignUnits(const char16_t* text) {
+// The text may be in this buffer: it is measured before anything is written.
+void zvString::assignUnits(const char16_t* text) {
     const int length = text == nullptr ? 0 : lengthOf(text);
     if (length == 0) {
         reset();
-        return *this;
+        return;
     }
     _clearCache();
     assign(text, length);
-    return *this;
 }
 
 void zvString::swap(zvString& other) noexcept {

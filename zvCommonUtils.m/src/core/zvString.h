@@ -55,7 +55,8 @@ public:
     /// Null gives an empty string. A template, so that 0 is no null pointer but a number.
     template <typename Unit, std::enable_if_t<std::is_same_v<Unit, char16_t>, bool> = true>
     zvString& operator=(const Unit* text) {
-        return assignUnits(text);
+        assignUnits(text);
+        return *this;
     }
     /// Swaps the buffers.
     void swap(zvString& other) noexcept;
@@ -171,7 +172,7 @@ private:
     void setW(const wchar16* text, int n);
     void addTail(const char* text, int n);
     void addTailW(const wchar16* text, int n);
-    zvString& assignUnits(const char16_t* text);
+    void assignUnits(const char16_t* text);
     template <typename Unit>
     void assign(const Unit* text, int length);
     void extend(const wchar16* text, int tail);
