@@ -143,7 +143,8 @@ TEST(zvReferenceCtrTest, ACopyHasNoOwnersYet) {
     bool copyGone = false;
     auto* const copy = new Counted(*original, copyGone);
     EXPECT_EQ(copy->AddRef(), 1);
-    static_cast<zvReferenceCtr&>(*copy) = *original;
+    const zvReferenceCtr& assigned = *original;
+    static_cast<zvReferenceCtr&>(*copy) = assigned;
     EXPECT_EQ(copy->Release(), 0);
     EXPECT_TRUE(copyGone && !gone);
     EXPECT_EQ(original->Release(), 1);

@@ -324,7 +324,8 @@ TEST(zvICndConditionTest, ACopySharesTheChildrenAndHasNoOwnersYet) {
     EXPECT_TRUE(copy->evaluate(zvCndContext()));
     EXPECT_EQ(1, FixedCondition::living);
     const zvCndOrCondition other = Factory::createOrCondition();
-    static_cast<zvICndListCondition&>(*other.operator->()) = *original.operator->();
+    const zvICndListCondition& assigned = *original.operator->();
+    static_cast<zvICndListCondition&>(*other.operator->()) = assigned;
     EXPECT_EQ(zvCndConditionOr, other->getConditionType());
 }
 
