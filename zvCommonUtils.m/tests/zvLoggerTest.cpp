@@ -50,7 +50,8 @@ TEST_F(zvLoggerTest, PrefixesTheFileNameInEveryEncoding) {
             GTEST_SKIP() << "the locale " << encoding.definition << " in " << encoding.encoding;
         }
         const std::string name = std::string(encoding.character) + "f.cpp";
-        zvLogger::getInstance()->logInfo("x", ("C:\\a" + name + "\\" + name).c_str(), 5);
+        const std::string path = std::string("C:\\a").append(name).append("\\").append(name);
+        zvLogger::getInstance()->logInfo("x", path.c_str(), 5);
         EXPECT_EQ(zvRecordingLogger::events().back().message, name + "[5] x") << encoding.encoding;
         zvLogger::getInstance()->logInfo("x", name.c_str(), 5);
         EXPECT_EQ(zvRecordingLogger::events().back().message, "x") << encoding.encoding;
