@@ -6,7 +6,6 @@
 #include <string>
 #include <string_view>
 
-#include "zvCharString.h"
 #include "zvCurlFailure.h"
 #include "zvDirFileUtils.h"
 #include "zvLogSource.h"
@@ -93,8 +92,6 @@ void setSink(Transfer& transfer, WriteMemoryCallbackWrapper* sink) {
     transfer.set(CURLOPT_WRITEDATA, sink);
 }
 
-std::string nativeText(const zvString& path) { return zvCharString(zvDirFileUtils::nativePath(path)).data(); }
-
 bool endsWith(const std::string& text, std::string_view end) {
     return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
 }
@@ -111,14 +108,14 @@ void setConnection(Transfer& transfer, const zvHttpSettings& settings) {
 void setCertificates(Transfer& transfer, const zvHttpSettings& settings) {
     const auto setPath = [&](CURLoption option, const zvString& path) {
         if (!path.empty()) {
-            transfer.set(option, nativeText(path).c_str());
+            transfer.set(option, zvPath::native(path).c_str());
         }
     };
     setPath(CURLOPT_CAINFO, settings.caFile);
     setPath(CURLOPT_CAPATH, settings.caFolder);
     setPath(CURLOPT_SSLCERT, settings.clientCertificate);
     setPath(CURLOPT_SSLKEY, settings.clientKey);
-    const std::string certificate = nativeText(settings.clientCertificate);
+    const std::string certificate = zvPath::native(settings.clientCertificate);
     if (endsWith(certificate, ".p12") || endsWith(certificate, ".pfx")) {
         transfer.set(CURLOPT_SSLCERTTYPE, "P12");
     }

@@ -183,7 +183,7 @@ void removeLeftovers(const EventFiles& files, const zvString& remoteDir) {
     zvStringList binaryFiles;
     for (const EventFile& file : files) {
         if (file.mode == binary) {
-            binaryFiles.addString(zvDirFileUtils::nativePath(file.path));
+            binaryFiles.addString(zvPath::withNativeDelimiters(file.path));
         }
     }
     onFileServer("Error in removing incomplete files in directory [", remoteDir,
