@@ -45,14 +45,12 @@ void cut(std::string& text, std::size_t limit) {
 }  // namespace
 
 zvSecretValues::zvSecretValues(const zvEventArguments& arguments) {
-    for (int i = 0; i < arguments.numEventArguments(); ++i) {
-        const zvString name = arguments.getEventArgumentNameAt(i);
-        const zvString value = arguments.getEventArgumentValue(name);
+    arguments.forEach([this](const zvString& name, const zvString& value) {
         if (!value.empty() && zvSecrets::maskedValue(name, value) != value) {
             const std::string text = zvCharString(value).data();
             m_forms.insert(m_forms.end(), {text, percentEncoded(text, "%20"), percentEncoded(text, "+")});
         }
-    }
+    });
     m_forms.erase(std::remove(m_forms.begin(), m_forms.end(), std::string()), m_forms.end());
     std::sort(m_forms.begin(), m_forms.end(),
               [](const std::string& left, const std::string& right) { return left.size() > right.size(); });
