@@ -84,4 +84,12 @@ std::string counted(std::ptrdiff_t count, const char* noun) {
     return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
 }
 
+std::string joined(const std::vector<std::string>& texts, const char* separator) {
+    std::string all;
+    for (const std::string& text : texts) {
+        all.append(all.empty() ? "" : separator).append(text);
+    }
+    return all;
+}
+
 }  // namespace zvConsole

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 #include "zvString.h"
 
@@ -35,6 +36,8 @@ std::string size(double bytes);
 std::string rate(double bytes, double milliseconds);
 /// A number of things, as in "1 file" and "2 files".
 std::string counted(std::ptrdiff_t count, const char* noun);
+/// The texts in their order, with the separator between them.
+std::string joined(const std::vector<std::string>& texts, const char* separator);
 
 }  // namespace zvConsole
 

@@ -34,9 +34,8 @@ class UsabilityCheck {
 public:
     explicit UsabilityCheck(const zvSecretStore& secrets) : m_secrets(secrets) {}
 
-    /// What is wrong with the next argument; empty if it can be used.
-    std::string faultOf(const std::string& argument) {
-        ++m_number;
+    /// What is wrong with the next argument, which has this number; empty if it can be used.
+    std::string faultOf(const std::string& argument, int number) {
         const zvString text(argument.c_str());
         if (text.empty()) {
             return argument.empty() ? "it is empty" : "its bytes are no text in the locale's encoding";
@@ -53,13 +52,12 @@ public:
         if (!source.empty()) {
             return named + "one of the secrets in " + source;
         }
-        const auto [first, isNew] = m_keys.emplace(key, m_number);
+        const auto [first, isNew] = m_keys.emplace(key, number);
         return isNew ? "" : named + "that of argument " + std::to_string(first->second) + " already";
     }
 
 private:
     const zvSecretStore& m_secrets;
-    int m_number = 0;
     std::map<zvString, int> m_keys;  // to the number of the argument that has it
 };
 
@@ -96,7 +94,7 @@ void zvArgumentsStep::requireUsable() const {
     int number = 0;
     for (const std::string& argument : m_event.commandLine) {
         ++number;
-        const std::string fault = check.faultOf(argument);
+        const std::string fault = check.faultOf(argument, number);
         if (fault.empty()) {
             continue;
         }
@@ -135,13 +133,13 @@ void zvArgumentsStep::show() const {
 }
 
 void zvArgumentsStep::requireArguments() const {
-    std::string missing;
+    std::vector<std::string> missing;
     for (const char* const key : requiredArguments) {
         if (m_event.argument(key).empty()) {
-            missing += (missing.empty() ? "" : ", ") + std::string(key);
+            missing.emplace_back(key);
         }
     }
     if (!missing.empty()) {
-        throw zvStepFailure{missing, "missing (see zvgateway --help)"};
+        throw zvStepFailure{zvConsole::joined(missing, ", "), "missing (see zvgateway --help)"};
     }
 }

@@ -27,6 +27,9 @@ std::string namesOf(const zvCfgLcmState& state) {
 
 // What the configuration does not carry across, and the name that may have been meant.
 void showUnmapped(const zvObjectMapping& mapping) {
+    if (mapping.unmapped().empty()) {
+        return;
+    }
     std::vector<zvString> known;
     known.reserve(static_cast<std::size_t>(mapping.object().numAttributes()));
     for (int i = 0; i < mapping.object().numAttributes(); ++i) {
@@ -102,15 +105,12 @@ zvObjectMapping zvMappingStep::mapObject() const {
 
 void zvMappingStep::checkValues(const zvObjectMapping& mapping) const {
     const std::vector<std::string> faults = zvValueCheck::faultsOf(mapping);
-    std::string reason;
-    for (const std::string& fault : faults) {
-        if (m_event.options.isLenient) {
-            zvConsole::fact("warning", fault);
-        }
-        reason += (reason.empty() ? "" : "; ") + fault;
-    }
     if (!faults.empty() && !m_event.options.isLenient) {
-        throw zvStepFailure{zvConsole::counted(static_cast<std::ptrdiff_t>(faults.size()), "fault"), reason};
+        throw zvStepFailure{zvConsole::counted(static_cast<std::ptrdiff_t>(faults.size()), "fault"),
+                            zvConsole::joined(faults, "; ")};
+    }
+    for (const std::string& fault : faults) {
+        zvConsole::fact("warning", fault);
     }
 }
 
