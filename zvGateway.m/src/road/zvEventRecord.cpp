@@ -1,8 +1,10 @@
 #include "zvEventRecord.h"
 
+#include <algorithm>
 #include <chrono>
 #include <fstream>
 #include <iomanip>
+#include <iterator>
 #include <nlohmann/json.hpp>
 #include <sstream>
 #include <system_error>
@@ -68,11 +70,13 @@ std::string now() {
 // Texts for people are in the locale's encoding.
 std::string toUtf8(const std::string& text) { return zvUtf8::encode(text.c_str()); }
 
-std::string shown(const std::string& utf8) {
-    zvString text;
-    static_cast<void>(zvUtf8::decode(utf8, text));
-    return "\"" + zvConsole::printable(text) + "\"";
+zvString fromUtf8(const std::string& text) {
+    zvString decoded;
+    static_cast<void>(zvUtf8::decode(text, decoded));
+    return decoded;
 }
+
+std::string printable(const std::string& utf8) { return zvConsole::printable(fromUtf8(utf8)); }
 
 zvStepFailure failure(const fs::path& file, const std::string& reason) {
     return {zvConsole::printable(file.string().c_str()), reason};
@@ -126,7 +130,9 @@ void zvEventRecord::understand(const std::string& line) {
         if (json.value("record", 0) > formatVersion) {
             throw failure(m_file, "it was written by a later version of the program");
         }
-        m_strEventId = json.value("eventId", m_strEventId);
+        if (json.contains("eventId")) {
+            m_strEventId = fromUtf8(json["eventId"].get<std::string>());
+        }
         m_arguments = json.value("arguments", m_arguments);
         m_attempt = json.value("attempt", m_attempt);
         m_bPosted = json.value("posted", m_bPosted);
@@ -134,9 +140,10 @@ void zvEventRecord::understand(const std::string& line) {
             m_arrivals[json["arrived"].get<std::string>()] = json.value("stamp", "");
         }
         const std::string state = json.value("remoteDirectory", "");
-        for (int i = 0; i < 3; ++i) {
-            m_remoteDirectory =
-                state == remoteDirectoryWords[i] ? static_cast<RemoteDirectory>(i) : m_remoteDirectory;
+        const auto* const word =
+            std::find(std::begin(remoteDirectoryWords), std::end(remoteDirectoryWords), state);
+        if (word != std::end(remoteDirectoryWords)) {
+            m_remoteDirectory = static_cast<RemoteDirectory>(word - std::begin(remoteDirectoryWords));
         }
     } catch (const nlohmann::json::exception&) {
         throw failure(m_file, "it has a line that is not the program's");
@@ -150,7 +157,7 @@ std::vector<std::string> zvEventRecord::differencesFrom(const Arguments& argumen
     }
     const auto valueIn = [](const Arguments& all, const std::string& key) {
         const auto found = all.find(key);
-        return found == all.end() ? std::string("absent") : shown(found->second);
+        return found == all.end() ? std::string("absent") : "\"" + printable(found->second) + "\"";
     };
     Arguments keys = m_arguments;
     keys.insert(arguments.begin(), arguments.end());
@@ -158,17 +165,19 @@ std::vector<std::string> zvEventRecord::differencesFrom(const Arguments& argumen
         const std::string recorded = valueIn(m_arguments, key);
         const std::string given = valueIn(arguments, key);
         if (recorded != given) {
-            differences.emplace_back(key).append(" was ").append(recorded).append(" and is ").append(given);
+            differences.push_back(
+                printable(key).append(" was ").append(recorded).append(" and is ").append(given));
         }
     }
     return differences;
 }
 
-void zvEventRecord::beginAttempt(const std::string& eventId, const Arguments& arguments) {
+void zvEventRecord::beginAttempt(const zvString& eventId, const Arguments& arguments) {
     if (m_strEventId.empty()) {
         m_strEventId = eventId;
         m_arguments = arguments;
-        append({{"record", formatVersion}, {"eventId", eventId}, {"arguments", arguments}}, false);
+        append({{"record", formatVersion}, {"eventId", zvUtf8::encode(eventId)}, {"arguments", arguments}},
+               false);
     }
     ++m_attempt;
     append(

@@ -18,7 +18,7 @@ struct zvProgramFailure;
 /// earlier lines, and a line without an end is ignored. What must not be done twice is flushed to the disk.
 class zvEventRecord {
 public:
-    /// Arguments of the command line, without those that are secrets or only say where the event is.
+    /// Arguments of the command line in UTF-8, without those that are secrets or only say where the event is.
     using Arguments = std::map<std::string, std::string>;
     static Arguments argumentsOf(const zvEventArguments& arguments);
 
@@ -27,12 +27,13 @@ public:
     explicit zvEventRecord(const zvString& file);
 
     /// The event's identity, a UUID or what its caller gave; empty before the first attempt began.
-    const std::string& eventId() const { return m_strEventId; }
-    /// One for each argument that differs from the recorded ones; none before the first attempt began.
+    const zvString& eventId() const { return m_strEventId; }
+    /// One printable text for each argument that differs from the recorded ones; none before the first
+    /// attempt began.
     std::vector<std::string> differencesFrom(const Arguments& arguments) const;
 
     /// Begins an attempt. Throws the zvStepFailure of a record that cannot be written.
-    void beginAttempt(const std::string& eventId, const Arguments& arguments);
+    void beginAttempt(const zvString& eventId, const Arguments& arguments);
     void setOutcome(const std::string& step, const std::string& outcome, const std::string& detail);
     /// Ends the attempt; `failure` is null for one that succeeded.
     void endAttempt(const zvProgramFailure* failure);
@@ -66,7 +67,7 @@ private:
     int m_attempt = 0;
     bool m_bPosted = false;
     RemoteDirectory m_remoteDirectory = RemoteDirectory::unknown;
-    std::string m_strEventId;
+    zvString m_strEventId;
     Arguments m_arguments;
     std::string m_strSending;                       // the stamp of the file that is being sent
     std::map<std::string, std::string> m_arrivals;  // path to stamp

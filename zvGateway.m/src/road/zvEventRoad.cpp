@@ -88,7 +88,7 @@ void zvEventRoad::end(const zvProgramFailure* failure) {
 void zvEventRoad::summarize(zvExitCode exitCode) {
     zvRoadReport& report = m_event.report;
     if (m_event.record != nullptr) {
-        report.setFact("eventId", "event", m_event.record->eventId());
+        report.setFact("eventId", "event", zvConsole::printable(m_event.record->eventId()));
         const std::string name = zvConsole::printable(m_event.argument("EventShadowDir"));
         report.setFact("eventShadowDir", "", name);
         report.setFact("directory", "directory", zvConsole::printablePath(m_event.directory()));

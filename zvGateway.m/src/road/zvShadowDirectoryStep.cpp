@@ -9,7 +9,6 @@
 #include "zvDirFileUtils.h"
 #include "zvEventId.h"
 #include "zvNativePath.h"
-#include "zvUtf8.h"
 
 namespace {
 
@@ -23,14 +22,6 @@ zvStepFailure failure(const zvString& file, const std::string& reason) {
 bool isPlainName(const zvString& name) {
     return name != "." && name != ".." && name.find("/") == -1 && name.find("\\") == -1 &&
            name.find(":") == -1;
-}
-
-std::string joined(const std::vector<std::string>& texts) {
-    std::string all;
-    for (const std::string& text : texts) {
-        all += (all.empty() ? "" : "; ") + zvConsole::printable(text.c_str());
-    }
-    return all;
 }
 
 std::string refusal(const zvResult& result) {
@@ -55,7 +46,7 @@ zvStepOutcome zvShadowDirectoryStep::run() {
     }
     zvConsole::fact("directory", zvConsole::printablePath(m_event.directory()));
     beginAttempt(given);
-    zvConsole::fact("event", m_event.record->eventId());
+    zvConsole::fact("event", zvConsole::printable(m_event.record->eventId()));
     for (const char* const key : fileKeys) {
         zvConsole::fact(key, zvConsole::printablePath(m_event.file(key)));
     }
@@ -66,18 +57,19 @@ zvStepOutcome zvShadowDirectoryStep::run() {
 void zvShadowDirectoryStep::beginAttempt(const zvEventRecord::Arguments& given) {
     const zvString file = m_event.directory() + "\\" + m_event.argument("EventShadowDir") + "_record.jsonl";
     auto record = std::make_unique<zvEventRecord>(file);
-    const std::string givenId = zvUtf8::encode(m_event.argument("EventId"));
+    const zvString givenId = m_event.argument("EventId");
     std::vector<std::string> differences = record->differencesFrom(given);
     if (!givenId.empty() && !record->eventId().empty() && givenId != record->eventId()) {
-        differences.push_back("EventId was \"" + record->eventId() + "\" and is \"" + givenId + "\"");
+        differences.push_back("EventId was \"" + zvConsole::printable(record->eventId()) + "\" and is \"" +
+                              zvConsole::printable(givenId) + "\"");
     }
     if (!differences.empty()) {
-        throw failure(m_event.directory(), "it is another event's: " + joined(differences));
+        throw failure(m_event.directory(), "it is another event's: " + zvConsole::joined(differences, "; "));
     }
-    const std::string id = !record->eventId().empty() ? record->eventId()
-                           : !givenId.empty()         ? givenId
-                                                      : makeEventId();
-    m_event.arguments->setEventArgument("EventId", id.c_str());
+    const zvString id = !record->eventId().empty() ? record->eventId()
+                        : !givenId.empty()         ? givenId
+                                                   : zvString(makeEventId().c_str());
+    m_event.arguments->setEventArgument("EventId", id);
     record->beginAttempt(id, given);
     m_event.record = std::move(record);
 }
