@@ -15,6 +15,7 @@
 #include "zvFailure.h"
 #include "zvProcess.h"
 #include "zvRoadReport.h"
+#include "zvRoadSession.h"
 #include "zvSecrets.h"
 #include "zvShowCommand.h"
 
@@ -72,7 +73,7 @@ int fail(const zvProgramFailure& failure) {
     return fail(failure.exitCode, failure.step + ": " + subject + failure.reason);
 }
 
-zvExitCode takeEvent(zvEventRoad& road, std::vector<std::string> arguments) {
+zvExitCode takeEvent(zvRoadSession& session, std::vector<std::string> arguments) {
     for (const std::string& argument : arguments) {
         if (argument.rfind('-', 0) == 0) {
             throw zvProgramFailure{zvExitCode::usage, "options",
@@ -80,9 +81,15 @@ zvExitCode takeEvent(zvEventRoad& road, std::vector<std::string> arguments) {
                                    "there is no such option (see zvgateway --help)"};
         }
     }
-    road.arguments = std::move(arguments);
     zvProcess::noteSignals();
-    road.run();
+    zvEventRoad road(session, std::move(arguments));
+    try {
+        road.run();
+    } catch (const zvProgramFailure&) {
+        zvConsole::outcome(road.outcome().text(), true);
+        throw;
+    }
+    zvConsole::outcome(road.outcome().text(), false);
     return zvExitCode::success;
 }
 
@@ -139,6 +146,7 @@ void declareRoad(CLI::App& program, zvRoadOptions& options) {
     program.add_flag("--dry-run", options.isDryRun, "Does everything but the transfer and the post");
     program.add_flag("--json", options.asJson,
                      "The summary goes to standard output as JSON, and everything else to standard error");
+    program.add_flag_callback("--quiet", zvConsole::setQuiet, "Prints failures only, as for cron");
     program.add_flag("--lenient", options.isLenient,
                      "Values that do not fit their declared types are warned of, and sent");
     program.add_flag_callback(
@@ -164,8 +172,8 @@ int runProgram(int argc, char** argv) {
     CLI::App program("Takes one event through the gateway: zvgateway key=value ...", "zvgateway");
     program.footer(footer);
     program.set_version_flag("--version", "zvgateway " ZV_VERSION);
-    zvEventRoad road;
-    declareRoad(program, road.options);
+    zvRoadSession session;
+    declareRoad(program, session.options);
 
     zvEvaluateCommand evaluation;
     CLI::App& eval = *program.add_subcommand("eval", "Evaluates a condition, as mapping rules have them");
@@ -192,8 +200,8 @@ int runProgram(int argc, char** argv) {
         return program.exit(error) == 0 ? 0 : static_cast<int>(zvExitCode::usage);
     }
     if (program.get_subcommands().empty()) {
-        const zvExitCode code = takeEvent(road, program.remaining());
-        return road.options.asJson ? finish(code) : static_cast<int>(code);
+        const zvExitCode code = takeEvent(session, program.remaining());
+        return session.options.asJson ? finish(code) : static_cast<int>(code);
     }
     goWithoutHome();
     return finish(eval.parsed() ? evaluation.run() : check.parsed() ? checking.run() : showing.run());

@@ -14,6 +14,7 @@ namespace {
 std::FILE* out = stdout;      // of what a person is told
 std::FILE* answers = stdout;  // of print()
 bool answered = false;
+bool quiet = false;
 const char* heading = nullptr;  // still to be printed
 
 }  // namespace
@@ -52,7 +53,18 @@ std::string printablePath(const zvString& path) { return printable(zvDirFileUtil
 
 void step(const char* name) { heading = name; }
 
+void setQuiet() { quiet = true; }
+
+void outcome(const std::string& text, bool isFailure) {
+    if (!quiet || isFailure) {
+        std::fprintf(stderr, "%s\n", text.c_str());
+    }
+}
+
 void fact(const std::string& name, const std::string& value) {
+    if (quiet) {
+        return;
+    }
     if (heading != nullptr) {
         std::fprintf(out, "%s\n", heading);
         heading = nullptr;

@@ -31,6 +31,11 @@ void step(const char* name);
 /// One thing that the present step has to tell.
 void fact(const std::string& name, const std::string& value);
 
+/// From now on step() and fact() print nothing.
+void setQuiet();
+/// What became of an event, as a line of standard error; when quiet, only if it `isFailure`.
+void outcome(const std::string& text, bool isFailure);
+
 /// A size as in "4.2 MB", and what moved per second as in "12.5 MB/s".
 std::string size(double bytes);
 std::string rate(double bytes, double milliseconds);

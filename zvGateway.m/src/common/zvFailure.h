@@ -14,7 +14,9 @@ enum class zvExitCode {
     configuration = 6,
     mapping = 7,
     fileTransfer = 8,
-    post = 9
+    post = 9,
+    /// Not all events of a command that takes several arrived.
+    events = 10
 };
 
 /// Thrown by a step of the road that could not do its job. The texts are printable.
@@ -22,6 +24,8 @@ struct zvStepFailure {
     /// What the step failed on: a file, or an argument.
     std::string subject;
     std::string reason;
+    /// Nothing is wrong with the event: another process is running it.
+    bool isHeldByAnother = false;
 };
 
 /// Thrown to end the program: with this exit code, and one line that names where, on what and why.
@@ -31,6 +35,8 @@ struct zvProgramFailure {
     std::string step;
     std::string subject;
     std::string reason;
+    /// As in zvStepFailure.
+    bool isHeldByAnother = false;
 };
 
 #endif

@@ -2,7 +2,9 @@
 #define ZV_PROCESS_H
 
 #include <chrono>
+#include <cstdint>
 #include <cstdio>
+#include <ctime>
 #include <filesystem>
 #include <string>
 #include <system_error>
@@ -24,9 +26,27 @@ void setEnvironment(const char* name, const char* value);
 void waitFor(std::chrono::milliseconds time);
 
 enum class Lock { taken, heldByAnother, refused };
-/// Takes an advisory lock on the file, which is created if need be. It is held until the process exits.
-/// `error` is the reason of a refusal.
-Lock lockFile(const std::filesystem::path& file, std::error_code& error);
+/// An advisory lock on a file, held as long as the object and the process live.
+class FileLock {
+public:
+    FileLock() = default;
+    FileLock(const FileLock&) = delete;
+    FileLock& operator=(const FileLock&) = delete;
+    ~FileLock();
+
+    /// Takes the lock; to be called once. The file is created if need be. `error` is the reason of a refusal.
+    Lock take(const std::filesystem::path& file, std::error_code& error);
+
+private:
+    std::intptr_t m_handle = -1;  // of the open file, to which the lock belongs
+};
+/// Whether a process holds the lock on the file, this one included.
+bool isLocked(const std::filesystem::path& file);
+
+/// Seconds since 1970 of an instant in UTC.
+std::int64_t toSeconds(std::tm utc);
+/// The width of the terminal that standard error is; 0 if it is none.
+int terminalWidth();
 
 /// Appends to the file; if `isDurable`, returns once it is on the disk. An empty error for success.
 std::error_code appendToFile(const std::filesystem::path& file, const std::string& text, bool isDurable);

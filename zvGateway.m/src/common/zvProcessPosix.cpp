@@ -1,5 +1,5 @@
 #include <fcntl.h>
-#include <sys/file.h>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -33,17 +33,52 @@ constexpr mode_t newFileMode = 0666;  // as the process's umask has it
 
 }  // namespace
 
-zvProcess::Lock zvProcess::lockFile(const std::filesystem::path& file, std::error_code& error) {
-    // The descriptor stays open, and with it the lock.
+// Of the open file and not of the process, as a thread's or a library's other lock would be.
+zvProcess::Lock zvProcess::FileLock::take(const std::filesystem::path& file, std::error_code& error) {
     const int descriptor = ::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, newFileMode);
-    if (descriptor >= 0 && ::flock(descriptor, LOCK_EX | LOCK_NB) == 0) {
+    struct flock whole {};
+    whole.l_type = F_WRLCK;
+    whole.l_whence = SEEK_SET;
+    if (descriptor >= 0 && ::fcntl(descriptor, F_OFD_SETLK, &whole) == 0) {
+        m_handle = descriptor;
         return Lock::taken;
     }
     error = {errno, std::generic_category()};
     if (descriptor >= 0) {
         ::close(descriptor);
     }
-    return error.value() == EWOULDBLOCK ? Lock::heldByAnother : Lock::refused;
+    return error.value() == EAGAIN || error.value() == EACCES ? Lock::heldByAnother : Lock::refused;
+}
+
+zvProcess::FileLock::~FileLock() {
+    if (m_handle >= 0) {
+        ::close(static_cast<int>(m_handle));
+    }
+}
+
+// Asks without taking it, which would keep off an event that begins at this moment.
+bool zvProcess::isLocked(const std::filesystem::path& file) {
+    const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0) {
+        return false;
+    }
+    struct flock whole {};
+    whole.l_type = F_WRLCK;
+    whole.l_whence = SEEK_SET;
+    const bool isHeld = ::fcntl(descriptor, F_OFD_GETLK, &whole) == 0 && whole.l_type != F_UNLCK;
+    ::close(descriptor);
+    return isHeld;
+}
+
+std::int64_t zvProcess::toSeconds(std::tm utc) { return ::timegm(&utc); }
+
+int zvProcess::terminalWidth() {
+    struct winsize size {};
+    if (::isatty(STDERR_FILENO) == 0) {
+        return 0;
+    }
+    constexpr int usual = 80;
+    return ::ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : usual;
 }
 
 std::string zvProcess::hostName() {

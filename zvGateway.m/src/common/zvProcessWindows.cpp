@@ -34,27 +34,71 @@ void zvProcess::setEnvironment(const char* name, const char* value) {
     ::_putenv((std::string(name) + "=" + value).c_str());
 }
 
-zvProcess::Lock zvProcess::lockFile(const std::filesystem::path& file, std::error_code& error) {
+namespace {
+
+HANDLE openToLock(const std::filesystem::path& file, DWORD creation) {
+    return ::CreateFileW(file.c_str(), GENERIC_READ | GENERIC_WRITE,
+                         FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, creation,
+                         FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
+// Locks a byte far beyond the end, where the lock keeps nobody from reading. False for one that another
+// process holds.
+bool lockByte(HANDLE handle, DWORD flags) {
+    OVERLAPPED place{};
+    place.OffsetHigh = MAXLONG;
+    return ::LockFileEx(handle, flags | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &place) != 0;
+}
+
+}  // namespace
+
+zvProcess::Lock zvProcess::FileLock::take(const std::filesystem::path& file, std::error_code& error) {
     const auto lastError = [] {
         return std::error_code(static_cast<int>(::GetLastError()), std::system_category());
     };
-    // The handle stays open, and with it the lock.
-    const HANDLE handle = ::CreateFileW(file.c_str(), GENERIC_READ | GENERIC_WRITE,
-                                        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                        OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE handle = openToLock(file, OPEN_ALWAYS);
     if (handle == INVALID_HANDLE_VALUE) {
         error = lastError();
         return Lock::refused;
     }
-    // A byte far beyond the end, where the lock keeps nobody from reading.
-    OVERLAPPED place{};
-    place.OffsetHigh = MAXLONG;
-    if (::LockFileEx(handle, LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &place) != 0) {
-        return Lock::taken;
+    // Whoever asks by isLocked() holds it for a moment.
+    constexpr int tries = 5;
+    constexpr DWORD pause = 20;
+    for (int i = 0; i < tries; ++i) {
+        if (lockByte(handle, LOCKFILE_EXCLUSIVE_LOCK)) {
+            m_handle = reinterpret_cast<std::intptr_t>(handle);
+            return Lock::taken;
+        }
+        error = lastError();
+        ::Sleep(pause);
     }
-    error = lastError();
     ::CloseHandle(handle);
     return error.value() == ERROR_LOCK_VIOLATION ? Lock::heldByAnother : Lock::refused;
+}
+
+zvProcess::FileLock::~FileLock() {
+    if (m_handle != -1) {
+        ::CloseHandle(reinterpret_cast<HANDLE>(m_handle));
+    }
+}
+
+// The system tells no more than whether a lock can be taken.
+bool zvProcess::isLocked(const std::filesystem::path& file) {
+    const HANDLE handle = openToLock(file, OPEN_EXISTING);
+    if (handle == INVALID_HANDLE_VALUE) {
+        return false;
+    }
+    const bool isHeld = !lockByte(handle, 0) && ::GetLastError() == ERROR_LOCK_VIOLATION;
+    ::CloseHandle(handle);
+    return isHeld;
+}
+
+std::int64_t zvProcess::toSeconds(std::tm utc) { return ::_mkgmtime64(&utc); }
+
+int zvProcess::terminalWidth() {
+    CONSOLE_SCREEN_BUFFER_INFO info{};
+    const bool isConsole = ::GetConsoleScreenBufferInfo(::GetStdHandle(STD_ERROR_HANDLE), &info) != 0;
+    return isConsole ? info.srWindow.Right - info.srWindow.Left + 1 : 0;
 }
 
 std::string zvProcess::hostName() {

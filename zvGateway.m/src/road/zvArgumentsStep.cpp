@@ -1,7 +1,6 @@
 #include "zvArgumentsStep.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <map>
 #include <vector>
 
@@ -64,31 +63,17 @@ private:
 }  // namespace
 
 zvStepOutcome zvArgumentsStep::run() {
-    readSecrets();
-    requireUsable();
-    parse();
+    const zvSecretStore& secrets = m_event.session.secrets();
+    requireUsable(secrets);
+    parse(secrets);
     show();
     requireArguments();
     warnOfUnknownEvent(m_event.argument("EventName"));
     return zvStepOutcome::done(zvConsole::counted(m_event.arguments->numEventArguments(), "argument"));
 }
 
-void zvArgumentsStep::readSecrets() {
-    const zvRoadOptions& options = m_event.options;
-    if (!options.secretsFile.empty()) {
-        m_event.secrets.readFile(options.secretsFile);
-    }
-    if (options.secretsDescriptor >= 0) {
-        m_event.secrets.readDescriptor(options.secretsDescriptor);
-    }
-    const char* const folder = std::getenv("CREDENTIALS_DIRECTORY");
-    if (folder != nullptr && *folder != '\0') {
-        m_event.secrets.readFolder(folder);
-    }
-}
-
-void zvArgumentsStep::requireUsable() const {
-    UsabilityCheck check(m_event.secrets);
+void zvArgumentsStep::requireUsable(const zvSecretStore& secrets) const {
+    UsabilityCheck check(secrets);
     std::string first;
     std::string reason;
     int number = 0;
@@ -111,7 +96,7 @@ void zvArgumentsStep::requireUsable() const {
     }
 }
 
-void zvArgumentsStep::parse() {
+void zvArgumentsStep::parse(const zvSecretStore& secrets) {
     std::string program = "zvgateway";
     std::vector<char*> argv{program.data()};
     argv.reserve(m_event.commandLine.size() + 1);
@@ -120,8 +105,11 @@ void zvArgumentsStep::parse() {
     }
     m_event.arguments.reset(
         zvEventArguments::parseEventArguments(static_cast<int>(argv.size()), argv.data()));
-    m_event.secrets.forEach([this](const zvString& name, const zvString& value) {
-        m_event.arguments->addEventArgument(name, value);
+    const std::set<zvString>* const wanted = m_event.secretNames;
+    secrets.forEach([&](const zvString& name, const zvString& value) {
+        if (wanted == nullptr || wanted->count(name) > 0) {
+            m_event.arguments->addEventArgument(name, value);
+        }
     });
 }
 

@@ -13,9 +13,8 @@ public:
     zvStepOutcome run();
 
 private:
-    void readSecrets();
-    void requireUsable() const;
-    void parse();
+    void requireUsable(const zvSecretStore& secrets) const;
+    void parse(const zvSecretStore& secrets);
     void show() const;
     void requireArguments() const;
 

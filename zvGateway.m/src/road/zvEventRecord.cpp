@@ -1,19 +1,16 @@
 #include "zvEventRecord.h"
 
 #include <algorithm>
-#include <chrono>
-#include <fstream>
-#include <iomanip>
-#include <iterator>
 #include <nlohmann/json.hpp>
-#include <sstream>
+#include <set>
 #include <system_error>
 
 #include "zvConsole.h"
 #include "zvFailure.h"
+#include "zvFileStamp.h"
 #include "zvNativePath.h"
-#include "zvProcess.h"
 #include "zvSecrets.h"
+#include "zvUtcTime.h"
 #include "zvUtf8.h"
 
 namespace fs = std::filesystem;
@@ -21,12 +18,8 @@ using nlohmann::ordered_json;
 
 namespace {
 
-constexpr int formatVersion = 1;
-
 // An event keeps its identity when its root moves, and its directory is where the record was found.
 constexpr const char* placeArguments[] = {"RootShadowDir", "EventShadowDir", "EventId"};
-
-constexpr const char* remoteDirectoryWords[] = {"unknown", "claimed", "own"};
 
 bool isPlace(const zvString& key) {
     for (const char* const place : placeArguments) {
@@ -37,34 +30,11 @@ bool isPlace(const zvString& key) {
     return false;
 }
 
-// The size and the time of the last change; empty for a file that is not there.
-std::string stampOf(const fs::path& path) {
-    std::error_code error;
-    const auto size = fs::file_size(path, error);
-    if (error) {
-        return "";
-    }
-    const auto time = fs::last_write_time(path, error);
-    return error ? "" : std::to_string(size) + " " + std::to_string(time.time_since_epoch().count());
-}
-
 // How a file is named in the record, however its path was given.
 std::string nameOf(const zvString& path) {
     std::error_code error;
     const fs::path absolute = fs::absolute(toNativePath(path), error);
     return zvUtf8::encode(absolute.lexically_normal().string().c_str());
-}
-
-// As in "2026-11-25T10:15:00.123Z".
-std::string now() {
-    const auto time = std::chrono::system_clock::now();
-    const auto seconds = std::chrono::system_clock::to_time_t(time);
-    const auto milliseconds =
-        std::chrono::duration_cast<std::chrono::milliseconds>(time.time_since_epoch()).count() % 1000;
-    std::ostringstream text;
-    text << std::put_time(std::gmtime(&seconds), "%FT%T") << '.' << std::setw(3) << std::setfill('0')
-         << milliseconds << 'Z';
-    return text.str();
 }
 
 // Texts for people are in the locale's encoding.
@@ -84,22 +54,29 @@ zvStepFailure failure(const fs::path& file, const std::string& reason) {
 
 }  // namespace
 
-zvEventRecord::Arguments zvEventRecord::argumentsOf(const zvEventArguments& arguments) {
-    Arguments result;
-    arguments.forEach([&result](const zvString& key, const zvString& value) {
-        const bool isSecret = zvSecrets::keyIn(key) != nullptr || zvSecrets::keyIn(value) != nullptr;
-        if (!isSecret && !isPlace(key)) {
-            result.emplace(zvUtf8::encode(key), zvUtf8::encode(value));
+zvEventRecord::Given zvEventRecord::givenBy(const zvEventArguments& arguments) {
+    Given given;
+    arguments.forEach([&given](const zvString& key, const zvString& value) {
+        if (isPlace(key)) {
+            return;
+        }
+        if (zvSecrets::keyIn(key) == nullptr && zvSecrets::keyIn(value) == nullptr) {
+            given.arguments.emplace(zvUtf8::encode(key), zvUtf8::encode(value));
+        } else {
+            given.secrets.push_back(zvUtf8::encode(zvSecrets::maskedKey(key)));
         }
     });
-    return result;
+    std::sort(given.secrets.begin(), given.secrets.end());
+    return given;
 }
 
 zvEventRecord::zvEventRecord(const zvString& file) : m_file(toNativePath(file)) {
     std::error_code error;
-    const zvProcess::Lock lock = zvProcess::lockFile(m_file, error);
+    const zvProcess::Lock lock = m_lock.take(m_file, error);
     if (lock == zvProcess::Lock::heldByAnother) {
-        throw failure(m_file, "another process is running this event");
+        zvStepFailure held = failure(m_file, "another process is running this event");
+        held.isHeldByAnother = true;
+        throw zvStepFailure(held);
     }
     if (lock == zvProcess::Lock::refused) {
         throw failure(m_file, error.message());
@@ -108,83 +85,84 @@ zvEventRecord::zvEventRecord(const zvString& file) : m_file(toNativePath(file)) 
 }
 
 void zvEventRecord::read() {
-    std::ifstream stream(m_file, std::ios::binary);
-    for (std::string line; std::getline(stream, line);) {
-        m_bTornEnd = stream.eof();
-        if (!m_bTornEnd) {
-            understand(line);
-        }
+    std::error_code error;
+    const std::string fault = m_history.read(m_file, zvEventHistory::Detail::all, error);
+    if (error || !fault.empty()) {
+        throw failure(m_file, error ? error.message() : fault);
     }
-    if (!stream.is_open() || stream.bad()) {
-        throw failure(m_file, "it cannot be read");
-    }
+    m_strEventId = fromUtf8(m_history.eventId);
 }
 
-// Lines and members that a later version may add are passed over.
-void zvEventRecord::understand(const std::string& line) {
-    const auto json = nlohmann::json::parse(line, nullptr, false);
-    if (!json.is_object()) {
-        return;
-    }
-    try {
-        if (json.value("record", 0) > formatVersion) {
-            throw failure(m_file, "it was written by a later version of the program");
-        }
-        if (json.contains("eventId")) {
-            m_strEventId = fromUtf8(json["eventId"].get<std::string>());
-        }
-        m_arguments = json.value("arguments", m_arguments);
-        m_attempt = json.value("attempt", m_attempt);
-        m_bPosted = json.value("posted", m_bPosted);
-        if (json.contains("arrived")) {
-            m_arrivals[json["arrived"].get<std::string>()] = json.value("stamp", "");
-        }
-        const std::string state = json.value("remoteDirectory", "");
-        const auto* const word =
-            std::find(std::begin(remoteDirectoryWords), std::end(remoteDirectoryWords), state);
-        if (word != std::end(remoteDirectoryWords)) {
-            m_remoteDirectory = static_cast<RemoteDirectory>(word - std::begin(remoteDirectoryWords));
-        }
-    } catch (const nlohmann::json::exception&) {
-        throw failure(m_file, "it has a line that is not the program's");
-    }
-}
-
-std::vector<std::string> zvEventRecord::differencesFrom(const Arguments& arguments) const {
+std::vector<std::string> zvEventRecord::differencesFrom(const Given& given) const {
     std::vector<std::string> differences;
     if (m_strEventId.empty()) {
         return differences;
     }
-    const auto valueIn = [](const Arguments& all, const std::string& key) {
+    const auto valueIn = [](const zvEventHistory::Arguments& all, const std::string& key) {
         const auto found = all.find(key);
         return found == all.end() ? std::string("absent") : "\"" + printable(found->second) + "\"";
     };
-    Arguments keys = m_arguments;
-    keys.insert(arguments.begin(), arguments.end());
+    zvEventHistory::Arguments keys = m_history.arguments;
+    keys.insert(given.arguments.begin(), given.arguments.end());
     for (const auto& [key, value] : keys) {
-        const std::string recorded = valueIn(m_arguments, key);
-        const std::string given = valueIn(arguments, key);
-        if (recorded != given) {
+        const std::string recorded = valueIn(m_history.arguments, key);
+        const std::string now = valueIn(given.arguments, key);
+        if (recorded != now) {
             differences.push_back(
-                printable(key).append(" was ").append(recorded).append(" and is ").append(given));
+                printable(key).append(" was ").append(recorded).append(" and is ").append(now));
         }
     }
+    addSecretDifferences(given.secrets, differences);
     return differences;
 }
 
-void zvEventRecord::beginAttempt(const zvString& eventId, const Arguments& arguments) {
+// Their values are not recorded.
+void zvEventRecord::addSecretDifferences(const std::vector<std::string>& given,
+                                         std::vector<std::string>& differences) const {
+    if (!m_history.knowsSecrets) {
+        return;
+    }
+    const std::set<std::string> before(m_history.secrets.begin(), m_history.secrets.end());
+    const std::set<std::string> now(given.begin(), given.end());
+    for (const std::string& name : before) {
+        if (now.count(name) == 0) {
+            differences.push_back("the secret " + printable(name) + " was given and is absent");
+        }
+    }
+    for (const std::string& name : now) {
+        if (before.count(name) == 0) {
+            differences.push_back("the secret " + printable(name) + " was absent and is given");
+        }
+    }
+}
+
+void zvEventRecord::beginAttempt(const zvString& eventId, const Given& given, bool isDryRun) {
     if (m_strEventId.empty()) {
         m_strEventId = eventId;
-        m_arguments = arguments;
-        append({{"record", formatVersion}, {"eventId", zvUtf8::encode(eventId)}, {"arguments", arguments}},
+        append({{"record", zvEventHistory::formatVersion},
+                {"eventId", zvUtf8::encode(eventId)},
+                {"arguments", given.arguments},
+                {"secrets", given.secrets}},
                false);
     }
-    ++m_attempt;
-    append(
-        {{"attempt", m_attempt}, {"begin", now()}, {"host", zvProcess::hostName()}, {"pid", zvProcess::id()}},
-        true);
+    ++m_history.attempts;
+    ordered_json line = {{"attempt", m_history.attempts},
+                         {"begin", zvUtcTime::now()},
+                         {"host", zvProcess::hostName()},
+                         {"pid", zvProcess::id()}};
+    if (isDryRun) {
+        line["dryRun"] = true;
+    }
+    append(line, true);
     requireWritten();
 }
+
+void zvEventRecord::setObject(const std::string& object) {
+    m_history.object = toUtf8(object);
+    append({{"object", m_history.object}}, false);
+}
+
+std::string zvEventRecord::object() const { return printable(m_history.object); }
 
 void zvEventRecord::setOutcome(const std::string& step, const std::string& outcome,
                                const std::string& detail) {
@@ -192,7 +170,7 @@ void zvEventRecord::setOutcome(const std::string& step, const std::string& outco
 }
 
 void zvEventRecord::endAttempt(const zvProgramFailure* failure) {
-    ordered_json line = {{"attempt", m_attempt}, {"end", now()}, {"exitCode", 0}};
+    ordered_json line = {{"attempt", m_history.attempts}, {"end", zvUtcTime::now()}, {"exitCode", 0}};
     if (failure != nullptr) {
         line["exitCode"] = static_cast<int>(failure->exitCode);
         line["failure"] = {{"step", failure->step},
@@ -203,37 +181,37 @@ void zvEventRecord::endAttempt(const zvProgramFailure* failure) {
 }
 
 bool zvEventRecord::hasArrived(const zvString& path) const {
-    const auto found = m_arrivals.find(nameOf(path));
-    if (found == m_arrivals.end()) {
+    const auto found = m_history.arrivals.find(nameOf(path));
+    if (found == m_history.arrivals.end()) {
         return false;
     }
-    const std::string stamp = stampOf(toNativePath(path));
+    const std::string stamp = fileStamp(toNativePath(path));
     return stamp.empty() || stamp == found->second;
 }
 
-void zvEventRecord::beginFile(const zvString& path) { m_strSending = stampOf(toNativePath(path)); }
+void zvEventRecord::beginFile(const zvString& path) { m_strSending = fileStamp(toNativePath(path)); }
 
 void zvEventRecord::setArrived(const zvString& path) {
     const std::string name = nameOf(path);
-    m_arrivals[name] = m_strSending;
+    m_history.arrivals[name] = m_strSending;
     append({{"arrived", name}, {"stamp", m_strSending}}, true);
 }
 
 void zvEventRecord::setRemoteDirectory(RemoteDirectory state) {
-    m_remoteDirectory = state;
-    append({{"remoteDirectory", remoteDirectoryWords[static_cast<int>(state)]}}, true);
+    m_history.remoteDirectory = state;
+    append({{"remoteDirectory", zvEventHistory::remoteDirectoryWords[static_cast<int>(state)]}}, true);
 }
 
 void zvEventRecord::setPosted() {
-    m_bPosted = true;
-    append({{"posted", true}, {"at", now()}}, true);
+    m_history.isPosted = true;
+    append({{"posted", true}, {"at", zvUtcTime::now()}}, true);
 }
 
 void zvEventRecord::append(const ordered_json& line, bool isDurable) {
-    const std::string text =
-        (m_bTornEnd ? "\n" : "") + line.dump(-1, ' ', false, ordered_json::error_handler_t::replace) + "\n";
+    const std::string text = (m_history.hasTornEnd ? "\n" : "") +
+                             line.dump(-1, ' ', false, ordered_json::error_handler_t::replace) + "\n";
     const std::error_code error = zvProcess::appendToFile(m_file, text, isDurable);
-    m_bTornEnd = static_cast<bool>(error);
+    m_history.hasTornEnd = static_cast<bool>(error);
     if (error && m_strFault.empty()) {
         m_strFault = error.message();
     }

@@ -2,12 +2,13 @@
 #define ZV_EVENT_RECORD_H
 
 #include <filesystem>
-#include <map>
 #include <nlohmann/json_fwd.hpp>
 #include <string>
 #include <vector>
 
 #include "zvEventArguments.h"
+#include "zvEventHistory.h"
+#include "zvProcess.h"
 
 struct zvProgramFailure;
 
@@ -18,22 +19,30 @@ struct zvProgramFailure;
 /// earlier lines, and a line without an end is ignored. What must not be done twice is flushed to the disk.
 class zvEventRecord {
 public:
-    /// Arguments of the command line in UTF-8, without those that are secrets or only say where the event is.
-    using Arguments = std::map<std::string, std::string>;
-    static Arguments argumentsOf(const zvEventArguments& arguments);
+    /// An event's arguments in UTF-8, without those that only say where the event is.
+    struct Given {
+        zvEventHistory::Arguments arguments;
+        /// The names of the secrets among them, which stand here alone.
+        std::vector<std::string> secrets;
+    };
+    static Given givenBy(const zvEventArguments& arguments);
 
-    /// Reads the file, if there is one, and takes an advisory lock on it, held until the process exits.
-    /// Throws a zvStepFailure when another process is running the event, or the file cannot be read.
+    /// Takes an advisory lock on the file, held as long as the object lives, and reads it. Throws the
+    /// zvStepFailure of a file that cannot be used, or that another process has locked.
     explicit zvEventRecord(const zvString& file);
 
     /// The event's identity, a UUID or what its caller gave; empty before the first attempt began.
     const zvString& eventId() const { return m_strEventId; }
     /// One printable text for each argument that differs from the recorded ones; none before the first
     /// attempt began.
-    std::vector<std::string> differencesFrom(const Arguments& arguments) const;
+    std::vector<std::string> differencesFrom(const Given& given) const;
 
     /// Begins an attempt. Throws the zvStepFailure of a record that cannot be written.
-    void beginAttempt(const zvString& eventId, const Arguments& arguments);
+    void beginAttempt(const zvString& eventId, const Given& given, bool isDryRun);
+    /// Notes the object's type and key, for people.
+    void setObject(const std::string& object);
+    /// The object as it was noted last.
+    std::string object() const;
     void setOutcome(const std::string& step, const std::string& outcome, const std::string& detail);
     /// Ends the attempt; `failure` is null for one that succeeded.
     void endAttempt(const zvProgramFailure* failure);
@@ -44,13 +53,11 @@ public:
     void beginFile(const zvString& path);
     void setArrived(const zvString& path);
 
-    /// Who made the event's directory on the file server. `claimed` is noted before it is made: a process
-    /// that is killed then may have made it or not.
-    enum class RemoteDirectory { unknown, claimed, own };
-    RemoteDirectory remoteDirectory() const { return m_remoteDirectory; }
+    using RemoteDirectory = zvEventHistory::RemoteDirectory;
+    RemoteDirectory remoteDirectory() const { return m_history.remoteDirectory; }
     void setRemoteDirectory(RemoteDirectory state);
 
-    bool isPosted() const { return m_bPosted; }
+    bool isPosted() const { return m_history.isPosted; }
     void setPosted();
 
     /// Throws the zvStepFailure of a line that could not be written: what was done would be done again.
@@ -58,19 +65,16 @@ public:
 
 private:
     void read();
-    void understand(const std::string& line);
+    void addSecretDifferences(const std::vector<std::string>& given,
+                              std::vector<std::string>& differences) const;
     void append(const nlohmann::ordered_json& line, bool isDurable);
 
     std::filesystem::path m_file;
-    std::string m_strFault;
-    bool m_bTornEnd = false;
-    int m_attempt = 0;
-    bool m_bPosted = false;
-    RemoteDirectory m_remoteDirectory = RemoteDirectory::unknown;
+    zvProcess::FileLock m_lock;
+    zvEventHistory m_history;
     zvString m_strEventId;
-    Arguments m_arguments;
-    std::string m_strSending;                       // the stamp of the file that is being sent
-    std::map<std::string, std::string> m_arrivals;  // path to stamp
+    std::string m_strFault;
+    std::string m_strSending;  // the stamp of the file that is being sent
 };
 
 #endif

@@ -8,6 +8,7 @@
 #include "zvInterruption.h"
 #include "zvMappingStep.h"
 #include "zvPostStep.h"
+#include "zvProgramLog.h"
 #include "zvShadowDirectoryStep.h"
 #include "zvTransferStep.h"
 
@@ -37,9 +38,14 @@ constexpr zvEventRoad::Step zvEventRoad::steps[] = {
     {"post", zvExitCode::post, ::run<zvPostStep>},
 };
 
-void zvEventRoad::run() {
-    m_event.options = options;
+zvEventRoad::zvEventRoad(zvRoadSession& session, std::vector<std::string> arguments,
+                         const std::set<zvString>* secretNames)
+    : m_event(session) {
     m_event.commandLine = std::move(arguments);
+    m_event.secretNames = secretNames;
+}
+
+void zvEventRoad::run() {
     try {
         walk();
     } catch (const zvProgramFailure& failure) {
@@ -82,7 +88,30 @@ void zvEventRoad::end(const zvProgramFailure* failure) {
         recordOutcomes();
         m_event.record->endAttempt(failure);
     }
+    conclude(failure);
     summarize(failure == nullptr ? zvExitCode::success : failure->exitCode);
+}
+
+void zvEventRoad::conclude(const zvProgramFailure* failure) {
+    using Kind = zvEventOutcome::Kind;
+    m_outcome.kind = m_event.session.options.isDryRun ? Kind::tried : Kind::arrived;
+    if (failure != nullptr) {
+        m_outcome.setFailure(*failure);
+    }
+    if (m_event.arguments != nullptr) {
+        m_outcome.event = zvConsole::printable(m_event.argument("EventName"));
+        const zvString type = m_event.argument("LocalType");
+        m_outcome.object = zvConsole::printable(type.empty() ? m_event.argument("RemoteType") : type);
+    }
+    if (m_event.record != nullptr) {
+        m_outcome.eventId = zvConsole::printable(m_event.record->eventId());
+        m_outcome.directory = zvConsole::printablePath(m_event.directory());
+        const std::string object = m_event.record->object();
+        m_outcome.object = object.empty() ? m_outcome.object : object;
+    }
+    m_outcome.milliseconds = m_event.report.milliseconds();
+    zvProgramLog::write(failure == nullptr ? zvLogLevel::info : zvLogLevel::error, m_outcome.text(),
+                        "zvGateway.m/src/zvEventRoad", __LINE__);
 }
 
 void zvEventRoad::summarize(zvExitCode exitCode) {
@@ -95,12 +124,12 @@ void zvEventRoad::summarize(zvExitCode exitCode) {
         report.setFact("dataFile", "data file", zvConsole::printablePath(m_event.dataFile()));
         report.setFact("attachmentsFile", "attachments file",
                        zvConsole::printablePath(m_event.attachmentsFile()));
-        if (exitCode != zvExitCode::success || options.isDryRun) {
+        if (exitCode != zvExitCode::success || m_event.session.options.isDryRun) {
             report.setFact("", "to go on", "the same arguments and EventShadowDir=" + name);
         }
     }
     report.print();
-    if (options.asJson) {
+    if (m_event.session.options.asJson) {
         report.printJson(exitCode);
     }
 }

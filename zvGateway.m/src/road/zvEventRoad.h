@@ -5,19 +5,22 @@
 #include <string>
 #include <vector>
 
+#include "zvEventOutcome.h"
 #include "zvGatewayEvent.h"
-#include "zvRoadOptions.h"
 
 /// The road of one event through the gateway, step by step. Each step prints what it does; the first one that
 /// cannot do its job ends the road.
 class zvEventRoad {
 public:
-    /// The event's arguments, `key=value` each.
-    std::vector<std::string> arguments;
-    zvRoadOptions options;
+    /// `session` is used as long as the road lives; the arguments are `key=value` each. Of the session's
+    /// secrets those in `secretNames` become arguments, or all if that is null.
+    zvEventRoad(zvRoadSession& session, std::vector<std::string> arguments,
+                const std::set<zvString>* secretNames = nullptr);
 
     /// Throws, after the summary, the zvProgramFailure of a step that failed.
     void run();
+    /// What became of the event, once it was run.
+    const zvEventOutcome& outcome() const { return m_outcome; }
 
 private:
     struct Step;
@@ -27,9 +30,11 @@ private:
     void take(const Step& step);
     void recordOutcomes();
     void end(const zvProgramFailure* failure);
+    void conclude(const zvProgramFailure* failure);
     void summarize(zvExitCode exitCode);
 
     zvGatewayEvent m_event;
+    zvEventOutcome m_outcome;
     std::size_t m_recorded = 0;  // steps whose outcomes are in the record
 };
 

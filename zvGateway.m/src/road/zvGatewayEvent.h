@@ -2,15 +2,15 @@
 #define ZV_GATEWAY_EVENT_H
 
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
 #include "zvAttachmentList.h"
 #include "zvEventArguments.h"
 #include "zvEventRecord.h"
-#include "zvRoadOptions.h"
 #include "zvRoadReport.h"
-#include "zvSecretStore.h"
+#include "zvRoadSession.h"
 
 /// An event on its road: what its steps share.
 struct zvGatewayEvent {
@@ -18,10 +18,13 @@ struct zvGatewayEvent {
         void operator()(zvEventArguments* arguments) const { arguments->destroy(); }
     };
 
-    zvRoadOptions options;
+    explicit zvGatewayEvent(zvRoadSession& shared) : session(shared) {}
+
+    zvRoadSession& session;
     /// As given, `key=value` each.
     std::vector<std::string> commandLine;
-    zvSecretStore secrets;
+    /// The names of the session's secrets that become arguments of the event; null for all.
+    const std::set<zvString>* secretNames = nullptr;
     /// There from the first step on.
     std::unique_ptr<zvEventArguments, Destroy> arguments;
     /// There once the event has a directory.

@@ -16,6 +16,27 @@ zvString homePath() {
     return zvCommonUtils::getEnvironmentalVariable(zvCommonUtils::getGatewayHomeEnvVariable());
 }
 
+// A home without a log configuration runs without a log, and so does one whose log cannot be opened, unless
+// the log is required; one with an invalid configuration does not run.
+void checkLog(bool requiresLog) {
+    const zvString configuration = zvCommonUtils::getConfigurationFile("log4cxx.xml");
+    const zvString error = zvDirFileUtils::getAccessError(configuration, zvDirFileUtils::existence);
+    if (!error.empty()) {
+        if (requiresLog) {
+            throw failure(configuration, zvConsole::printable(error));
+        }
+        zvConsole::fact("log", "off: there is no " + zvConsole::printablePath(configuration));
+        return;
+    }
+    const zvLogger* const logger = zvLogger::getInstance();
+    if (logger == nullptr || !logger->isReady()) {
+        throw failure(configuration,
+                      requiresLog ? "the logging library refuses this configuration, or cannot open its log"
+                                  : "the logging library refuses this configuration");
+    }
+    zvConsole::fact("log", "by " + zvConsole::printablePath(configuration));
+}
+
 void checkLocalServer() {
     const zvString configuration = zvCommonUtils::getConfigurationFile("client-config.ini");
     const zvString url = zvGatewayHomeStep::localServerUrl();
@@ -37,31 +58,14 @@ zvString zvGatewayHomeStep::localServerUrl() {
     return url;
 }
 
-// A home without a log configuration runs without a log, and so does one whose log cannot be opened, unless
-// the log is required; one with an invalid configuration does not run.
-void zvGatewayHomeStep::checkLog() const {
-    const zvString configuration = zvCommonUtils::getConfigurationFile("log4cxx.xml");
-    const zvString error = zvDirFileUtils::getAccessError(configuration, zvDirFileUtils::existence);
-    if (!error.empty()) {
-        if (m_event.options.requiresLog) {
-            throw failure(configuration, zvConsole::printable(error));
-        }
-        zvConsole::fact("log", "off: there is no " + zvConsole::printablePath(configuration));
-        return;
-    }
-    const zvLogger* const logger = zvLogger::getInstance();
-    if (logger == nullptr || !logger->isReady()) {
-        throw failure(configuration,
-                      m_event.options.requiresLog
-                          ? "the logging library refuses this configuration, or cannot open its log"
-                          : "the logging library refuses this configuration");
-    }
-    zvConsole::fact("log", "by " + zvConsole::printablePath(configuration));
-}
-
 bool zvGatewayHomeStep::isHomeNamed() { return !homePath().empty(); }
 
 zvStepOutcome zvGatewayHomeStep::run() const {
+    requireUsable(m_event.session.options.requiresLog);
+    return zvStepOutcome::done(zvConsole::printablePath(homePath()));
+}
+
+void zvGatewayHomeStep::requireUsable(bool requiresLog) {
     const zvString home = homePath();
     if (home.empty()) {
         throw zvStepFailure{zvConsole::printable(zvCommonUtils::getGatewayHomeEnvVariable()),
@@ -72,7 +76,6 @@ zvStepOutcome zvGatewayHomeStep::run() const {
         throw failure(home, zvConsole::printable(error));
     }
     zvConsole::fact("folder", zvConsole::printablePath(home));
-    checkLog();
+    checkLog(requiresLog);
     checkLocalServer();
-    return zvStepOutcome::done(zvConsole::printablePath(home));
 }

@@ -16,11 +16,11 @@ public:
     static zvString localServerUrl();
 
     /// Throws the zvStepFailure of a home, or of a file in it, that cannot be used.
+    static void requireUsable(bool requiresLog);
+    /// The same.
     zvStepOutcome run() const;
 
 private:
-    void checkLog() const;
-
     const zvGatewayEvent& m_event;
 };
 

@@ -25,6 +25,21 @@ std::string namesOf(const zvCfgLcmState& state) {
     return zvConsole::printable(state.localName()) + " (" + zvConsole::printable(state.remoteName()) + ")";
 }
 
+// The type and the values of the key attributes, as people speak of an object.
+std::string nameOf(const zvObjectMapping& mapping, const zvString& type) {
+    const zvCfgObject& object = mapping.object();
+    std::string name = zvConsole::printable(type);
+    for (int i = 0; i < object.numAttributes(); ++i) {
+        const zvCfgAttribute& attribute = *object.getAttribute(i);
+        const zvString& from = mapping.sourceName(attribute);
+        const zvString* const value = attribute.isKeyAttribute() ? mapping.findValue(from) : nullptr;
+        if (value != nullptr) {
+            name.append(" ").append(zvConsole::printable(zvObjectAttribute::shownValue(from, *value)));
+        }
+    }
+    return name;
+}
+
 // What the configuration does not carry across, and the name that may have been meant.
 void showUnmapped(const zvObjectMapping& mapping) {
     if (mapping.unmapped().empty()) {
@@ -78,6 +93,7 @@ zvStepOutcome zvMappingStep::run() const {
     }
     const zvObjectMapping mapping = mapObject();
     show(mapping);
+    m_event.record->setObject(nameOf(mapping, isLocal() ? m_strLocalType : m_strRemoteType));
     const zvString file = m_event.dataFile();
     zvMappedObjectFile::write(file, mapping);
     zvConsole::fact("data file", zvConsole::printablePath(file));
@@ -105,7 +121,7 @@ zvObjectMapping zvMappingStep::mapObject() const {
 
 void zvMappingStep::checkValues(const zvObjectMapping& mapping) const {
     const std::vector<std::string> faults = zvValueCheck::faultsOf(mapping);
-    if (!faults.empty() && !m_event.options.isLenient) {
+    if (!faults.empty() && !m_event.session.options.isLenient) {
         throw zvStepFailure{zvConsole::counted(static_cast<std::ptrdiff_t>(faults.size()), "fault"),
                             zvConsole::joined(faults, "; ")};
     }

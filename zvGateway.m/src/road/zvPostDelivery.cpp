@@ -10,15 +10,15 @@
 #include "zvConsole.h"
 #include "zvInterruption.h"
 #include "zvLogLevel.h"
-#include "zvLogger.h"
 #include "zvPostReason.h"
 #include "zvProcess.h"
+#include "zvProgramLog.h"
 #include "zvServerAnswer.h"
 
 namespace {
 
 void log(zvLogLevel level, const std::string& text, int line) {
-    zvLogger::getInstance()->log(level, text.c_str(), "zvGateway.m/src/zvPostDelivery", line);
+    zvProgramLog::write(level, text, "zvGateway.m/src/zvPostDelivery", line);
 }
 
 bool isDelivered(const zvRequestOutcome& outcome) {

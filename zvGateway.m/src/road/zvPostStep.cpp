@@ -11,7 +11,7 @@ zvStepOutcome zvPostStep::run() {
         return zvStepOutcome::leftOut("posted before");
     }
     const std::string arguments = zvConsole::counted(m_event.arguments->numEventArguments(), "argument");
-    if (m_event.options.isDryRun) {
+    if (m_event.session.options.isDryRun) {
         return zvStepOutcome::leftOut("dry run: " + arguments);
     }
     const std::string delivered = zvPostDelivery(m_event, url).run();

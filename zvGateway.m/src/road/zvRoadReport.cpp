@@ -59,7 +59,7 @@ void zvRoadReport::take(const char* name, zvExitCode exitCode, const std::functi
         const zvStepOutcome outcome = step();
         m_steps.push_back({name, textOf(outcome.kind), outcome.detail, now() - start});
     } catch (const zvStepFailure& failure) {
-        fail({exitCode, name, failure.subject, failure.reason}, start);
+        fail({exitCode, name, failure.subject, failure.reason, failure.isHeldByAnother}, start);
     } catch (const zvInterruption& interruption) {
         constexpr int signalBase = 128;  // as shells count
         fail({static_cast<zvExitCode>(signalBase + interruption.signal), name, "interrupted",
@@ -84,6 +84,8 @@ void zvRoadReport::setFact(const char* key, const char* label, std::string value
     m_facts.push_back({key, label, std::move(value)});
 }
 
+double zvRoadReport::milliseconds() const { return now() - m_start; }
+
 void zvRoadReport::print() const {
     constexpr int outcomeWidth = 9;
     zvConsole::step("summary");
@@ -91,7 +93,7 @@ void zvRoadReport::print() const {
         zvConsole::fact(
             step.name, column(step.outcome, outcomeWidth) + duration(step.milliseconds) + "  " + step.detail);
     }
-    zvConsole::fact("total", column("", outcomeWidth) + duration(now() - m_start));
+    zvConsole::fact("total", column("", outcomeWidth) + duration(milliseconds()));
     for (const Fact& fact : m_facts) {
         if (!fact.label.empty()) {
             zvConsole::fact(fact.label, fact.value);
@@ -120,7 +122,7 @@ void zvRoadReport::printJson(zvExitCode exitCode) const {
                                  {"bytes", file.bytes},
                                  {"milliseconds", file.milliseconds}});
     }
-    json["milliseconds"] = toMicroseconds(now() - m_start);
+    json["milliseconds"] = toMicroseconds(milliseconds());
     json["exitCode"] = static_cast<int>(exitCode);
     if (m_failure) {
         json["failure"] = toJson(*m_failure);

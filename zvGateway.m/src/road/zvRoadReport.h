@@ -43,6 +43,9 @@ public:
     void addFile(File file) { m_files.push_back(std::move(file)); }
     const std::vector<File>& files() const { return m_files; }
 
+    /// Since the report was made.
+    double milliseconds() const;
+
     /// To the console; nothing when not even a first step was taken.
     void print() const;
     /// To standard output, as one JSON object and a line feed.

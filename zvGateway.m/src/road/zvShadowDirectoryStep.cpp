@@ -32,7 +32,7 @@ std::string refusal(const zvResult& result) {
 }  // namespace
 
 zvStepOutcome zvShadowDirectoryStep::run() {
-    const zvEventRecord::Arguments given = zvEventRecord::argumentsOf(*m_event.arguments);
+    const zvEventRecord::Given given = zvEventRecord::givenBy(*m_event.arguments);
     const zvString root = m_event.argument("RootShadowDir");
     const zvString error = zvDirFileUtils::getAccessError(root, zvDirFileUtils::readAndWrite);
     if (!error.empty()) {
@@ -54,7 +54,7 @@ zvStepOutcome zvShadowDirectoryStep::run() {
 }
 
 // The event gets a record only when it is the one whose record is there: another one's stays as it is.
-void zvShadowDirectoryStep::beginAttempt(const zvEventRecord::Arguments& given) {
+void zvShadowDirectoryStep::beginAttempt(const zvEventRecord::Given& given) {
     const zvString file = m_event.directory() + "\\" + m_event.argument("EventShadowDir") + "_record.jsonl";
     auto record = std::make_unique<zvEventRecord>(file);
     const zvString givenId = m_event.argument("EventId");
@@ -70,7 +70,7 @@ void zvShadowDirectoryStep::beginAttempt(const zvEventRecord::Arguments& given) 
                         : !givenId.empty()         ? givenId
                                                    : zvString(makeEventId().c_str());
     m_event.arguments->setEventArgument("EventId", id);
-    record->beginAttempt(id, given);
+    record->beginAttempt(id, given, m_event.session.options.isDryRun);
     m_event.record = std::move(record);
 }
 

@@ -16,7 +16,7 @@ public:
 private:
     void makeDirectory();
     void makeDirectoryAfter2038(const zvString& root);
-    void beginAttempt(const zvEventRecord::Arguments& given);
+    void beginAttempt(const zvEventRecord::Given& given);
     void resumeIn(const zvString& name);
     void requireFiles(const std::string& reason) const;
 

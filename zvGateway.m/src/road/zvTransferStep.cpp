@@ -95,7 +95,7 @@ zvStepOutcome zvTransferStep::run() {
     if (m_event.record->isPosted()) {
         return zvStepOutcome::leftOut("the event was posted before");
     }
-    if (m_event.options.isDryRun) {
+    if (m_event.session.options.isDryRun) {
         return showFiles();
     }
     if (isDone()) {
@@ -200,7 +200,7 @@ void zvTransferStep::makeDirectory() {
 
 zvStepOutcome zvTransferStep::send(const zvString& configuration) {
     offerClient();
-    m_event.secrets.forEach(
+    m_event.session.secrets().forEach(
         [](const zvString& name, const zvString& value) { zvFSClient::setSecret(name, value); });
     m_signals.emplace();
     const Connection connection(configuration, *this);

@@ -1,0 +1,25 @@
+#ifndef ZV_EVENT_RUNNER_H
+#define ZV_EVENT_RUNNER_H
+
+#include <set>
+#include <string>
+#include <vector>
+
+#include "zvEventOutcome.h"
+#include "zvString.h"
+
+/// Takes events along the road, one after the other in one process. What they share is made once: the Java
+/// machine, the configuration, the secrets.
+class zvEventRunner {
+public:
+    virtual ~zvEventRunner() = default;
+
+    /// Throws the zvProgramFailure of what would stop every event: secrets, or a gateway home, that cannot be
+    /// used.
+    virtual void prepare() = 0;
+    /// Takes the event with these arguments, `key=value` each in the locale's encoding. Of the secrets those
+    /// in `secretNames` become arguments of it, or all if that is null.
+    virtual zvEventOutcome run(std::vector<std::string> arguments, const std::set<zvString>* secretNames) = 0;
+};
+
+#endif

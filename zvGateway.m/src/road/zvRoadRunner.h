@@ -1,0 +1,19 @@
+#ifndef ZV_ROAD_RUNNER_H
+#define ZV_ROAD_RUNNER_H
+
+#include "zvEventRunner.h"
+#include "zvRoadSession.h"
+
+/// Runs events on the road of this program.
+class zvRoadRunner : public zvEventRunner {
+public:
+    explicit zvRoadRunner(zvRoadSession& session) : m_session(session) {}
+
+    void prepare() override;
+    zvEventOutcome run(std::vector<std::string> arguments, const std::set<zvString>* secretNames) override;
+
+private:
+    zvRoadSession& m_session;
+};
+
+#endif

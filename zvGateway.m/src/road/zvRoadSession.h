@@ -1,0 +1,32 @@
+#ifndef ZV_ROAD_SESSION_H
+#define ZV_ROAD_SESSION_H
+
+#include <string>
+
+#include "zvRoadOptions.h"
+#include "zvSecretStore.h"
+
+/// What the events that one process takes share.
+class zvRoadSession {
+public:
+    zvRoadOptions options;
+
+    /// The secrets of the sources that the options and the environment name, which are read by the first
+    /// call. Throws the zvStepFailure of a source that cannot be used.
+    const zvSecretStore& secrets();
+
+    /// Fills the configuration manager from the file, unless it has been filled from it and the file has not
+    /// changed since. Throws a zvStepFailure.
+    void loadConfiguration(const zvString& file);
+
+private:
+    void readSecrets();
+
+    zvSecretStore m_secrets;
+    bool m_bSecretsRead = false;
+    // Of the configuration that the manager has; empty for none.
+    zvString m_strConfigurationFile;
+    std::string m_strConfigurationStamp;
+};
+
+#endif
