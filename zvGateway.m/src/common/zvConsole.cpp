@@ -8,12 +8,14 @@
 #include "zvDirFileUtils.h"
 #include "zvFailure.h"
 #include "zvProcess.h"
+#include "zvUtf8.h"
 
 namespace {
 
 std::FILE* out = stdout;      // of what a person is told
 std::FILE* answers = stdout;  // of print()
 bool answered = false;
+bool mute = false;
 bool quiet = false;
 const char* heading = nullptr;  // still to be printed
 
@@ -49,11 +51,22 @@ std::string printable(const zvString& text) {
     return narrow;
 }
 
+std::string printableUtf8(const std::string& text) {
+    zvString decoded;
+    return zvUtf8::decode(text, decoded) ? printable(decoded) : "?";
+}
+
 std::string printablePath(const zvString& path) { return printable(zvDirFileUtils::nativePath(path)); }
 
 void step(const char* name) { heading = name; }
 
-void setQuiet() { quiet = true; }
+void muteSteps() { mute = true; }
+
+void setQuiet() { mute = quiet = true; }
+
+bool isQuiet() { return quiet; }
+
+void note(const std::string& text) { outcome(text, false); }
 
 void outcome(const std::string& text, bool isFailure) {
     if (!quiet || isFailure) {
@@ -62,7 +75,7 @@ void outcome(const std::string& text, bool isFailure) {
 }
 
 void fact(const std::string& name, const std::string& value) {
-    if (quiet) {
+    if (mute) {
         return;
     }
     if (heading != nullptr) {
@@ -94,6 +107,10 @@ std::string rate(double bytes, double milliseconds) {
 
 std::string counted(std::ptrdiff_t count, const char* noun) {
     return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
+}
+
+std::string counted(std::ptrdiff_t count, const char* singular, const char* plural) {
+    return std::to_string(count) + " " + (count == 1 ? singular : plural);
 }
 
 std::string joined(const std::vector<std::string>& texts, const char* separator) {

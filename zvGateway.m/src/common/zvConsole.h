@@ -23,6 +23,8 @@ bool flush();
 
 /// The text in the process's locale, its control characters, which a terminal would obey, replaced by "?".
 std::string printable(const zvString& text);
+/// The same for a text that is UTF-8, whatever the locale.
+std::string printableUtf8(const std::string& text);
 /// The same for a path, with this system's delimiters.
 std::string printablePath(const zvString& path);
 
@@ -31,8 +33,13 @@ void step(const char* name);
 /// One thing that the present step has to tell.
 void fact(const std::string& name, const std::string& value);
 
-/// From now on step() and fact() print nothing.
+/// From now on step() and fact() print nothing: of many events each is told in one line.
+void muteSteps();
+/// The same, and nothing but failures is told.
 void setQuiet();
+bool isQuiet();
+/// A line of standard error, beside the answer that another program may read; nothing when quiet.
+void note(const std::string& text);
 /// What became of an event, as a line of standard error; when quiet, only if it `isFailure`.
 void outcome(const std::string& text, bool isFailure);
 
@@ -41,6 +48,8 @@ std::string size(double bytes);
 std::string rate(double bytes, double milliseconds);
 /// A number of things, as in "1 file" and "2 files".
 std::string counted(std::ptrdiff_t count, const char* noun);
+/// The same with a plural of its own.
+std::string counted(std::ptrdiff_t count, const char* singular, const char* plural);
 /// The texts in their order, with the separator between them.
 std::string joined(const std::vector<std::string>& texts, const char* separator);
 

@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "zvProcess.h"
+#include "zvSecrets.h"
 
 using nlohmann::json;
 
@@ -15,6 +16,9 @@ constexpr std::size_t mostBytes = 100'000'000;
 
 // What the lines of which a record has the most begin with, as the program writes them.
 constexpr std::string_view detailPrefixes[] = {"{\"step\":", "{\"arrived\":", "{\"remoteDirectory\":"};
+
+// An event keeps its identity when its root moves, and its directory is where the record was found.
+constexpr const char* placeArguments[] = {"RootShadowDir", "EventShadowDir", "EventId"};
 
 bool isDetail(std::string_view line) {
     return std::any_of(std::begin(detailPrefixes), std::end(detailPrefixes),
@@ -68,6 +72,15 @@ void takeRemoteDirectory(const json& line, zvEventHistory& history) {
 }
 
 }  // namespace
+
+bool zvEventHistory::isPlace(const zvString& key) {
+    return std::any_of(std::begin(placeArguments), std::end(placeArguments),
+                       [&key](const char* place) { return key == place; });
+}
+
+bool zvEventHistory::isRecorded(const zvString& key, const zvString& value) {
+    return !isPlace(key) && zvSecrets::keyIn(key) == nullptr && zvSecrets::keyIn(value) == nullptr;
+}
 
 std::string zvEventHistory::read(const std::filesystem::path& file, Detail detail, std::error_code& error) {
     std::string content;

@@ -8,6 +8,8 @@
 #include <system_error>
 #include <vector>
 
+#include "zvString.h"
+
 /// What the record of an event says: who the event is, what has been done with it, and what became of its
 /// last attempt. Texts are UTF-8; times are UTC, as in "2026-11-25T10:15:00.123Z".
 struct zvEventHistory {
@@ -61,6 +63,11 @@ struct zvEventHistory {
 
     /// Whether the file ends with a line that a crash has cut off, which is ignored.
     bool hasTornEnd = false;
+
+    /// Whether a record has this argument: it is no secret, and says more than where the event is.
+    static bool isRecorded(const zvString& key, const zvString& value);
+    /// Whether this argument only says where the event is, or who: the record has it in another way.
+    static bool isPlace(const zvString& key);
 
     /// Reads the record. Returns why it cannot be used, in printable words; empty if it can. A file that is
     /// not there is reported in `error` alone.

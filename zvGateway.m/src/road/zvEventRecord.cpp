@@ -18,18 +18,6 @@ using nlohmann::ordered_json;
 
 namespace {
 
-// An event keeps its identity when its root moves, and its directory is where the record was found.
-constexpr const char* placeArguments[] = {"RootShadowDir", "EventShadowDir", "EventId"};
-
-bool isPlace(const zvString& key) {
-    for (const char* const place : placeArguments) {
-        if (key == place) {
-            return true;
-        }
-    }
-    return false;
-}
-
 // How a file is named in the record, however its path was given.
 std::string nameOf(const zvString& path) {
     std::error_code error;
@@ -57,12 +45,9 @@ zvStepFailure failure(const fs::path& file, const std::string& reason) {
 zvEventRecord::Given zvEventRecord::givenBy(const zvEventArguments& arguments) {
     Given given;
     arguments.forEach([&given](const zvString& key, const zvString& value) {
-        if (isPlace(key)) {
-            return;
-        }
-        if (zvSecrets::keyIn(key) == nullptr && zvSecrets::keyIn(value) == nullptr) {
+        if (zvEventHistory::isRecorded(key, value)) {
             given.arguments.emplace(zvUtf8::encode(key), zvUtf8::encode(value));
-        } else {
+        } else if (!zvEventHistory::isPlace(key)) {
             given.secrets.push_back(zvUtf8::encode(zvSecrets::maskedKey(key)));
         }
     });
@@ -126,7 +111,8 @@ void zvEventRecord::addSecretDifferences(const std::vector<std::string>& given,
     const std::set<std::string> now(given.begin(), given.end());
     for (const std::string& name : before) {
         if (now.count(name) == 0) {
-            differences.push_back("the secret " + printable(name) + " was given and is absent");
+            differences.push_back("the secret " + printable(name) +
+                                  " was given and is absent: give it again, as with --secrets");
         }
     }
     for (const std::string& name : now) {

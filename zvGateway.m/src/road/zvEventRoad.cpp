@@ -9,6 +9,7 @@
 #include "zvMappingStep.h"
 #include "zvPostStep.h"
 #include "zvProgramLog.h"
+#include "zvSecrets.h"
 #include "zvShadowDirectoryStep.h"
 #include "zvTransferStep.h"
 
@@ -94,14 +95,18 @@ void zvEventRoad::end(const zvProgramFailure* failure) {
 
 void zvEventRoad::conclude(const zvProgramFailure* failure) {
     using Kind = zvEventOutcome::Kind;
-    m_outcome.kind = m_event.session.options.isDryRun ? Kind::tried : Kind::arrived;
+    m_outcome.kind = m_event.session.options.isDryRun ? Kind::tried
+                     : m_event.wasPostedBefore        ? Kind::arrivedBefore
+                                                      : Kind::arrived;
     if (failure != nullptr) {
         m_outcome.setFailure(*failure);
     }
     if (m_event.arguments != nullptr) {
-        m_outcome.event = zvConsole::printable(m_event.argument("EventName"));
-        const zvString type = m_event.argument("LocalType");
-        m_outcome.object = zvConsole::printable(type.empty() ? m_event.argument("RemoteType") : type);
+        const auto shown = [this](const char* key) {
+            return zvConsole::printable(zvSecrets::maskedValue(key, m_event.argument(key)));
+        };
+        m_outcome.event = shown("EventName");
+        m_outcome.object = shown(m_event.argument("LocalType").empty() ? "RemoteType" : "LocalType");
     }
     if (m_event.record != nullptr) {
         m_outcome.eventId = zvConsole::printable(m_event.record->eventId());
@@ -110,8 +115,10 @@ void zvEventRoad::conclude(const zvProgramFailure* failure) {
         m_outcome.object = object.empty() ? m_outcome.object : object;
     }
     m_outcome.milliseconds = m_event.report.milliseconds();
-    zvProgramLog::write(failure == nullptr ? zvLogLevel::info : zvLogLevel::error, m_outcome.text(),
-                        "zvGateway.m/src/zvEventRoad", __LINE__);
+    if (m_event.arguments != nullptr) {
+        zvProgramLog::write(failure == nullptr ? zvLogLevel::info : zvLogLevel::error, m_outcome.text(),
+                            "zvGateway.m/src/zvEventRoad", __LINE__);
+    }
 }
 
 void zvEventRoad::summarize(zvExitCode exitCode) {

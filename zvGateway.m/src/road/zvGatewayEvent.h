@@ -29,6 +29,7 @@ struct zvGatewayEvent {
     std::unique_ptr<zvEventArguments, Destroy> arguments;
     /// There once the event has a directory.
     std::unique_ptr<zvEventRecord> record;
+    bool wasPostedBefore = false;
     zvAttachmentList attachments;
     zvRoadReport report;
 

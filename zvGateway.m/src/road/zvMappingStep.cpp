@@ -25,21 +25,6 @@ std::string namesOf(const zvCfgLcmState& state) {
     return zvConsole::printable(state.localName()) + " (" + zvConsole::printable(state.remoteName()) + ")";
 }
 
-// The type and the values of the key attributes, as people speak of an object.
-std::string nameOf(const zvObjectMapping& mapping, const zvString& type) {
-    const zvCfgObject& object = mapping.object();
-    std::string name = zvConsole::printable(type);
-    for (int i = 0; i < object.numAttributes(); ++i) {
-        const zvCfgAttribute& attribute = *object.getAttribute(i);
-        const zvString& from = mapping.sourceName(attribute);
-        const zvString* const value = attribute.isKeyAttribute() ? mapping.findValue(from) : nullptr;
-        if (value != nullptr) {
-            name.append(" ").append(zvConsole::printable(zvObjectAttribute::shownValue(from, *value)));
-        }
-    }
-    return name;
-}
-
 // What the configuration does not carry across, and the name that may have been meant.
 void showUnmapped(const zvObjectMapping& mapping) {
     if (mapping.unmapped().empty()) {
@@ -93,7 +78,6 @@ zvStepOutcome zvMappingStep::run() const {
     }
     const zvObjectMapping mapping = mapObject();
     show(mapping);
-    m_event.record->setObject(nameOf(mapping, isLocal() ? m_strLocalType : m_strRemoteType));
     const zvString file = m_event.dataFile();
     zvMappedObjectFile::write(file, mapping);
     zvConsole::fact("data file", zvConsole::printablePath(file));
@@ -105,9 +89,11 @@ zvObjectMapping zvMappingStep::mapObject() const {
     zvObjectMapping mapping(
         isLocal() ? zvObjectMapping::Direction::localToRemote : zvObjectMapping::Direction::remoteToLocal,
         attributeValues());
+    const zvCfgObjectList& found = candidates();
+    m_event.record->setObject(describeObject(mapping, *found.get(0)));
     std::string reason;
     try {
-        reason = mapping.map(&candidates()) ? "" : "no mapping rule of this type holds for the attributes";
+        reason = mapping.map(&found) ? "" : "no mapping rule of this type holds for the attributes";
     } catch (const zvException& exception) {
         reason = zvConsole::printable(exception.getResult().getMessage());
     }
@@ -117,6 +103,21 @@ zvObjectMapping zvMappingStep::mapObject() const {
         throw zvStepFailure{zvConsole::printable(isLocal() ? m_strLocalType : m_strRemoteType), reason};
     }
     return mapping;
+}
+
+// The type and the values of the key attributes, as people speak of an object; objects of one type have the
+// same.
+std::string zvMappingStep::describeObject(const zvObjectMapping& mapping, const zvCfgObject& object) const {
+    std::string text = zvConsole::printable(isLocal() ? m_strLocalType : m_strRemoteType);
+    for (int i = 0; i < object.numAttributes(); ++i) {
+        const zvCfgAttribute& attribute = *object.getAttribute(i);
+        const zvString& name = mapping.sourceName(attribute);
+        const zvString* const value = attribute.isKeyAttribute() ? mapping.findValue(name) : nullptr;
+        if (value != nullptr && !value->empty()) {
+            text.append(" ").append(zvConsole::printable(zvObjectAttribute::shownValue(name, *value)));
+        }
+    }
+    return text;
 }
 
 void zvMappingStep::checkValues(const zvObjectMapping& mapping) const {

@@ -23,6 +23,7 @@ private:
     bool isLocal() const { return !m_strLocalType.empty(); }
     const zvCfgObjectList& candidates() const;
     zvObjectMapping mapObject() const;
+    std::string describeObject(const zvObjectMapping& mapping, const zvCfgObject& object) const;
     void checkValues(const zvObjectMapping& mapping) const;
     zvObjectMapping::Values attributeValues() const;
     void showTransition(const zvCfgObject& object) const;

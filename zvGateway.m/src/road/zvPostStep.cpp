@@ -8,6 +8,7 @@ zvStepOutcome zvPostStep::run() {
     const zvString url = zvGatewayHomeStep::localServerUrl();
     zvConsole::fact("to", zvConsole::printable(url));
     if (m_event.record->isPosted()) {
+        m_event.wasPostedBefore = true;
         return zvStepOutcome::leftOut("posted before");
     }
     const std::string arguments = zvConsole::counted(m_event.arguments->numEventArguments(), "argument");

@@ -1,0 +1,53 @@
+#ifndef ZV_EVENT_TALLY_H
+#define ZV_EVENT_TALLY_H
+
+#include <chrono>
+#include <string>
+
+#include "zvEventOutcome.h"
+
+/// Counts what becomes of many events, and tells it: a line for each on standard error, or an object on
+/// standard output, and how far the work is; on a terminal in a status line, otherwise every ten seconds.
+class zvEventTally {
+public:
+    /// `verb` is what is done with the events, as in "batch"; `tellsArrived` whether those that arrived get a
+    /// line, too.
+    zvEventTally(std::string verb, bool asJson, bool tellsArrived);
+    zvEventTally(const zvEventTally&) = delete;
+    zvEventTally& operator=(const zvEventTally&) = delete;
+    ~zvEventTally();
+
+    /// `line` is the input's line that has the event; 0 for none. `share` is how much of the work is done,
+    /// from 0 to 1; less than 0 when nobody knows.
+    void add(const zvEventOutcome& outcome, long line, double share);
+    /// A line beside the events' own.
+    void note(const std::string& text);
+    /// The line at the end.
+    void finish();
+
+    bool hasAllArrived() const { return m_stopped + m_held == 0; }
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    void count(const zvEventOutcome& outcome);
+    void tellOutcome(const zvEventOutcome& outcome, long line);
+    void tellProgress(double share);
+    std::string counts() const;
+    std::string progress(double share) const;
+    void clearStatus();
+
+    std::string m_strVerb;
+    bool m_bAsJson;
+    bool m_bTellsArrived;
+    long m_arrived = 0;
+    long m_before = 0;
+    long m_tried = 0;
+    long m_stopped = 0;
+    long m_held = 0;
+    Clock::time_point m_start = Clock::now();
+    Clock::time_point m_lastTold = m_start;
+    std::size_t m_statusLength = 0;
+};
+
+#endif
