@@ -228,6 +228,8 @@ void declareList(CLI::App& program, zvListCommand& command) {
         "Only events whose last attempt began since then: 90s, 15m, 12h, 30d, 2w, or a date or time "
         "as in 2026-11-25 and 2026-11-25T18:00");
     list.add_flag("--json", command.asJson, "One JSON object a line");
+    list.add_option("--html", command.page,
+                    "Writes a page with a search field and each event's steps instead");
     list.footer(listFooter);
 }
 

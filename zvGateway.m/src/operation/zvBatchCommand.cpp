@@ -22,9 +22,9 @@ namespace {
 
 std::string printable(const std::string& text) { return zvConsole::printable(text.c_str()); }
 
-zvEventOutcome refused(const std::string& subject, const std::string& reason) {
+zvEventOutcome refused(const std::string& reason) {
     zvEventOutcome outcome;
-    outcome.setFailure({zvExitCode::usage, "input", subject, reason});
+    outcome.setFailure({zvExitCode::usage, "input", "", reason});
     return outcome;
 }
 
@@ -98,28 +98,27 @@ void zvBatchCommand::takeAll(std::istream& stream, double size, zvEventRunner& r
 
 zvEventOutcome zvBatchCommand::take(const zvBatchEntry& entry, zvEventRunner& runner,
                                     zvEventTally& tally) const {
-    const std::string subject = "line " + std::to_string(entry.line);
     if (!entry.fault.empty()) {
-        return refused(subject, entry.fault);
+        return refused(entry.fault);
     }
     if (!key.empty() && entry.find(key) == nullptr) {
-        return refused(subject, "it has no \"" + printable(key) + "\", which identifies it");
+        return refused("it has no \"" + printable(key) + "\", which identifies it");
     }
     if (entry.find("EventShadowDir") != nullptr) {
-        return refused(subject, "\"EventShadowDir\" is made from the identity of the entry");
+        return refused("\"EventShadowDir\" is made from the identity of the entry");
     }
     zvArgumentTexts texts;
     for (const auto& [name, value] : entry.arguments) {
         const std::string fault = texts.add(name, value);
         if (!fault.empty()) {
-            return refused(subject, fault);
+            return refused(fault);
         }
     }
     const std::string* const own = entry.find("RootShadowDir");
     const std::string root =
         own == nullptr ? commonValue("RootShadowDir") : zvCharString(toText(*own)).data();
     if (root.empty()) {
-        return refused(subject, "\"RootShadowDir\" is missing");
+        return refused("\"RootShadowDir\" is missing");
     }
     std::vector<std::string> arguments = common;
     for (std::string& text : texts.take()) {

@@ -6,6 +6,8 @@
 #include <numeric>
 
 #include "zvConsole.h"
+#include "zvEventListPage.h"
+#include "zvReplacedFile.h"
 #include "zvTimeSpan.h"
 #include "zvUtcTime.h"
 
@@ -60,6 +62,10 @@ zvExitCode zvListCommand::run() {
                                        " is neither a time like 12h or 30d nor a date like 2026-11-25"};
         }
         m_since = *instant;
+    }
+    if (!page.empty()) {
+        writePage();
+        return zvExitCode::success;
     }
     if (!asJson) {
         printRow({"DIRECTORY", "ID", "EVENT", "OBJECT", "STATE", "AGE", "TRIES", "REASON"});
@@ -125,4 +131,16 @@ void zvListCommand::printTotal() const {
         }
     }
     zvConsole::note(text);
+}
+
+void zvListCommand::writePage() {
+    zvEventListPage events(m_now);
+    zvFoundEvent::forEachIn(root, zvEventHistory::Detail::all, [&](const zvFoundEvent& event) {
+        if (isWanted(event)) {
+            ++m_counts[static_cast<std::size_t>(event.state)];
+            events.add(event);
+        }
+    });
+    zvReplacedFile::write(page, events.html(root));
+    printTotal();
 }

@@ -19,6 +19,8 @@ public:
     /// As zvTimeSpan::parseInstant() takes it: events whose last attempt began before are left out.
     std::string since;
     bool asJson = false;
+    /// The page to be written instead; empty for none.
+    std::string page;
 
     zvExitCode run();
 
@@ -27,6 +29,7 @@ private:
     void print(const zvFoundEvent& event) const;
     void printJson(const zvFoundEvent& event) const;
     void printTotal() const;
+    void writePage();
 
     std::int64_t m_now = 0;
     std::int64_t m_since = 0;

@@ -133,5 +133,12 @@ zvEventOutcome zvResumeCommand::outcomeOf(const zvFoundEvent& event, zvEventRunn
     arguments.push_back("RootShadowDir=" + place);
     arguments.push_back("EventShadowDir=" + event.directory.filename().string());
     const std::set<zvString> secrets = toNames(history.secrets);
-    return runner.run(std::move(arguments), history.knowsSecrets ? &secrets : nullptr);
+    zvEventOutcome outcome = runner.run(std::move(arguments), history.knowsSecrets ? &secrets : nullptr);
+    if (outcome.eventId.empty()) {
+        // It stopped before it was known again.
+        const zvEventOutcome before = event.outcome();
+        outcome.eventId = before.eventId;
+        outcome.directory = before.directory;
+    }
+    return outcome;
 }
