@@ -134,7 +134,8 @@ std::string row(std::initializer_list<std::string> cells) {
         } else {
             // The line end parts the cells for the search.
             const bool isName = &cell == cells.begin();
-            result += empty + (isName ? "<th scope=\"row\">" + cell + "\n</th>" : "<td>" + cell + "\n</td>");
+            result += empty;
+            result += isName ? "<th scope=\"row\">" + cell + "\n</th>" : "<td>" + cell + "\n</td>";
             empty.clear();
         }
     }
