@@ -28,6 +28,9 @@ public:
     /// The condition under which the mapping applies; null if there is none.
     zvCndCondition getMappingRule() const { return m_mappingRule; }
     void setMappingRule(const zvCndCondition& rule) { m_mappingRule = rule; }
+    /// The rule's text in the file that it was read from, blanks included; empty if it was not read from one.
+    zvString getMappingRuleText() const { return m_strMappingRuleText; }
+    void setMappingRuleText(zvString text) { m_strMappingRuleText.swap(text); }
 
     /// Where the element begins in the file that it was read from; unknown if it was read without a sink for
     /// findings.
@@ -76,6 +79,7 @@ private:
     std::vector<zvCfgAttribute*> m_defaultAttributes;
     zvCfgOwner<zvCfgAttribute> m_attributes;
     zvCndCondition m_mappingRule;
+    zvString m_strMappingRuleText;
     zvTextPosition m_position;
 };
 

@@ -212,6 +212,7 @@ private:
         try {
             const zvCndConditionReader::Reading reading = zvCndConditionReader::read(rule);
             object.setMappingRule(reading.condition);
+            object.setMappingRuleText(rule);
             if (reading.end < rule.size()) {
                 m_findings.warning(zvFindingKind::ignoredText, element, object, zvString(),
                                    "the mapping rule is complete before its character ", reading.end + 1,

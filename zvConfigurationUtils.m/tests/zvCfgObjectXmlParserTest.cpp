@@ -98,6 +98,7 @@ TEST_F(zvCfgObjectXmlParserTest, AttributesComeBeforeRulesAndRulesBeforeExtensio
         }
     }
     EXPECT_EQ(found, expected);
+    EXPECT_EQ(manager().getObjectAt(0)->getMappingRuleText(), " {b} <= '2'");
     EXPECT_EQ(zvCndParsingUtils::createConditionString(manager().getObjectAt(0)->getMappingRule()),
               "{b} <= '2'")
         << "the last rule with a text counts";

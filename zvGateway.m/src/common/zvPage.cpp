@@ -127,11 +127,19 @@ std::string openTable(const char* cssClass, const zvString& label,
 
 std::string row(std::initializer_list<std::string> cells) {
     std::string result = "<tr data-row>";
+    std::string empty;
     for (const std::string& cell : cells) {
-        const bool isName = &cell == cells.begin() && !cell.empty();
-        result += isName ? "<th scope=\"row\">" + cell + "</th>" : "<td>" + cell + "</td>";
+        if (cell.empty()) {
+            empty += "<td></td>";
+        } else {
+            // The line end parts the cells for the search.
+            const bool isName = &cell == cells.begin();
+            result += empty;
+            result += isName ? "<th scope=\"row\">" + cell + "\n</th>" : "<td>" + cell + "\n</td>";
+            empty.clear();
+        }
     }
-    return result + "</tr>\n";
+    return result + "</tr>\n";  // empty cells at its end would only take time
 }
 
 std::string closeTable() { return "</tbody></table>\n"; }

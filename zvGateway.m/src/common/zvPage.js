@@ -7,8 +7,7 @@ const found = document.getElementById('found');
 const nothing = document.getElementById('nothing');
 const sections = [...document.querySelectorAll('main > section')];
 
-// The texts of an element's children are apart for a reader.
-const textOf = element => [...element.children].map(child => child.textContent).join(' ').toLowerCase();
+const textOf = element => element.textContent.toLowerCase();
 
 const groups = [...document.querySelectorAll('[data-group]')].map(element => {
   const head = textOf(element.querySelector('[data-head]'));
@@ -77,6 +76,8 @@ function followAddress() {
   if (target && target.closest('[hidden]')) {
     clear();
     target.scrollIntoView();
+    // What has come back takes its real height only now.
+    requestAnimationFrame(() => target.scrollIntoView());
   }
 }
 

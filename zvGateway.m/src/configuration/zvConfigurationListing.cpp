@@ -36,9 +36,12 @@ void printAttribute(const zvCfgAttribute& attribute) {
 void printObject(const zvCfgObject& object) {
     std::printf("  %s  (%s)\n", zvConfigurationNames::object(object).c_str(),
                 printable(object.getOotbTypeStr()).c_str());
-    const std::string rule = printable(zvConfigurationNames::rule(object));
-    if (!rule.empty()) {
-        std::printf("    when %s\n", rule.c_str());
+    const zvConfigurationNames::Rule rule = zvConfigurationNames::rule(object);
+    if (!rule.written.empty()) {
+        std::printf("    when %s\n", printable(rule.written).c_str());
+    }
+    if (!rule.read.empty()) {
+        std::printf("    read as %s\n", printable(rule.read).c_str());
     }
     for (int i = 0; i < object.numAttributes(); ++i) {
         printAttribute(*object.getAttribute(i));

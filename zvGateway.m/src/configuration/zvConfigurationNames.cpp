@@ -6,6 +6,15 @@
 #include "zvConsole.h"
 #include "zvDataTypeWords.h"
 
+namespace {
+
+zvString withoutBlanks(zvString text) {
+    text.replace(" ", "");
+    return text;
+}
+
+}  // namespace
+
 namespace zvConfigurationNames {
 
 std::string quoted(const zvString& text) { return '"' + zvConsole::printable(text) + '"'; }
@@ -22,9 +31,18 @@ const char* transition(zvCfgTransitionTypeEnum type) {
     return type == zvCfgTransitionPromote ? "promote" : "demote";
 }
 
-zvString rule(const zvCfgObject& object) {
+Rule rule(const zvCfgObject& object) {
     const zvCndCondition condition = object.getMappingRule();
-    return condition.IsNull() ? zvString() : zvCndParsingUtils::createConditionString(condition);
+    if (condition.IsNull()) {
+        return {};
+    }
+    Rule rule{object.getMappingRuleText(), zvCndParsingUtils::createConditionString(condition)};
+    rule.written.trim();
+    rule.read.trim();
+    if (withoutBlanks(rule.written) == withoutBlanks(rule.read)) {
+        rule.read = zvString();
+    }
+    return rule;
 }
 
 }  // namespace zvConfigurationNames

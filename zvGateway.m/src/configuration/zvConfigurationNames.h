@@ -18,8 +18,14 @@ std::string object(const zvCfgObject& object);
 std::string dataType(zvDataTypeEnum type);
 /// "promote" or "demote".
 const char* transition(zvCfgTransitionTypeEnum type);
-/// The rule as the condition language has it; empty for an object without one.
-zvString rule(const zvCfgObject& object);
+
+struct Rule {
+    /// As the configuration file has it, without blanks at its ends; empty for an object without a rule.
+    zvString written;
+    /// With all its brackets, in the order in which it is evaluated; empty if only blanks differ.
+    zvString read;
+};
+Rule rule(const zvCfgObject& object);
 
 }  // namespace zvConfigurationNames
 

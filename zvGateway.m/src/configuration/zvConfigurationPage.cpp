@@ -1,74 +1,33 @@
 #include "zvConfigurationPage.h"
 
-#include <initializer_list>
-
-#include "zvCharString.h"
 #include "zvConfigurationNames.h"
-#include "zvConfigurationPageParts.h"
+#include "zvConfigurationPageCss.h"
+
+using zvPage::escaped;
 
 namespace {
 
-// As content of an element and as a quoted attribute.
-std::string escaped(const char* text) {
-    std::string result;
-    for (; *text != '\0'; ++text) {
-        switch (*text) {
-            case '&':
-                result += "&amp;";
-                break;
-            case '<':
-                result += "&lt;";
-                break;
-            case '>':
-                result += "&gt;";
-                break;
-            case '"':
-                result += "&quot;";
-                break;
-            case '\'':
-                result += "&#39;";
-                break;
-            default:
-                result += *text;
-        }
+constexpr zvPage::Section objects{"objects", "Objects"};
+constexpr zvPage::Section fileTypes{"files", "File types"};
+constexpr zvPage::Section views{"views", "Views"};
+constexpr zvPage::Section lifecycles{"lifecycles", "Lifecycles"};
+
+constexpr char legend[] = R"(<figcaption>
+<span class="promote" aria-hidden="true">&#9472;&#9472;&#9654;</span> promote &emsp;
+<span class="demote" aria-hidden="true">&#9476;&#9476;&#9654;</span> demote</figcaption>
+)";
+
+std::string ruleOf(const zvCfgObject& object) {
+    const zvConfigurationNames::Rule rule = zvConfigurationNames::rule(object);
+    if (rule.written.empty()) {
+        return "";
     }
-    return result;
-}
-
-std::string escaped(const zvString& text) { return escaped(zvCharString(text).data()); }
-
-std::string badge(const char* text) { return std::string(" <span class=\"badge\">") + text + "</span>"; }
-
-std::string arrow(const zvString& local, const zvString& remote) {
-    return "<b>" + escaped(local) + "</b> <span class=\"arrow\">&rarr;</span> <b>" + escaped(remote) + "</b>";
-}
-
-// The cells are HTML.
-std::string row(std::initializer_list<std::string> cells) {
-    std::string result = "<tr data-row>";
-    for (const std::string& cell : cells) {
-        result += "<td>" + cell + "</td>";
+    std::string result =
+        "<dl class=\"rule\" data-row><dt>when\n</dt><dd><code>" + escaped(rule.written) + "</code></dd>";
+    if (!rule.read.empty()) {
+        result += "\n<dt>read as\n</dt><dd class=\"read\"><code>" + escaped(rule.read) + "</code></dd>";
     }
-    return result + "</tr>\n";
-}
-
-std::string openSection(const char* id, const char* heading, int count) {
-    return "<section id=\"" + std::string(id) + "\"><h2>" + heading + " <span class=\"count\">" +
-           std::to_string(count) + "</span></h2>\n";
-}
-
-std::string openTable(std::initializer_list<const char*> columns) {
-    std::string result = "<table><thead><tr>";
-    for (const char* const column : columns) {
-        result += "<th>" + std::string(column) + "</th>";
-    }
-    return result + "</tr></thead>\n";
-}
-
-// A group of rows that a search keeps together with its heading, which is HTML.
-std::string openGroup(const std::string& heading, int columns) {
-    return "<tbody data-group><tr class=\"group\"><th data-head colspan=\"" + std::to_string(columns) +
-           "\">" + heading + "</th></tr>\n";
+    return result + "</dl>\n";
 }
 
 std::string attributeRow(const zvCfgAttribute& attribute) {
@@ -76,30 +35,16 @@ std::string attributeRow(const zvCfgAttribute& attribute) {
     attribute.optionalAttributes().forEach([&more](const zvString& name, const zvString& value) {
         more += (more.empty() ? "" : ", ") + escaped(name) + " = " + escaped(value);
     });
-    return row({escaped(attribute.localName()), escaped(attribute.remoteName()), escaped(attribute.keyName()),
-                zvConfigurationNames::dataType(attribute.getDataType()), escaped(attribute.getDefaultValue()),
-                more});
+    return zvPage::row({escaped(attribute.localName()), escaped(attribute.remoteName()),
+                        escaped(attribute.keyName()), zvConfigurationNames::dataType(attribute.getDataType()),
+                        escaped(attribute.getDefaultValue()), more});
 }
 
-std::string objectGroup(const zvCfgObject& object) {
-    constexpr int columns = 6;
-    std::string heading = arrow(object.getLocalCustomType(), object.getRemoteCustomType());
-    if (!object.getOotbTypeStr().empty()) {
-        heading += " <span class=\"standard\">" + escaped(object.getOotbTypeStr()) + "</span>";
-    }
-    if (dynamic_cast<const zvCfgFile*>(&object) != nullptr) {
-        heading += badge("file");
-    }
-    std::string result = openGroup(heading, columns);
-    const zvString rule = zvConfigurationNames::rule(object);
-    if (!rule.empty()) {
-        result += R"(<tr class="rule" data-row><td colspan="6">when <code>)" + escaped(rule) +
-                  "</code></td></tr>\n";
-    }
-    for (int i = 0; i < object.numAttributes(); ++i) {
-        result += attributeRow(*object.getAttribute(i));
-    }
-    return result + "</tbody>\n";
+std::string extensionRow(const zvCfgFileExtension& extension) {
+    const auto word = [](bool isAllowed) { return isAllowed ? "yes" : "<span class=\"no\">no</span>"; };
+    return zvPage::row({escaped(extension.getName()), word(extension.isImportAllowed()),
+                        word(extension.isExportAllowed()),
+                        extension.getTransferMode() == zvTransferModeAscii ? "ASCII" : "BINARY"});
 }
 
 std::string stateRow(const zvCfgLcmState& state) {
@@ -110,98 +55,130 @@ std::string stateRow(const zvCfgLcmState& state) {
         transitions += (transitions.empty() ? "<span class=\"" : ", <span class=\"") + std::string(type) +
                        "\">" + type + "</span> to " + escaped(transition.toState());
     }
-    return row({std::to_string(state.getIndex()), escaped(state.key()), escaped(state.localName()),
-                escaped(state.remoteName()), transitions});
+    return zvPage::row({escaped(state.localName()), escaped(state.remoteName()), escaped(state.key()),
+                        std::to_string(state.getIndex()), transitions});
 }
 
 std::string figure(const zvCfgLcmGraph& lifecycle, const std::string& id, const zvLifecyclePicture* picture) {
     if (picture == nullptr) {
-        return "There is no picture: Graphviz was not there to draw it.\n";
+        return "<figure>There is no picture: Graphviz was not there to draw it.</figure>\n";
     }
     const std::string svg = picture->svg(lifecycle, id);
-    return svg.empty() ? "This lifecycle is too large for a picture.\n"
-                       : svg + zvConfigurationPageParts::legend;
+    if (svg.empty()) {
+        return "<figure>This lifecycle is too large for a picture.</figure>\n";
+    }
+    const zvString label = "Picture of the lifecycle of " + lifecycle.getObjectType() + ", with " +
+                           lifecycle.numStates() + " states: its transitions stand in the table as well";
+    // A picture that is wider than the window is moved by keys, too.
+    return "<figure tabindex=\"0\"><div role=\"img\" aria-label=\"" + escaped(label) + "\">" + svg +
+           "</div>" + legend + "</figure>\n";
 }
 
 }  // namespace
 
-zvConfigurationPage::zvConfigurationPage(const zvCfgConfigManager& configuration, const std::string& title,
+zvConfigurationPage::zvConfigurationPage(const zvCfgConfigManager& configuration, const zvString& title,
                                          const zvLifecyclePicture* picture) {
-    const std::string heading = escaped(title.c_str());
-    m_html =
-        "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\">\n"
-        "<meta name=\"viewport\" content=\"width=device-width\">\n<title>" +
-        heading + "</title>\n<style>" + zvConfigurationPageParts::style + "</style></head>\n<body>\n<h1>" +
-        heading + "</h1>\n" + zvConfigurationPageParts::searchBar;
+    m_html = zvPage::begin({title,
+                            "Search types, attributes, rules, extensions, views, states",
+                            {objects, fileTypes, views, lifecycles},
+                            zvConfigurationPageCss});
     addObjects(configuration);
     addFiles(configuration);
     addViews(configuration);
     addLifecycles(configuration, picture);
-    m_html += std::string("<script>") + zvConfigurationPageParts::script + "</script>\n</body></html>\n";
+    m_html += zvPage::end();
 }
 
 void zvConfigurationPage::addObjects(const zvCfgConfigManager& configuration) {
-    m_html += openSection("objects", "Objects and attributes", configuration.numObjects()) +
-              openTable({"Local name", "Remote name", "Key", "Type", "Default", "Further"});
+    m_html += zvPage::openSection(objects, configuration.numObjects());
     for (int i = 0; i < configuration.numObjects(); ++i) {
-        m_html += objectGroup(*configuration.getObjectAt(i));
+        addObject(*configuration.getObjectAt(i));
     }
-    m_html += "</table></section>\n";
+    m_html += zvPage::closeSection();
+}
+
+void zvConfigurationPage::addObject(const zvCfgObject& object) {
+    const zvString local = object.getLocalCustomType();
+    const zvString remote = object.getRemoteCustomType();
+    std::string more;
+    if (!object.getOotbTypeStr().empty()) {
+        more += " <span class=\"soft\">" + escaped(object.getOotbTypeStr()) + "</span>";
+    }
+    if (dynamic_cast<const zvCfgFile*>(&object) != nullptr) {
+        more += ' ' + zvPage::badge("file");
+    }
+    m_html += zvPage::openGroup(m_anchors.add("object", {local, remote}), zvPage::arrow(local, remote), more,
+                                object.numAttributes() + 1) +
+              ruleOf(object);
+    if (object.numAttributes() > 0) {
+        m_html += zvPage::openTable("attributes", "Attributes of " + local + " to " + remote,
+                                    {"Local name", "Remote name", "Key", "Type", "Default", "Further"});
+        for (int i = 0; i < object.numAttributes(); ++i) {
+            m_html += attributeRow(*object.getAttribute(i));
+        }
+        m_html += zvPage::closeTable();
+    }
+    m_html += zvPage::closeGroup();
 }
 
 void zvConfigurationPage::addFiles(const zvCfgConfigManager& configuration) {
-    constexpr int columns = 4;
-    m_html += openSection("files", "File types", configuration.numFiles()) +
-              openTable({"Extension", "Import", "Export", "Transfer"});
+    m_html += zvPage::openSection(fileTypes, configuration.numFiles());
     for (int i = 0; i < configuration.numFiles(); ++i) {
         const zvCfgFile& file = *configuration.getFileAt(i);
-        m_html += openGroup(arrow(file.getLocalCustomType(), file.getRemoteCustomType()), columns);
-        file.forEachFileExtension([this](const zvCfgFileExtension& extension) {
-            const auto tick = [](bool allowed) {
-                return allowed ? "&#10003;" : "<span class=\"no\">&ndash;</span>";
-            };
-            m_html += row({escaped(extension.getName()), tick(extension.isImportAllowed()),
-                           tick(extension.isExportAllowed()),
-                           extension.getTransferMode() == zvTransferModeAscii ? "ASCII" : "BINARY"});
+        const zvString local = file.getLocalCustomType();
+        const zvString remote = file.getRemoteCustomType();
+        std::string rows;
+        int count = 0;
+        file.forEachFileExtension([&](const zvCfgFileExtension& extension) {
+            rows += extensionRow(extension);
+            ++count;
         });
-        m_html += "</tbody>\n";
+        m_html += zvPage::openGroup(m_anchors.add("files", {local, remote}), zvPage::arrow(local, remote), "",
+                                    count) +
+                  zvPage::openTable("extensions", "Extensions of " + local + " to " + remote,
+                                    {"Extension", "Import", "Export", "Transfer"}) +
+                  rows + zvPage::closeTable() + zvPage::closeGroup();
     }
-    m_html += "</table></section>\n";
+    m_html += zvPage::closeSection();
 }
 
 void zvConfigurationPage::addViews(const zvCfgConfigManager& configuration) {
-    constexpr int columns = 3;
-    m_html += openSection("views", "Views", configuration.numViewCollections()) +
-              openTable({"Index", "Local name", "Remote name"});
+    m_html += zvPage::openSection(views, configuration.numViewCollections());
     for (int i = 0; i < configuration.numViewCollections(); ++i) {
         const zvString collection = configuration.getViewCollectionAt(i);
-        const zvCfgViewList& views = *configuration.getViewsInCollection(collection);
+        const zvCfgViewList& list = *configuration.getViewsInCollection(collection);
         const zvCfgView* const first = configuration.getDefaultViewInCollection(collection);
-        m_html += openGroup("<b>" + escaped(collection) + "</b>", columns);
-        for (int k = 0; k < views.size(); ++k) {
-            const zvCfgView& view = *views.get(k);
-            m_html += row({std::to_string(view.getIndex()),
-                           escaped(view.getLocalName()) + (&view == first ? badge("default") : ""),
-                           escaped(view.getRemoteName())});
+        m_html +=
+            zvPage::openGroup(m_anchors.add("views", {collection}), "<b>" + escaped(collection) + "</b>", "",
+                              list.size()) +
+            zvPage::openTable("views", "Views of " + collection, {"Local name", "Remote name", "Index"});
+        for (int k = 0; k < list.size(); ++k) {
+            const zvCfgView& view = *list.get(k);
+            m_html += zvPage::row(
+                {escaped(view.getLocalName()) + (&view == first ? ' ' + zvPage::badge("default") : ""),
+                 escaped(view.getRemoteName()), std::to_string(view.getIndex())});
         }
-        m_html += "</tbody>\n";
+        m_html += zvPage::closeTable() + zvPage::closeGroup();
     }
-    m_html += "</table></section>\n";
+    m_html += zvPage::closeSection();
 }
 
 void zvConfigurationPage::addLifecycles(const zvCfgConfigManager& configuration,
                                         const zvLifecyclePicture* picture) {
-    m_html += openSection("lifecycles", "Lifecycles", configuration.numLifecycles());
+    m_html += zvPage::openSection(lifecycles, configuration.numLifecycles());
     for (int i = 0; i < configuration.numLifecycles(); ++i) {
         const zvCfgLcmGraph& lifecycle = *configuration.getLifecycleAt(i);
-        m_html += "<article data-group><h3 data-head>" + escaped(lifecycle.getObjectType()) +
-                  "</h3>\n<figure>" + figure(lifecycle, "lifecycle" + std::to_string(i), picture) +
-                  "</figure>\n" + openTable({"Index", "Key", "Local name", "Remote name", "Transitions"}) +
-                  "<tbody>\n";
+        const zvString type = lifecycle.getObjectType();
+        // A picture is as high as four rows.
+        m_html += zvPage::openGroup(m_anchors.add("lifecycle", {type}), "<b>" + escaped(type) + "</b>", "",
+                                    lifecycle.numStates() + 4) +
+                  figure(lifecycle, "picture" + std::to_string(i), picture) +
+                  zvPage::openTable("states", "States of " + type,
+                                    {"Local name", "Remote name", "Key", "Index", "Transitions"});
         for (int k = 0; k < lifecycle.numStates(); ++k) {
             m_html += stateRow(*lifecycle.getStateAt(k));
         }
-        m_html += "</tbody></table></article>\n";
+        m_html += zvPage::closeTable() + zvPage::closeGroup();
     }
-    m_html += "</section>\n";
+    m_html += zvPage::closeSection();
 }

@@ -3,9 +3,9 @@
 #include <map>
 #include <vector>
 
-#include "zvCharString.h"
 #include "zvExport.h"
 #include "zvLifecyclePicture.h"
+#include "zvUtf8.h"
 
 namespace {
 
@@ -52,13 +52,14 @@ constexpr Setting settings[] = {
     {AGEDGE, "style", "solid"},
     {AGEDGE, "arrowsize", "0.7"},
     {AGEDGE, "id", ""},
+    {AGEDGE, "class", ""},
 };
 
 // A name, which Graphviz writes with its entities as they are.
 std::string name(const zvString& given) {
     zvString result = given;
     result.replace("&", "&amp;");
-    return zvCharString(result).data();
+    return zvUtf8::encode(result);
 }
 
 // A label, in which it resolves entities, and sequences that begin with a backslash.
@@ -110,7 +111,7 @@ Graph graphOf(const zvCfgLcmGraph& lifecycle, const std::string& id) {
             agset(edge, text("id"), text(id + "-transition" + std::to_string(number++)));
             if (transition.getType() == zvCfgTransitionDemote) {
                 agset(edge, text("style"), text("dashed"));
-                agset(edge, text("color"), text("#a04a1c"));
+                agset(edge, text("class"), text("demotion"));
             }
         }
     }
@@ -128,7 +129,7 @@ public:
         }
         const Graph graph = graphOf(lifecycle, id);
         const std::string document = render(graph.get());
-        // In front of the element stands what belongs to a file of its own.
+        // Before the element stands what belongs to a file of its own.
         const std::size_t start = document.find("<svg");
         return start == std::string::npos ? "" : document.substr(start);
     }

@@ -39,7 +39,8 @@ zvExitCode zvShowCommand::run() const {
         throw zvProgramFailure{zvExitCode::usage, "output", zvConsole::printable(page.c_str()),
                                "it is the configuration itself"};
     }
-    const std::string title = "Mapping configuration" + (system.empty() ? "" : " for " + system);
+    const zvString title =
+        "Mapping configuration" + (system.empty() ? zvString() : " for " + reading.pdmSystemName());
     const std::unique_ptr<zvLifecyclePicture> picture = zvLifecyclePicture::load();
     if (picture == nullptr) {
         std::fprintf(stderr,
