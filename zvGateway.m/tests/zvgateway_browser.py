@@ -5,6 +5,7 @@ import os
 import select
 import shutil
 import subprocess
+import sys
 import tempfile
 import time
 
@@ -129,3 +130,70 @@ class Browser:
         """A picture of the window, as PNG."""
         with open(file, 'wb') as out:
             out.write(base64.b64decode(self.call('Page.captureScreenshot', format='png')['data']))
+
+
+# What can be seen now: texts of rows, ids of groups and sections.
+ROWS = "[...document.querySelectorAll('[data-row]')].filter(row => row.checkVisibility()).map(row => row.innerText)"
+GROUPS = "[...document.querySelectorAll('[data-group]')].filter(group => !group.closest('[hidden]')).map(group => group.id)"
+SECTIONS = "[...document.querySelectorAll('section')].filter(section => !section.hidden).map(section => section.id)"
+# What does not fit into the window; a picture can be scrolled, and a table's head is not shown in a narrow one.
+TOO_WIDE = """[...document.querySelectorAll('body *')].filter(element => element.checkVisibility() &&
+    !element.closest('figure, thead') && element.getBoundingClientRect().right > innerWidth + 1)
+    .map(element => element.outerHTML.slice(0, 80))"""
+# How far below the bar what the address names begins.
+BELOW_BAR = """(() => {
+    const target = document.getElementById(decodeURIComponent(location.hash.slice(1))).getBoundingClientRect();
+    return target.top - document.querySelector('.bar').getBoundingClientRect().bottom;
+})()"""
+# The lowest contrast of a text to what is behind it, and where.
+CONTRAST = """(() => {
+    const canvas = document.createElement('canvas').getContext('2d', {willReadFrequently: true});
+    const pixel = color => {
+        canvas.clearRect(0, 0, 1, 1);
+        canvas.fillStyle = color;
+        canvas.fillRect(0, 0, 1, 1);
+        return [...canvas.getImageData(0, 0, 1, 1).data];
+    };
+    const light = color => pixel(color).slice(0, 3).map(part => part / 255)
+        .map(part => part <= 0.04045 ? part / 12.92 : ((part + 0.055) / 1.055) ** 2.4)
+        .reduce((sum, part, i) => sum + part * [0.2126, 0.7152, 0.0722][i], 0);
+    const behind = element => {
+        const color = getComputedStyle(element).backgroundColor;
+        return pixel(color)[3] === 255 ? color : behind(element.parentElement);
+    };
+    let lowest = [99, ''];
+    const texts = document.createTreeWalker(document.body, NodeFilter.SHOW_TEXT);
+    while (texts.nextNode()) {
+        const element = texts.currentNode.parentElement;
+        if (!texts.currentNode.data.trim() || !element.checkVisibility()) continue;
+        const style = getComputedStyle(element);
+        const color = element.closest('svg') ? style.fill : style.color;
+        const [dark, bright] = [light(color), light(behind(element))].sort((a, b) => a - b);
+        const contrast = (bright + 0.05) / (dark + 0.05);
+        if (contrast < lowest[0]) lowest = [contrast, texts.currentNode.data, color, behind(element)];
+    }
+    return lowest;
+})()"""
+# Keeps, for each key, the milliseconds until what it did was painted.
+CLOCK = """window.answers = []; addEventListener('keydown', event => requestAnimationFrame(() =>
+    setTimeout(() => answers.push(performance.now() - event.timeStamp))), true)"""
+
+checks = failures = 0
+
+
+def check(description, passed, seen=''):
+    global checks, failures
+    checks += 1
+    if not passed:
+        failures += 1
+        print('FAILED: %s\n  seen: %s' % (description, str(seen)[:2000]))
+
+
+def equal(description, seen, wanted):
+    check(description, seen == wanted, '%s instead of %s' % (seen, wanted))
+
+
+def finish():
+    """The end of a test, with its exit code."""
+    print('%d checks, %d failures' % (checks, failures))
+    sys.exit(failures > 0)

@@ -53,9 +53,7 @@ std::string tableOf(const zvFoundEvent& event) {
 }  // namespace
 
 void zvEventListPage::add(const zvFoundEvent& event) {
-    const auto index = static_cast<std::size_t>(event.state);
-    m_groups[index] += groupOf(event);
-    ++m_counts[index];
+    m_groups[static_cast<std::size_t>(event.state)].emplace(event.name(), groupOf(event));
 }
 
 std::string zvEventListPage::groupOf(const zvFoundEvent& event) {
@@ -87,17 +85,21 @@ std::string zvEventListPage::html(const std::string& root) const {
     frame.searched = "Directory, EventId, event, object, reason";
     frame.style = zvEventListPageCss;
     for (const StateSection& entry : sections) {
-        if (m_counts[static_cast<std::size_t>(entry.state)] > 0) {
+        if (!m_groups[static_cast<std::size_t>(entry.state)].empty()) {
             frame.sections.push_back(entry.section);
         }
     }
     std::string page = zvPage::begin(frame);
     for (const StateSection& entry : sections) {
-        const auto index = static_cast<std::size_t>(entry.state);
-        if (m_counts[index] > 0) {
-            page += zvPage::openSection(entry.section, m_counts[index]) + m_groups[index] +
-                    zvPage::closeSection();
+        const auto& groups = m_groups[static_cast<std::size_t>(entry.state)];
+        if (groups.empty()) {
+            continue;
         }
+        page += zvPage::openSection(entry.section, static_cast<int>(groups.size()));
+        for (const auto& [name, group] : groups) {
+            page += group;
+        }
+        page += zvPage::closeSection();
     }
     return page + zvPage::end();
 }

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <string>
 
 #include "zvFoundEvent.h"
@@ -24,8 +25,8 @@ private:
 
     std::int64_t m_now;
     zvPageAnchors m_anchors;
-    std::array<std::string, zvFoundEvent::numStates> m_groups;
-    std::array<int, zvFoundEvent::numStates> m_counts{};
+    // By the directories' names, for each state.
+    std::array<std::map<std::string, std::string>, zvFoundEvent::numStates> m_groups;
 };
 
 #endif
