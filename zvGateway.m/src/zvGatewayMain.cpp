@@ -63,7 +63,10 @@ Exit codes
   6  the configuration file, or an error that "check" finds in it
   7  the mapping of the event's object, and values that do not fit their declared types
   8  the transfer of the event's files
-  9  the post to the local server)";
+  9  the post to the local server
+  10 some events of batch or resume
+
+The last line on standard error, and in the log, is what became of the event.)";
 
 int fail(zvExitCode code, const std::string& message) {
     zvConsole::flush();

@@ -39,6 +39,8 @@ public:
 
     /// Begins an attempt. Throws the zvStepFailure of a record that cannot be written.
     void beginAttempt(const zvString& eventId, const Given& given, bool isDryRun);
+    /// How many have begun.
+    int attempts() const { return m_history.attempts; }
     /// Notes the object's type and key, for people.
     void setObject(const std::string& object);
     /// The object as it was noted last.

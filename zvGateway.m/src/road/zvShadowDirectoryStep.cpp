@@ -50,7 +50,9 @@ zvStepOutcome zvShadowDirectoryStep::run() {
     for (const char* const key : fileKeys) {
         zvConsole::fact(key, zvConsole::printablePath(m_event.file(key)));
     }
-    return zvStepOutcome::done(name.empty() ? "a new one" : "the one of an earlier run");
+    return zvStepOutcome::done(name.empty()                     ? "a new one"
+                               : m_event.record->attempts() > 1 ? "the one of an earlier run"
+                                                                : "the one that is named");
 }
 
 // The event gets a record only when it is the one whose record is there: another one's stays as it is.
