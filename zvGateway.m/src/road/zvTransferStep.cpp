@@ -247,8 +247,8 @@ void zvTransferStep::fileBegins(const zvString& local) {
 }
 
 void zvTransferStep::fileTransferred(const zvString& local, zvInt64 bytes, zvInt64 milliseconds) {
-    m_event.record->setArrived(local);
     // Or the files that have to be deleted would go, and nobody would know.
+    m_event.record->setArrived(local, m_event.attachments.numAttachments() > 0);
     m_event.record->requireWritten();
     ++m_sentFiles;
     m_sentBytes += bytes;
