@@ -1,6 +1,6 @@
-// The events of a batch by the library's calls alone: arguments, shadow directory, the mapping's rule, data file,
-// transfer of two files, post.
-// usage: zvLibraryEvents ROOT EVENTS    with GATEWAY_HOME and CLASSPATH set
+// The events of a batch by the library's calls alone: arguments, shadow directory, the mapping's rule, data
+// file, transfer of two files, post. usage: zvLibraryEvents ROOT EVENTS    with GATEWAY_HOME and CLASSPATH
+// set
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
@@ -36,7 +36,8 @@ const zvCfgObject* choose(const zvEventArguments& arguments) {
         zvAttribute attribute(name, arguments.getEventArgumentValue(zvString("attr.") + name));
         context.addAttribute(attribute);
     }
-    const zvCfgObjectList* const candidates = zvCfgConfigManager::getCfgConfigManager()->getObjectsByLocalType("Part");
+    const zvCfgObjectList* const candidates =
+        zvCfgConfigManager::getCfgConfigManager()->getObjectsByLocalType("Part");
     for (int i = 0; candidates != nullptr && i < candidates->size(); ++i) {
         const zvCndCondition rule = candidates->get(i)->getMappingRule();
         if (rule.IsNull() || rule->evaluate(context)) {
@@ -54,13 +55,14 @@ bool writeDataFile(const zvEventArguments& arguments, const zvCfgObject& object)
     for (int i = 0; isWritten && i < object.numAttributes(); ++i) {
         const zvCfgAttribute& attribute = *object.getAttribute(i);
         const zvString value = arguments.getEventArgumentValue(zvString("attr.") + attribute.localName());
-        isWritten = document.addStartTag("Attribute") && document.addAttribute("Name", attribute.remoteName()) &&
+        isWritten = document.addStartTag("Attribute") &&
+                    document.addAttribute("Name", attribute.remoteName()) &&
                     (value.empty() || document.addMemberValue(value)) && document.addEndTag();
     }
     const zvString directory = arguments.getEventArgumentValue("RootShadowDir") + "\\" +
                                arguments.getEventArgumentValue("EventShadowDir");
-    return isWritten &&
-           document.writeTreeToFile(directory + "\\" + arguments.getEventArgumentValue("DataFileName"), "UTF-8");
+    return isWritten && document.writeTreeToFile(
+                            directory + "\\" + arguments.getEventArgumentValue("DataFileName"), "UTF-8");
 }
 
 bool takeEvent(const char* root, int number) {
@@ -78,7 +80,7 @@ bool takeEvent(const char* root, int number) {
     zvFSClient::destroyInstance();
     const std::unique_ptr<zvCommunicationUtils> server(
         zvCommunicationFactory::createCommunicationUtils(zvCommProtocoalHTTP));
-    return isSent && server->request(zvCommonUtils::getLocalServerUrl(), *arguments).isOk();
+    return isSent && server->request(zvCommonUtils::getLocalServerUrl(), *arguments, nullptr).isOk();
 }
 
 }  // namespace
