@@ -209,9 +209,11 @@ void zvTransferStep::require(const zvResult& result) {
     }
 }
 
-// Asked by the client, for the first time once the Java machine has started.
+// Asked by the client, for the first time once the Java machine has started, later also by another thread.
 bool zvTransferStep::isCancelled() {
-    m_signals.reset();
+    if (m_signals) {
+        m_signals.reset();
+    }
     return zvProcess::notedSignal() != 0;
 }
 
