@@ -17,6 +17,9 @@ unsigned long id();
 std::string hostName();
 /// This process's program file; empty when the system does not tell it.
 std::filesystem::path programFile();
+/// A function of the logging library that this process has loaded; null if the library has none of this name.
+using Function = void (*)();
+Function findLoggerFunction(const char* name);
 /// Sets a variable of this process's environment.
 void setEnvironment(const char* name, const char* value);
 /// Blocks the calling thread, until a request to end the process is noted at the longest. Every wait of the

@@ -1,3 +1,4 @@
+#include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -23,6 +24,11 @@ unsigned long zvProcess::id() { return static_cast<unsigned long>(::getpid()); }
 std::filesystem::path zvProcess::programFile() {
     std::error_code error;
     return std::filesystem::read_symlink("/proc/self/exe", error);
+}
+
+// Looked for where the library's own calls go.
+zvProcess::Function zvProcess::findLoggerFunction(const char* name) {
+    return reinterpret_cast<Function>(::dlsym(RTLD_DEFAULT, name));
 }
 
 void zvProcess::setEnvironment(const char* name, const char* value) { ::setenv(name, value, 1); }

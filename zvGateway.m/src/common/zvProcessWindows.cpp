@@ -30,6 +30,11 @@ std::filesystem::path zvProcess::programFile() {
     }
 }
 
+zvProcess::Function zvProcess::findLoggerFunction(const char* name) {
+    const HMODULE library = ::GetModuleHandleW(L"zvLogger.dll");
+    return library == nullptr ? nullptr : reinterpret_cast<Function>(::GetProcAddress(library, name));
+}
+
 void zvProcess::setEnvironment(const char* name, const char* value) {
     ::_putenv((std::string(name) + "=" + value).c_str());
 }

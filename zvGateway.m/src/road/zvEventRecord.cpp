@@ -95,6 +95,19 @@ zvEventRecord::Arguments zvEventRecord::argumentsOf(const zvEventArguments& argu
     return result;
 }
 
+zvString zvEventRecord::fileIn(const zvString& directory, const zvString& name) {
+    return directory + "\\" + name + "_record.jsonl";
+}
+
+zvString zvEventRecord::eventIdIn(const zvString& file) {
+    std::ifstream stream(toNativePath(file), std::ios::binary);
+    std::string line;
+    std::getline(stream, line);
+    const auto json = nlohmann::json::parse(line, nullptr, false);
+    const auto id = json.is_object() ? json.find("eventId") : json.end();
+    return id != json.end() && id->is_string() ? fromUtf8(id->get<std::string>()) : zvString();
+}
+
 zvEventRecord::zvEventRecord(const zvString& file) : m_file(toNativePath(file)) {
     std::error_code error;
     const zvProcess::Lock lock = zvProcess::lockFile(m_file, error);

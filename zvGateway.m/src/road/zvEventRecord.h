@@ -22,6 +22,12 @@ public:
     using Arguments = std::map<std::string, std::string>;
     static Arguments argumentsOf(const zvEventArguments& arguments);
 
+    /// The path of the record in an event's directory of this name.
+    static zvString fileIn(const zvString& directory, const zvString& name);
+    /// The identity in the file; empty if there is none. Takes no lock, and leaves every fault to the
+    /// constructor.
+    static zvString eventIdIn(const zvString& file);
+
     /// Reads the file, if there is one, and takes an advisory lock on it, held until the process exits.
     /// Throws a zvStepFailure when another process is running the event, or the file cannot be read.
     explicit zvEventRecord(const zvString& file);

@@ -4,6 +4,7 @@
 #include "zvAttachmentsStep.h"
 #include "zvConfigurationStep.h"
 #include "zvConsole.h"
+#include "zvEventId.h"
 #include "zvGatewayHomeStep.h"
 #include "zvInterruption.h"
 #include "zvMappingStep.h"
@@ -40,6 +41,8 @@ constexpr zvEventRoad::Step zvEventRoad::steps[] = {
 void zvEventRoad::run() {
     m_event.options = options;
     m_event.commandLine = std::move(arguments);
+    m_event.eventId = eventIdOf(m_event.commandLine);
+    m_event.logContext.setEventId(m_event.eventId);
     try {
         walk();
     } catch (const zvProgramFailure& failure) {

@@ -8,6 +8,7 @@
 #include "zvAttachmentList.h"
 #include "zvEventArguments.h"
 #include "zvEventRecord.h"
+#include "zvLogContext.h"
 #include "zvRoadOptions.h"
 #include "zvRoadReport.h"
 #include "zvSecretStore.h"
@@ -19,6 +20,9 @@ struct zvGatewayEvent {
     };
 
     zvRoadOptions options;
+    /// The identity that it gets unless its record has one.
+    zvString eventId;
+    zvLogContext logContext;
     /// As given, `key=value` each.
     std::vector<std::string> commandLine;
     zvSecretStore secrets;
