@@ -60,7 +60,7 @@ void zvFSNotices::receive(const zvJniFrame& frame) {
         frame.registerNative(noticesClass,
                              {progressName, progressSignature, reinterpret_cast<void*>(receiveProgress)});
     } catch (const zvJavaThrown&) {
-        logger.debug("The Java client tells no notices");
+        logger.debug("The Java client does not tell everything that happens");
     }
 }
 

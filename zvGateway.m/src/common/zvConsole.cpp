@@ -15,6 +15,16 @@ std::FILE* out = stdout;      // of what a person is told
 std::FILE* answers = stdout;  // of print()
 bool answered = false;
 const char* heading = nullptr;  // still to be printed
+bool progressIsShown = true;
+bool lineIsRewritable = false;
+
+// At most: what may be wide on a terminal counts as two.
+std::size_t columnsOf(wchar16 unit) {
+    constexpr wchar16 firstWide = 0x1100;
+    return unit < firstWide ? 1 : 2;
+}
+
+bool isSecondOfPair(wchar16 unit) { return (unit & 0xFC00U) == 0xDC00U; }
 
 }  // namespace
 
@@ -53,12 +63,45 @@ std::string printablePath(const zvString& path) { return printable(zvDirFileUtil
 void step(const char* name) { heading = name; }
 
 void fact(const std::string& name, const std::string& value) {
+    rewrite("");
     if (heading != nullptr) {
         std::fprintf(out, "%s\n", heading);
         heading = nullptr;
     }
     std::fprintf(out, "  %-22s %s\n", name.c_str(), value.c_str());
     std::fflush(out);
+}
+
+void leaveOutProgress() { progressIsShown = false; }
+
+bool showsProgress() { return progressIsShown; }
+
+std::size_t rewritableColumns() {
+    const std::size_t columns = zvProcess::terminalColumns(out);
+    // In the last column some terminals begin a new line.
+    return columns == 0 ? 0 : columns - 1;
+}
+
+void rewrite(const std::string& line) {
+    if (lineIsRewritable || !line.empty()) {
+        const std::string blanks(lineIsRewritable ? rewritableColumns() : 0, ' ');
+        std::fprintf(out, "\r%s\r%s", blanks.c_str(), line.c_str());
+        std::fflush(out);
+        lineIsRewritable = !line.empty();
+    }
+}
+
+zvString shortened(const zvString& text, std::size_t columns) {
+    constexpr std::size_t dots = 3;
+    std::size_t used = 0;
+    int fitting = text.size();  // where what fits beside the dots begins
+    for (int i = text.size(); i-- > 0;) {
+        used += columnsOf(text[i]);
+        if (used + dots <= columns && !isSecondOfPair(text[i])) {
+            fitting = i;
+        }
+    }
+    return used <= columns ? text : "..." + text.substr(fitting, text.size() - fitting);
 }
 
 std::string size(double bytes) {

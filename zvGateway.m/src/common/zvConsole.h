@@ -31,6 +31,17 @@ void step(const char* name);
 /// One thing that the present step has to tell.
 void fact(const std::string& name, const std::string& value);
 
+/// Leaves out all progress from now on.
+void leaveOutProgress();
+bool showsProgress();
+/// The columns of the line that rewrite() fills; 0 where no line can be rewritten, which is no terminal.
+std::size_t rewritableColumns();
+/// Shows the printable line where the last one stands that was shown so. Whatever is printed otherwise takes
+/// its place, and so does an empty one.
+void rewrite(const std::string& line);
+
+/// The text, its beginning replaced by "..." if it would take more columns.
+zvString shortened(const zvString& text, std::size_t columns);
 /// A size as in "4.2 MB", and what moved per second as in "12.5 MB/s".
 std::string size(double bytes);
 std::string rate(double bytes, double milliseconds);

@@ -2,6 +2,7 @@
 #define ZV_PROCESS_H
 
 #include <chrono>
+#include <cstddef>
 #include <cstdio>
 #include <filesystem>
 #include <string>
@@ -47,6 +48,9 @@ void close(int descriptor);
 /// Keeps standard output for the caller alone: what the process writes to it otherwise, libraries included,
 /// goes to standard error from now on. Null, with nothing changed, if that fails.
 std::FILE* reserveStandardOutput();
+
+/// The columns of the terminal that the stream goes to; 0 if it goes to none.
+std::size_t terminalColumns(std::FILE* stream);
 
 /// From now on a request to end the process (Ctrl-C, SIGTERM, SIGHUP) is noted: work ends where it can be
 /// ended cleanly. A second one ends the process at once.

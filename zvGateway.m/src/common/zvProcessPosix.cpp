@@ -1,6 +1,7 @@
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -124,6 +125,16 @@ std::FILE* zvProcess::reserveStandardOutput() {
         return nullptr;
     }
     return stream;
+}
+
+std::size_t zvProcess::terminalColumns(std::FILE* stream) {
+    constexpr std::size_t usualColumns = 80;
+    struct winsize size {};
+    if (::isatty(::fileno(stream)) == 0) {
+        return 0;
+    }
+    const bool isKnown = ::ioctl(::fileno(stream), TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
+    return isKnown ? size.ws_col : usualColumns;
 }
 
 namespace {

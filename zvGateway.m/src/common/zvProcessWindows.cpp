@@ -129,6 +129,13 @@ std::FILE* zvProcess::reserveStandardOutput() {
     return stream;
 }
 
+std::size_t zvProcess::terminalColumns(std::FILE* stream) {
+    CONSOLE_SCREEN_BUFFER_INFO screen{};
+    const auto handle = reinterpret_cast<HANDLE>(::_get_osfhandle(_fileno(stream)));
+    const bool isTerminal = ::GetConsoleScreenBufferInfo(handle, &screen) != 0;
+    return isTerminal ? static_cast<std::size_t>(screen.srWindow.Right - screen.srWindow.Left + 1) : 0;
+}
+
 namespace {
 
 std::atomic<int> noted{0};
