@@ -33,6 +33,7 @@ parser.add_argument("--forget-rest", action="store_true", help="accepts REST, an
 parser.add_argument("--ignore-ascii", action="store_true", help="accepts TYPE A, and converts nothing")
 parser.add_argument("--system", metavar="NAME", help="its answer to SYST")
 parser.add_argument("--pasv-host", metavar="IP", help="the host that its answers to PASV name")
+parser.add_argument("--rate", metavar="BYTES", type=int, help="it takes and gives no more of a file in a second")
 parser.add_argument("--log", metavar="FILE", help="gets the commands, and the number of bytes of each upload")
 parser.add_argument("--fault", choices=["exit", "drop", "stop", "cut", "mkd"],
                     help="what happens in the middle of a transfer; mkd: no answer to MKD, which was carried out")
@@ -95,6 +96,11 @@ def fail(channel, count):
         channel.cmd_channel.close()
 
 
+def keep_rate(count):
+    if options.rate:
+        time.sleep(count / options.rate)
+
+
 class Faulty:
     """Of a data channel."""
 
@@ -108,11 +114,14 @@ class Faulty:
 
     def send(self, data):
         sent = super().send(data)
+        keep_rate(sent)
         fail(self, self.tot_bytes_sent)
         return sent
 
     def handle_read(self):
+        before = self.tot_bytes_received
         super().handle_read()
+        keep_rate(self.tot_bytes_received - before)
         fail(self, self.tot_bytes_received)
 
     def handle_ssl_established(self):

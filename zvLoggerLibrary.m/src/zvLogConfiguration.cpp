@@ -3,8 +3,11 @@
 #include <log4cxx/file.h>
 #include <log4cxx/helpers/loglog.h>
 #include <log4cxx/helpers/transcoder.h>
+#include <log4cxx/jsonlayout.h>
 #include <log4cxx/mdc.h>
+#include <log4cxx/patternlayout.h>
 #include <log4cxx/xml/domconfigurator.h>
+#include <log4cxx/xml/xmllayout.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -37,6 +40,27 @@ LogString decode(std::string_view text) {
 const char* shortName(const char* file) {
     const std::size_t separator = zvTextCodec::lastSeparator(file);
     return separator == std::string_view::npos ? file : file + separator + 1;
+}
+
+// No text object, which would be gone when the last lines of a process are written.
+constexpr log4cxx::logchar eventIdKey[] = LOG4CXX_STR("EventId");
+
+bool showsEventId(const log4cxx::LayoutPtr& layout) {
+    if (const auto pattern = log4cxx::cast<log4cxx::PatternLayout>(layout)) {
+        return pattern->getConversionPattern().find(LOG4CXX_STR("{EventId}")) != LogString::npos;
+    }
+    const auto xml = log4cxx::cast<log4cxx::xml::XMLLayout>(layout);
+    return xml == nullptr ? log4cxx::cast<log4cxx::JSONLayout>(layout) != nullptr : xml->getProperties();
+}
+
+// The layouts stand with the appenders behind one that only passes lines on.
+bool showsEventId(const log4cxx::AppenderPtr& appender) {
+    if (const auto passing = log4cxx::cast<log4cxx::spi::AppenderAttachable>(appender)) {
+        const log4cxx::AppenderList appenders = passing->getAllAppenders();
+        return std::all_of(appenders.begin(), appenders.end(),
+                           [](const log4cxx::AppenderPtr& next) { return showsEventId(next); });
+    }
+    return appender->getLayout() == nullptr || showsEventId(appender->getLayout());
 }
 
 bool isLogRequired() { return !zvPlatform::environment("GATEWAY_LOG_REQUIRED").empty(); }
@@ -80,6 +104,7 @@ void zvLogConfiguration::adoptAppenders(const log4cxx::Logger& logger) {
         if (file != nullptr && std::none_of(m_files.begin(), m_files.end(), isKnown)) {
             m_files.emplace_back(file);
         }
+        m_bShowsEventId = m_bShowsEventId && showsEventId(appender);
         m_bCanWrite = m_bCanWrite || file == nullptr || file->getWriter() != nullptr ||
                       !zvFileAppenders::openingError(*file).empty();
     }
@@ -97,13 +122,26 @@ bool zvLogConfiguration::reportUnopenable(const zvLogFile& logFile) {
     return !reason.empty();
 }
 
+void zvLogConfiguration::setEventId(std::string_view eventId) {
+    if (eventId.empty()) {
+        LogString removed;
+        log4cxx::MDC::remove(eventIdKey, removed);
+    } else {
+        log4cxx::MDC::putLS(eventIdKey, decode(eventId));
+    }
+}
+
 void zvLogConfiguration::write(const log4cxx::LevelPtr& level, const char* loggerName, const char* message,
                                const char* file, int line) {
     const LoggerPtr& logger = find(loggerName);
     if (!logger->isEnabledFor(level)) {
         return;
     }
-    const LogString text = decode(message);
+    LogString text = decode(message);
+    LogString eventId;
+    if (!m_bShowsEventId && log4cxx::MDC::get(eventIdKey, eventId)) {
+        text.insert(0, LOG4CXX_STR("[") + eventId + LOG4CXX_STR("] "));
+    }
     const char* const source = keep(file == nullptr ? LocationInfo::NA : file);
     const LocationInfo location(source, shortName(source), LocationInfo::NA_METHOD, line);
     const log4cxx::MDC processId("processId", std::to_string(zvPlatform::processId()));

@@ -31,6 +31,9 @@ public:
     /// required, if one of its log files cannot be opened.
     bool canWrite() const { return m_bCanWrite; }
 
+    /// The identity of the event that the calling thread works on; empty for none.
+    static void setEventId(std::string_view eventId);
+
     /// Writes one event if the logger's level allows it. Only `file` may be null. Throws log4cxx's exception
     /// if an appender fails.
     void write(const log4cxx::LevelPtr& level, const char* loggerName, const char* message, const char* file,
@@ -50,6 +53,7 @@ private:
     std::vector<zvLogFile> m_files;
     zvLogFolderLock m_lock;
     bool m_bCanWrite = false;
+    bool m_bShowsEventId = true;  // by the layout of every appender
     bool m_bReported = false;
     std::string m_lastName;
     log4cxx::LoggerPtr m_pLastLogger;

@@ -168,3 +168,12 @@ void LogFatalMessage(const char* loggerName, const char* message, const char* fi
 void LogAlwaysMessage(const char* loggerName, const char* message, const char* file, int line) {
     write(&alwaysLevel, loggerName, message, file, line);
 }
+
+void SetLogEventId(const char* eventId) {
+    try {
+        zvLogConfiguration::setEventId(eventId == nullptr ? "" : eventId);
+    } catch (const std::exception&) {
+        // Without memory the lines go without it.
+        return;
+    }
+}

@@ -3,8 +3,9 @@
 
 #include "zvExport.h"
 
-/// The interface of the logging library. A site may replace the default library with its own: only these
-/// seven functions are called.
+/// The interface of the logging library. A site may replace the default library with its own: the first seven
+/// functions are called. The eighth, SetLogEventId(), may be missing: a program that works on events looks it
+/// up.
 ///
 /// Strings are null-terminated, in the multibyte encoding of the process's locale, and need not outlive the
 /// call. The functions are thread-safe and may be called at any time, including the destruction of static
@@ -30,6 +31,11 @@ ZV_LOGGER_API void LogErrorMessage(const char* loggerName, const char* message, 
 ZV_LOGGER_API void LogFatalMessage(const char* loggerName, const char* message, const char* file, int line);
 /// Writes regardless of the thresholds of logger and appender.
 ZV_LOGGER_API void LogAlwaysMessage(const char* loggerName, const char* message, const char* file, int line);
+
+/// Sets the identity of the event that the calling thread works on from now on; null or an empty text for
+/// none. Every line of the thread carries it: as %X{EventId} in the layout's pattern, and in brackets before
+/// the message if an appender's layout does not show it. May be called before InitializeLogger().
+ZV_LOGGER_API void SetLogEventId(const char* eventId);
 }
 
 #endif

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <future>
@@ -10,6 +12,8 @@
 #include <set>
 #include <sstream>
 #include <string>
+#include <thread>
+#include <utility>
 
 #include "zvLoggerLibrary.h"
 #include "zvLoggerTestMessage.h"
@@ -42,13 +46,13 @@ protected:
     /// Writes a configuration whose root logger has `level` and an appender with `parameters` to
     /// "logs/out.log", in a missing folder.
     std::string configuration(const std::string& level, const std::string& parameters,
-                              const std::string& type = "FileAppender") const {
+                              const std::string& type = "FileAppender",
+                              const std::string& pattern = "%p|%c|%F|%L|%m%n") const {
         return documentStart + (R"(<appender name="file" class="org.apache.log4j.)" + type + "\">") +
                parameter("File", (m_folder / "logs" / "out.log").string()) + parameters +
                R"(<layout class="org.apache.log4j.PatternLayout">)" +
-               parameter("ConversionPattern", "%p|%c|%F|%L|%m%n") +
-               R"(</layout></appender><root><level value=")" + level +
-               R"("/><appender-ref ref="file"/></root></log4j:configuration>)";
+               parameter("ConversionPattern", pattern) + R"(</layout></appender><root><level value=")" +
+               level + R"("/><appender-ref ref="file"/></root></log4j:configuration>)";
     }
 
     /// The lines of all log files, backups included.
@@ -259,6 +263,57 @@ TEST_F(zvLoggerLibraryTest, ARequiredLogThatCannotBeOpenedIsRefused) {
     ::unsetenv("GATEWAY_LOG_REQUIRED");
 }
 
+TEST_F(zvLoggerLibraryTest, EveryLineOfAnEventCarriesItsIdentity) {
+    const std::pair<const char*, Lines> cases[] = {
+        {"%X{EventId}|%m%n", {"before|1", "gr\xC3\xBC|2", "|3", "other|4", "gr\xC3\xBC|5", "|6"}},
+        {"%m%n", {"[before] 1", "[gr\xC3\xBC] 2", "3", "[other] 4", "[gr\xC3\xBC] 5", "6"}}};
+    for (const auto& [pattern, expected] : cases) {
+        fs::remove_all(m_folder / "logs");
+        SetLogEventId("before");
+        const std::string content = configuration("info", "", "FileAppender", pattern);
+        ASSERT_TRUE(InitializeLogger(write(std::to_string(content.size()) + ".xml", content).c_str()));
+        LogInfoMessage("a", "1", "f", 1);
+        SetLogEventId("gr\xC3\xBC");
+        LogInfoMessage("a", "2", "f", 1);
+        std::thread([] {
+            LogInfoMessage("a", "3", "f", 1);
+            SetLogEventId("other");
+            LogInfoMessage("a", "4", "f", 1);
+        }).join();
+        LogInfoMessage("a", "5", "f", 1);
+        SetLogEventId(pattern[1] == 'm' ? "" : nullptr);
+        LogInfoMessage("a", "6", "f", 1);
+        EXPECT_EQ(lines(), expected) << pattern;
+    }
+}
+
+TEST_F(zvLoggerLibraryTest, TheSampleHomeTellsTheOffsetFromUtc) {
+    ::setenv("GATEWAY_HOME", m_folder.c_str(), 1);
+    // The last one has summer time all year.
+    for (const char* const zone : {"UTC", "Europe/Berlin", "Asia/Kathmandu", "America/St_Johns",
+                                   "Pacific/Kiritimati", "AST4ADT,0/0,J365/25"}) {
+        fs::remove_all(m_folder / "logs");
+        ::setenv("TZ", zone, 1);
+        ASSERT_TRUE(run(ZV_SAMPLE_LOG_CONFIGURATION, "zone", 1));
+        const Lines found = lines();
+        ASSERT_FALSE(found.empty());
+        std::tm time{};
+        std::array<char, 6> offset{};
+        ASSERT_EQ(
+            std::sscanf(found.begin()->c_str(), "%d-%d-%d %d:%d:%d,%*3d %5s [", &time.tm_year, &time.tm_mon,
+                        &time.tm_mday, &time.tm_hour, &time.tm_min, &time.tm_sec, offset.data()),
+            7);
+        time.tm_year -= 1900;
+        time.tm_mon -= 1;
+        // Z for UTC, otherwise hours and minutes.
+        const int number = std::atoi(offset.data());
+        const int seconds = (number / 100 * 60 + number % 100) * 60;
+        EXPECT_EQ(number == 0, offset[0] == 'Z') << zone;
+        EXPECT_LT(std::abs(::timegm(&time) - seconds - std::time(nullptr)), 600) << zone << *found.begin();
+    }
+    ::unsetenv("TZ");
+}
+
 TEST_F(zvLoggerLibraryTest, TheSampleHomeLogsBelowItself) {
     ::setenv("GATEWAY_HOME", m_folder.c_str(), 1);
     ASSERT_TRUE(InitializeLogger(ZV_SAMPLE_LOG_CONFIGURATION));
@@ -266,8 +321,9 @@ TEST_F(zvLoggerLibraryTest, TheSampleHomeLogsBelowItself) {
     LogInfoMessage("com.qrsl.products.lkbridge.product", "gr\xC3\xBC\xC3\x9F", "x.m/src/y", 8);
     const Lines found = lines();
     ASSERT_EQ(found.size(), 1U);
-    const std::regex expected(R"([0-9]{4}-[0-9]{2}-[0-9]{2} [0-9:]{8},[0-9]{3} \[[0-9]+\] INFO   )"
-                              R"(com[.]qrsl[.]products[.]lkbridge[.]product \(x[.]m/src/y:8\) )"
-                              "gr\xC3\xBC\xC3\x9F");
+    const std::regex expected(
+        R"([0-9]{4}-[0-9]{2}-[0-9]{2} [0-9:]{8},[0-9]{3} (Z|[+-][0-9]{4}) \[[0-9]+\] \[\] )"
+        R"(INFO   com[.]qrsl[.]products[.]lkbridge[.]product \(x[.]m/src/y:8\) )"
+        "gr\xC3\xBC\xC3\x9F");
     EXPECT_TRUE(std::regex_match(*found.begin(), expected)) << *found.begin();
 }

@@ -33,6 +33,16 @@ jboolean JNICALL isCancelled(JNIEnv*, jclass) {
     }
 }
 
+void JNICALL receiveProgress(JNIEnv* env, jclass, jstring file, jlong bytes, jlong total) {
+    try {
+        if (currentObserver != nullptr) {
+            currentObserver->progress(zvJniFrame(*env).toText(file), bytes, total);
+        }
+    } catch (...) {
+        // As above.
+    }
+}
+
 }  // namespace
 
 void zvFSNotices::receive(const zvJniFrame& frame) {
@@ -40,13 +50,17 @@ void zvFSNotices::receive(const zvJniFrame& frame) {
     static char receiveSignature[] = "(Ljava/lang/String;)V";
     static char cancelledName[] = "isCancelled";
     static char cancelledSignature[] = "()Z";
+    static char progressName[] = "receiveProgress";
+    static char progressSignature[] = "(Ljava/lang/String;JJ)V";
     try {
         frame.registerNative(noticesClass,
                              {receiveName, receiveSignature, reinterpret_cast<void*>(receiveNotice)});
         frame.registerNative(noticesClass,
                              {cancelledName, cancelledSignature, reinterpret_cast<void*>(isCancelled)});
+        frame.registerNative(noticesClass,
+                             {progressName, progressSignature, reinterpret_cast<void*>(receiveProgress)});
     } catch (const zvJavaThrown&) {
-        logger.debug("The Java client tells no notices");
+        logger.debug("The Java client does not tell everything that happens");
     }
 }
 

@@ -8,8 +8,8 @@
 /// client, one thread at a time.
 class zvFSNotices {
 public:
-    /// Registers the receiver of the notices, and what cancels operations. A client of the site's own may
-    /// have neither.
+    /// Registers the receivers of the notices and of progress, and what cancels operations. A client of the
+    /// site's own may have none of them.
     static void receive(const zvJniFrame& frame);
 
     /// Sets the observer, which is not owned, or null for none. Returns the observer before.

@@ -24,6 +24,11 @@ public:
     /// which keeps what was uploaded of a large file to be continued. Another thread may ask while the one
     /// that transfers waits for the server. The default is false.
     virtual bool isCancelled();
+    /// Called some times a second while a file is transferred, from the first fraction of a second on, with
+    /// the bytes that have been moved, and those that had arrived before if the file is continued. `total` is
+    /// the file's size, -1 if the server does not tell it. What it throws is ignored. The default does
+    /// nothing.
+    virtual void progress(const zvString& local, zvInt64 bytes, zvInt64 total);
 };
 
 #endif

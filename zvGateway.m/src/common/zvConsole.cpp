@@ -18,6 +18,16 @@ bool answered = false;
 bool mute = false;
 bool quiet = false;
 const char* heading = nullptr;  // still to be printed
+bool progressIsShown = true;
+bool lineIsRewritable = false;
+
+// At most: what may be wide on a terminal counts as two.
+std::size_t columnsOf(wchar16 unit) {
+    constexpr wchar16 firstWide = 0x1100;
+    return unit < firstWide ? 1 : 2;
+}
+
+bool isSecondOfPair(wchar16 unit) { return (unit & 0xFC00U) == 0xDC00U; }
 
 }  // namespace
 
@@ -62,7 +72,10 @@ void step(const char* name) { heading = name; }
 
 void muteSteps() { mute = true; }
 
-void setQuiet() { mute = quiet = true; }
+void setQuiet() {
+    mute = quiet = true;
+    leaveOutProgress();
+}
 
 bool isQuiet() { return quiet; }
 
@@ -70,6 +83,7 @@ void note(const std::string& text) { outcome(text, false); }
 
 void outcome(const std::string& text, bool isFailure) {
     if (!quiet || isFailure) {
+        rewrite("");
         std::fprintf(stderr, "%s\n", text.c_str());
     }
 }
@@ -78,12 +92,45 @@ void fact(const std::string& name, const std::string& value) {
     if (mute) {
         return;
     }
+    rewrite("");
     if (heading != nullptr) {
         std::fprintf(out, "%s\n", heading);
         heading = nullptr;
     }
     std::fprintf(out, "  %-22s %s\n", name.c_str(), value.c_str());
     std::fflush(out);
+}
+
+void leaveOutProgress() { progressIsShown = false; }
+
+bool showsProgress() { return progressIsShown; }
+
+std::size_t rewritableColumns() {
+    const std::size_t columns = zvProcess::terminalColumns(out);
+    // In the last column some terminals begin a new line.
+    return columns == 0 ? 0 : columns - 1;
+}
+
+void rewrite(const std::string& line) {
+    if (lineIsRewritable || !line.empty()) {
+        const std::string blanks(lineIsRewritable ? rewritableColumns() : 0, ' ');
+        std::fprintf(out, "\r%s\r%s", blanks.c_str(), line.c_str());
+        std::fflush(out);
+        lineIsRewritable = !line.empty();
+    }
+}
+
+zvString shortened(const zvString& text, std::size_t columns) {
+    constexpr std::size_t dots = 3;
+    std::size_t used = 0;
+    int fitting = text.size();  // where what fits beside the dots begins
+    for (int i = text.size(); i-- > 0;) {
+        used += columnsOf(text[i]);
+        if (used + dots <= columns && !isSecondOfPair(text[i])) {
+            fitting = i;
+        }
+    }
+    return used <= columns ? text : "..." + text.substr(fitting, text.size() - fitting);
 }
 
 std::string size(double bytes) {

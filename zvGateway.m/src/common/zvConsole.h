@@ -43,6 +43,17 @@ void note(const std::string& text);
 /// What became of an event, as a line of standard error; when quiet, only if it `isFailure`.
 void outcome(const std::string& text, bool isFailure);
 
+/// Leaves out all progress from now on.
+void leaveOutProgress();
+bool showsProgress();
+/// The columns of the line that rewrite() fills; 0 where no line can be rewritten, which is no terminal.
+std::size_t rewritableColumns();
+/// Shows the printable line where the last one stands that was shown so. Whatever is printed otherwise takes
+/// its place, and so does an empty one.
+void rewrite(const std::string& line);
+
+/// The text, its beginning replaced by "..." if it would take more columns.
+zvString shortened(const zvString& text, std::size_t columns);
 /// A size as in "4.2 MB", and what moved per second as in "12.5 MB/s".
 std::string size(double bytes);
 std::string rate(double bytes, double milliseconds);

@@ -97,7 +97,7 @@ std::string zvEventHistory::read(const std::filesystem::path& file, Detail detai
         if (detail == Detail::state && isDetail(line)) {
             continue;
         }
-        const std::string fault = understand(line, detail);
+        std::string fault = understand(line, detail);
         if (!fault.empty()) {
             return fault;
         }

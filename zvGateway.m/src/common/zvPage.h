@@ -24,11 +24,11 @@ struct Section {
 struct Frame {
     zvString title;
     /// What the search field says that can be searched for.
-    const char* searched;
+    const char* searched = "";
     std::vector<Section> sections;
     /// The page's own style, after the common one. Tables are laid out by their class; a narrow window names
     /// cells by its "td:nth-child(N)::before".
-    const char* style;
+    const char* style = "";
 };
 
 /// The text as content of an element, and as a quoted attribute.

@@ -2,6 +2,7 @@
 #define ZV_PROCESS_H
 
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <ctime>
@@ -19,6 +20,9 @@ unsigned long id();
 std::string hostName();
 /// This process's program file; empty when the system does not tell it.
 std::filesystem::path programFile();
+/// A function of the logging library that this process has loaded; null if the library has none of this name.
+using Function = void (*)();
+Function findLoggerFunction(const char* name);
 /// Sets a variable of this process's environment.
 void setEnvironment(const char* name, const char* value);
 /// Blocks the calling thread, until a request to end the process is noted at the longest. Every wait of the
@@ -45,8 +49,6 @@ bool isLocked(const std::filesystem::path& file);
 
 /// Seconds since 1970 of an instant in UTC.
 std::int64_t toSeconds(std::tm utc);
-/// The width of the terminal that standard error is; 0 if it is none.
-int terminalWidth();
 
 /// Appends to the file; if `isDurable`, returns once it is on the disk. An empty error for success.
 std::error_code appendToFile(const std::filesystem::path& file, const std::string& text, bool isDurable);
@@ -67,6 +69,9 @@ void close(int descriptor);
 /// Keeps standard output for the caller alone: what the process writes to it otherwise, libraries included,
 /// goes to standard error from now on. Null, with nothing changed, if that fails.
 std::FILE* reserveStandardOutput();
+
+/// The columns of the terminal that the stream goes to; 0 if it goes to none.
+std::size_t terminalColumns(std::FILE* stream);
 
 /// From now on a request to end the process (Ctrl-C, SIGTERM, SIGHUP) is noted: work ends where it can be
 /// ended cleanly. A second one ends the process at once.

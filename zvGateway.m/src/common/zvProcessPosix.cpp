@@ -1,3 +1,4 @@
+#include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
@@ -23,6 +24,11 @@ unsigned long zvProcess::id() { return static_cast<unsigned long>(::getpid()); }
 std::filesystem::path zvProcess::programFile() {
     std::error_code error;
     return std::filesystem::read_symlink("/proc/self/exe", error);
+}
+
+// Looked for where the library's own calls go.
+zvProcess::Function zvProcess::findLoggerFunction(const char* name) {
+    return reinterpret_cast<Function>(::dlsym(RTLD_DEFAULT, name));
 }
 
 void zvProcess::setEnvironment(const char* name, const char* value) { ::setenv(name, value, 1); }
@@ -71,15 +77,6 @@ bool zvProcess::isLocked(const std::filesystem::path& file) {
 }
 
 std::int64_t zvProcess::toSeconds(std::tm utc) { return ::timegm(&utc); }
-
-int zvProcess::terminalWidth() {
-    struct winsize size {};
-    if (::isatty(STDERR_FILENO) == 0) {
-        return 0;
-    }
-    constexpr int usual = 80;
-    return ::ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : usual;
-}
 
 std::string zvProcess::hostName() {
     std::array<char, 256> name{};
@@ -153,6 +150,16 @@ std::FILE* zvProcess::reserveStandardOutput() {
         return nullptr;
     }
     return stream;
+}
+
+std::size_t zvProcess::terminalColumns(std::FILE* stream) {
+    constexpr std::size_t usualColumns = 80;
+    struct winsize size {};
+    if (::isatty(::fileno(stream)) == 0) {
+        return 0;
+    }
+    const bool isKnown = ::ioctl(::fileno(stream), TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
+    return isKnown ? size.ws_col : usualColumns;
 }
 
 namespace {

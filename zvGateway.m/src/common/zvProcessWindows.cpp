@@ -30,6 +30,11 @@ std::filesystem::path zvProcess::programFile() {
     }
 }
 
+zvProcess::Function zvProcess::findLoggerFunction(const char* name) {
+    const HMODULE library = ::GetModuleHandleW(L"zvLogger.dll");
+    return library == nullptr ? nullptr : reinterpret_cast<Function>(::GetProcAddress(library, name));
+}
+
 void zvProcess::setEnvironment(const char* name, const char* value) {
     ::_putenv((std::string(name) + "=" + value).c_str());
 }
@@ -94,12 +99,6 @@ bool zvProcess::isLocked(const std::filesystem::path& file) {
 }
 
 std::int64_t zvProcess::toSeconds(std::tm utc) { return ::_mkgmtime64(&utc); }
-
-int zvProcess::terminalWidth() {
-    CONSOLE_SCREEN_BUFFER_INFO info{};
-    const bool isConsole = ::GetConsoleScreenBufferInfo(::GetStdHandle(STD_ERROR_HANDLE), &info) != 0;
-    return isConsole ? info.srWindow.Right - info.srWindow.Left + 1 : 0;
-}
 
 std::string zvProcess::hostName() {
     std::array<char, MAX_COMPUTERNAME_LENGTH + 1> name{};
@@ -166,6 +165,13 @@ std::FILE* zvProcess::reserveStandardOutput() {
         return nullptr;
     }
     return stream;
+}
+
+std::size_t zvProcess::terminalColumns(std::FILE* stream) {
+    CONSOLE_SCREEN_BUFFER_INFO screen{};
+    const auto handle = reinterpret_cast<HANDLE>(::_get_osfhandle(_fileno(stream)));
+    const bool isTerminal = ::GetConsoleScreenBufferInfo(handle, &screen) != 0;
+    return isTerminal ? static_cast<std::size_t>(screen.srWindow.Right - screen.srWindow.Left + 1) : 0;
 }
 
 namespace {

@@ -6,7 +6,7 @@
 #include <iostream>
 #include <map>
 
-#define XXH_INLINE_ALL
+#define XXH_INLINE_ALL  // NOLINT(readability-identifier-naming): the header's own
 #include <xxhash.h>
 
 #include "zvArgumentTexts.h"
@@ -86,7 +86,7 @@ void zvBatchCommand::takeAll(std::istream& stream, double size, zvEventRunner& r
     const std::unique_ptr<zvBatchInput> input = zvBatchInput::open(stream, inputFormat());
     zvBatchEntry entry;
     while (zvProcess::notedSignal() == 0 && input->next(entry)) {
-        const zvEventOutcome outcome = take(entry, runner, tally);
+        const zvEventOutcome outcome = take(entry, runner);
         tally.add(outcome, entry.line, size > 0 ? static_cast<double>(input->bytes()) / size : -1);
         const bool isFailure = outcome.exitCode != zvExitCode::success;
         // Without a gateway home no other event arrives either.
@@ -96,8 +96,7 @@ void zvBatchCommand::takeAll(std::istream& stream, double size, zvEventRunner& r
     }
 }
 
-zvEventOutcome zvBatchCommand::take(const zvBatchEntry& entry, zvEventRunner& runner,
-                                    zvEventTally& tally) const {
+zvEventOutcome zvBatchCommand::take(const zvBatchEntry& entry, zvEventRunner& runner) const {
     if (!entry.fault.empty()) {
         return refused(entry.fault);
     }
@@ -124,20 +123,19 @@ zvEventOutcome zvBatchCommand::take(const zvBatchEntry& entry, zvEventRunner& ru
     for (std::string& text : texts.take()) {
         arguments.push_back(std::move(text));
     }
-    return runIn(root, entry, std::move(arguments), runner, tally);
+    return runIn(root, entry, std::move(arguments), runner);
 }
 
 zvEventOutcome zvBatchCommand::runIn(const std::string& root, const zvBatchEntry& entry,
-                                     std::vector<std::string> arguments, zvEventRunner& runner,
-                                     zvEventTally& tally) const {
+                                     std::vector<std::string> arguments, zvEventRunner& runner) const {
     const std::string directory = directoryName(entry);
     const zvFoundEvent event = zvFoundEvent::in(fs::path(root) / directory, zvEventHistory::Detail::state);
     const bool isOfThisRun =
         event.history.pid == zvProcess::id() && event.history.host == zvProcess::hostName();
     if (event.state == zvFoundEvent::State::arrived && isRecordedAs(event.history, entry)) {
         if (isOfThisRun) {
-            tally.note("line " + std::to_string(entry.line) +
-                       " repeats an earlier one, and is not taken a second time");
+            zvConsole::note("line " + std::to_string(entry.line) +
+                            " repeats an earlier one, and is not taken a second time");
         }
         zvEventOutcome outcome = event.outcome();
         outcome.kind = zvEventOutcome::Kind::arrivedBefore;

@@ -38,10 +38,9 @@ public:
 private:
     zvBatchInput::Format inputFormat() const;
     void takeAll(std::istream& stream, double size, zvEventRunner& runner, zvEventTally& tally);
-    zvEventOutcome take(const zvBatchEntry& entry, zvEventRunner& runner, zvEventTally& tally) const;
+    zvEventOutcome take(const zvBatchEntry& entry, zvEventRunner& runner) const;
     zvEventOutcome runIn(const std::string& root, const zvBatchEntry& entry,
-                         std::vector<std::string> arguments, zvEventRunner& runner,
-                         zvEventTally& tally) const;
+                         std::vector<std::string> arguments, zvEventRunner& runner) const;
     std::string directoryName(const zvBatchEntry& entry) const;
     std::string commonValue(const char* key) const;
     bool isRecordedAs(const zvEventHistory& history, const zvBatchEntry& entry) const;

@@ -23,7 +23,7 @@ private:
     void parse(const char* text, std::size_t size);
     [[noreturn]] void failAt(long line, const std::string& reason) const;
 
-    csv_parser m_parser;
+    csv_parser m_parser{};
     std::vector<std::string> m_header;
     std::vector<std::string> m_row;
     long m_firstLine = 0;

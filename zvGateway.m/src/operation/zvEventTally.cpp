@@ -5,19 +5,16 @@
 #include <nlohmann/json.hpp>
 
 #include "zvConsole.h"
-#include "zvProcess.h"
-#include "zvTimeSpan.h"
 
 namespace {
 
 constexpr std::chrono::milliseconds terminalPause{200};
 constexpr std::chrono::seconds linePause{10};
-constexpr int barWidth = 24;
 
 std::string bar(double share) {
-    const int done = static_cast<int>(share * barWidth);
-    return "[" + std::string(static_cast<std::size_t>(done), '=') +
-           std::string(static_cast<std::size_t>(barWidth - done), ' ') + "] ";
+    constexpr double width = 24;
+    const auto done = static_cast<std::size_t>(std::min(share, 1.0) * width);
+    return "[" + std::string(done, '=') + std::string(static_cast<std::size_t>(width) - done, ' ') + "] ";
 }
 
 std::string fixed(double value, const char* format) {
@@ -31,8 +28,6 @@ std::string fixed(double value, const char* format) {
 
 zvEventTally::zvEventTally(std::string verb, bool asJson, bool tellsArrived)
     : m_strVerb(std::move(verb)), m_bAsJson(asJson), m_bTellsArrived(tellsArrived) {}
-
-zvEventTally::~zvEventTally() { clearStatus(); }
 
 void zvEventTally::add(const zvEventOutcome& outcome, long line, double share) {
     count(outcome);
@@ -72,19 +67,12 @@ void zvEventTally::tellOutcome(const zvEventOutcome& outcome, long line) {
         zvConsole::print(json.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n");
         zvConsole::flush();
     } else if (isFailure || m_bTellsArrived) {
-        clearStatus();
         zvConsole::outcome((line > 0 ? "line=" + std::to_string(line) + " " : "") + outcome.text(),
                            isFailure);
     }
 }
 
-void zvEventTally::note(const std::string& text) {
-    clearStatus();
-    zvConsole::note(text);
-}
-
 void zvEventTally::finish() {
-    clearStatus();
     const double seconds = std::chrono::duration<double>(Clock::now() - m_start).count();
     zvConsole::note(m_strVerb + ": " + counts() + " in " + fixed(seconds, "%.1f s"));
 }
@@ -104,41 +92,30 @@ std::string zvEventTally::counts() const {
     return text;
 }
 
-std::string zvEventTally::progress(double share) const {
-    const double seconds = std::chrono::duration<double>(Clock::now() - m_start).count();
+std::string zvEventTally::progress(double share) {
+    const Clock::time_point now = Clock::now();
+    const double seconds = std::chrono::duration<double>(now - m_start).count();
     const long taken = m_arrived + m_tried + m_stopped;
     std::string text =
         counts() + ", " + fixed(static_cast<double>(taken) / std::max(seconds, 1e-3), "%.1f/s");
     if (share > 0) {
-        constexpr double percent = 100;
-        text += ", " + fixed(share * percent, "%.0f %%") + ", " +
-                zvTimeSpan::text(static_cast<std::int64_t>(seconds / share - seconds)) + " left";
+        m_meter.reach(share, now);
+        text += ", " + m_meter.percent(1) + ", " + m_meter.timeLeft(1);
     }
     return text;
 }
 
 void zvEventTally::tellProgress(double share) {
-    const int width = zvConsole::isQuiet() ? 0 : zvProcess::terminalWidth();
+    const std::size_t columns = zvConsole::rewritableColumns();
     const auto now = Clock::now();
-    if (now - m_lastTold < (width > 0 ? Clock::duration(terminalPause) : Clock::duration(linePause))) {
+    const auto pause = columns > 0 ? Clock::duration(terminalPause) : Clock::duration(linePause);
+    if (!zvConsole::showsProgress() || now - m_lastTold < pause) {
         return;
     }
     m_lastTold = now;
-    if (width == 0) {
+    if (columns == 0) {
         zvConsole::note(m_strVerb + ": " + progress(share));
-        return;
-    }
-    clearStatus();
-    std::string status = (share > 0 ? bar(share) : "") + progress(share);
-    status.resize(std::min(status.size(), static_cast<std::size_t>(width - 1)));
-    std::fprintf(stderr, "%s", status.c_str());
-    std::fflush(stderr);
-    m_statusLength = status.size();
-}
-
-void zvEventTally::clearStatus() {
-    if (m_statusLength > 0) {
-        std::fprintf(stderr, "\r%s\r", std::string(m_statusLength, ' ').c_str());
-        m_statusLength = 0;
+    } else {
+        zvConsole::rewrite(((share > 0 ? bar(share) : "") + progress(share)).substr(0, columns));
     }
 }

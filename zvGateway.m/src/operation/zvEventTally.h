@@ -1,10 +1,10 @@
 #ifndef ZV_EVENT_TALLY_H
 #define ZV_EVENT_TALLY_H
 
-#include <chrono>
 #include <string>
 
 #include "zvEventOutcome.h"
+#include "zvProgressMeter.h"
 
 /// Counts what becomes of many events, and tells it: a line for each on standard error, or an object on
 /// standard output, and how far the work is; on a terminal in a status line, otherwise every ten seconds.
@@ -13,29 +13,23 @@ public:
     /// `verb` is what is done with the events, as in "batch"; `tellsArrived` whether those that arrived get a
     /// line, too.
     zvEventTally(std::string verb, bool asJson, bool tellsArrived);
-    zvEventTally(const zvEventTally&) = delete;
-    zvEventTally& operator=(const zvEventTally&) = delete;
-    ~zvEventTally();
 
     /// `line` is the input's line that has the event; 0 for none. `share` is how much of the work is done,
     /// from 0 to 1; less than 0 when nobody knows.
     void add(const zvEventOutcome& outcome, long line, double share);
-    /// A line beside the events' own.
-    void note(const std::string& text);
     /// The line at the end.
     void finish();
 
     bool hasAllArrived() const { return m_stopped + m_held == 0; }
 
 private:
-    using Clock = std::chrono::steady_clock;
+    using Clock = zvProgressMeter::Clock;
 
     void count(const zvEventOutcome& outcome);
     void tellOutcome(const zvEventOutcome& outcome, long line);
     void tellProgress(double share);
     std::string counts() const;
-    std::string progress(double share) const;
-    void clearStatus();
+    std::string progress(double share);
 
     std::string m_strVerb;
     bool m_bAsJson;
@@ -47,7 +41,7 @@ private:
     long m_held = 0;
     Clock::time_point m_start = Clock::now();
     Clock::time_point m_lastTold = m_start;
-    std::size_t m_statusLength = 0;
+    zvProgressMeter m_meter{0, m_start};
 };
 
 #endif

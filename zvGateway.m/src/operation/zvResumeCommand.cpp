@@ -78,7 +78,7 @@ long zvResumeCommand::countOpen() const {
 }
 
 fs::path zvResumeCommand::find(const std::string& event) const {
-    const fs::path named = fs::path(root) / event;
+    fs::path named = fs::path(root) / event;
     std::error_code error;
     if (fs::path(event).filename() == event && event != "." && event != ".." &&
         fs::is_directory(named, error)) {

@@ -4,6 +4,34 @@
 #include <cstdio>
 #include <random>
 
+#include "zvEventRecord.h"
+
+namespace {
+
+zvString valueOf(const std::vector<std::string>& arguments, const std::string& key) {
+    for (const std::string& argument : arguments) {
+        if (argument.compare(0, key.size() + 1, key + "=") == 0) {
+            return argument.substr(key.size() + 1).c_str();
+        }
+    }
+    return {};
+}
+
+}  // namespace
+
+zvString eventIdOf(const std::vector<std::string>& arguments) {
+    const zvString name = valueOf(arguments, "EventShadowDir");
+    zvString id;
+    if (!name.empty()) {
+        id = zvEventRecord::eventIdIn(
+            zvEventRecord::fileIn(valueOf(arguments, "RootShadowDir") + "\\" + name, name));
+    }
+    if (id.empty()) {
+        id = valueOf(arguments, "EventId");
+    }
+    return id.empty() ? zvString(makeEventId().c_str()) : id;
+}
+
 std::string makeEventId() {
     std::random_device device;
     std::array<unsigned, 4> words{};

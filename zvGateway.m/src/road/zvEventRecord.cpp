@@ -57,6 +57,17 @@ zvEventRecord::Given zvEventRecord::givenBy(const zvEventArguments& arguments) {
     return given;
 }
 
+zvString zvEventRecord::fileIn(const zvString& directory, const zvString& name) {
+    return directory + "\\" + name + "_record.jsonl";
+}
+
+zvString zvEventRecord::eventIdIn(const zvString& file) {
+    zvEventHistory history;
+    std::error_code error;
+    history.read(toNativePath(file), zvEventHistory::Detail::state, error);
+    return fromUtf8(history.eventId);
+}
+
 zvEventRecord::zvEventRecord(const zvString& file) : m_file(toNativePath(file)) {
     std::error_code error;
     const zvProcess::Lock lock = m_lock.take(m_file, error);

@@ -27,6 +27,12 @@ public:
     };
     static Given givenBy(const zvEventArguments& arguments);
 
+    /// The path of the record in an event's directory of this name.
+    static zvString fileIn(const zvString& directory, const zvString& name);
+    /// The identity in the file; empty if there is none. Takes no lock, and leaves every fault to the
+    /// constructor.
+    static zvString eventIdIn(const zvString& file);
+
     /// Takes an advisory lock on the file, held as long as the object lives, and reads it. Throws the
     /// zvStepFailure of a file that cannot be used, or that another process has locked.
     explicit zvEventRecord(const zvString& file);

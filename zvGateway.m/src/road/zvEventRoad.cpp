@@ -4,6 +4,7 @@
 #include "zvAttachmentsStep.h"
 #include "zvConfigurationStep.h"
 #include "zvConsole.h"
+#include "zvEventId.h"
 #include "zvGatewayHomeStep.h"
 #include "zvInterruption.h"
 #include "zvMappingStep.h"
@@ -47,6 +48,8 @@ zvEventRoad::zvEventRoad(zvRoadSession& session, std::vector<std::string> argume
 }
 
 void zvEventRoad::run() {
+    m_event.eventId = eventIdOf(m_event.commandLine);
+    m_event.logContext.setEventId(m_event.eventId);
     try {
         walk();
     } catch (const zvProgramFailure& failure) {

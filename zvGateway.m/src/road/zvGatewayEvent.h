@@ -9,6 +9,7 @@
 #include "zvAttachmentList.h"
 #include "zvEventArguments.h"
 #include "zvEventRecord.h"
+#include "zvLogContext.h"
 #include "zvRoadReport.h"
 #include "zvRoadSession.h"
 
@@ -21,6 +22,9 @@ struct zvGatewayEvent {
     explicit zvGatewayEvent(zvRoadSession& shared) : session(shared) {}
 
     zvRoadSession& session;
+    /// The identity that it gets unless its record has one.
+    zvString eventId;
+    zvLogContext logContext;
     /// As given, `key=value` each.
     std::vector<std::string> commandLine;
     /// The names of the session's secrets that become arguments of the event; null for all.

@@ -7,7 +7,6 @@
 
 #include "zvConsole.h"
 #include "zvDirFileUtils.h"
-#include "zvEventId.h"
 #include "zvNativePath.h"
 
 namespace {
@@ -57,8 +56,8 @@ zvStepOutcome zvShadowDirectoryStep::run() {
 
 // The event gets a record only when it is the one whose record is there: another one's stays as it is.
 void zvShadowDirectoryStep::beginAttempt(const zvEventRecord::Given& given) {
-    const zvString file = m_event.directory() + "\\" + m_event.argument("EventShadowDir") + "_record.jsonl";
-    auto record = std::make_unique<zvEventRecord>(file);
+    auto record = std::make_unique<zvEventRecord>(
+        zvEventRecord::fileIn(m_event.directory(), m_event.argument("EventShadowDir")));
     const zvString givenId = m_event.argument("EventId");
     std::vector<std::string> differences = record->differencesFrom(given);
     if (!givenId.empty() && !record->eventId().empty() && givenId != record->eventId()) {
@@ -70,7 +69,8 @@ void zvShadowDirectoryStep::beginAttempt(const zvEventRecord::Given& given) {
     }
     const zvString id = !record->eventId().empty() ? record->eventId()
                         : !givenId.empty()         ? givenId
-                                                   : zvString(makeEventId().c_str());
+                                                   : m_event.eventId;
+    m_event.logContext.setEventId(id);
     m_event.arguments->setEventArgument("EventId", id);
     record->beginAttempt(id, given, m_event.session.options.isDryRun);
     m_event.record = std::move(record);

@@ -229,6 +229,7 @@ bool zvTransferStep::hasArrived(const zvString& local) {
 void zvTransferStep::fileBegins(const zvString& local) {
     zvInterruption::throwIfRequested();
     m_event.record->beginFile(local);
+    m_progress.begin();
     const zvInt64 bytes = sizeOf(local);
     if (bytes >= largeFile) {
         zvConsole::fact("sending", zvConsole::printablePath(local) + ", " + sizeText(bytes));
@@ -246,6 +247,10 @@ void zvTransferStep::fileTransferred(const zvString& local, zvInt64 bytes, zvInt
                     path + ", " + sizeText(bytes) + ", " +
                         zvConsole::rate(static_cast<double>(bytes), static_cast<double>(milliseconds)));
     m_event.report.addFile({path, "sent", bytes, static_cast<double>(milliseconds)});
+}
+
+void zvTransferStep::progress(const zvString& local, zvInt64 bytes, zvInt64 total) {
+    m_progress.update(local, bytes, total);
 }
 
 void zvTransferStep::notice(const zvString& text) { zvConsole::fact("notice", zvConsole::printable(text)); }

@@ -8,6 +8,7 @@
 #include "zvProcess.h"
 #include "zvResult.h"
 #include "zvTransferObserver.h"
+#include "zvTransferProgress.h"
 
 /// The step that sends the event's files to the file server, if the gateway home's folder "config" has a file
 /// "fileserver.properties". What arrived in an earlier run is not sent again.
@@ -32,10 +33,12 @@ private:
     void fileTransferred(const zvString& local, zvInt64 bytes, zvInt64 milliseconds) override;
     void notice(const zvString& text) override;
     bool isCancelled() override;
+    void progress(const zvString& local, zvInt64 bytes, zvInt64 total) override;
 
     zvGatewayEvent& m_event;
     // Keeps the program's handlers of signals while the Java machine starts.
     std::optional<zvProcess::SignalsUntouched> m_signals;
+    zvTransferProgress m_progress;
     zvInt64 m_sentBytes = 0;
     int m_sentFiles = 0;
 };

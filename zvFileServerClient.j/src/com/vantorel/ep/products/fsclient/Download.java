@@ -29,7 +29,7 @@ final class Download {
         Path temporary = target.resolveSibling(TemporaryName.forArriving());
         try {
             retry.run(what, () -> {
-                receive(source, temporary);
+                receive(source, temporary, target);
                 return null;
             });
             Files.move(temporary, target, StandardCopyOption.ATOMIC_MOVE, StandardCopyOption.REPLACE_EXISTING);
@@ -40,15 +40,16 @@ final class Download {
         }
     }
 
-    private void receive(RemotePath source, Path temporary) throws FileServerException {
+    private void receive(RemotePath source, Path temporary, Path target) throws FileServerException {
         // In ASCII mode, the conversion of line ends may change the size.
         long expected = mode == TransferMode.BINARY ? transport.size(source) : Transport.UNKNOWN_SIZE;
-        try (LocalTarget target = LocalTarget.create(temporary, expected)) {
-            transport.receive(source, mode, target);
-            if (expected != Transport.UNKNOWN_SIZE && target.count() != expected) {
-                throw new BrokenConnectionException(target.count() + " of " + expected + " bytes arrived");
+        Progress progress = new Progress(target, expected);
+        try (LocalTarget arriving = LocalTarget.create(temporary, expected, progress)) {
+            transport.receive(source, mode, arriving);
+            if (expected != Transport.UNKNOWN_SIZE && arriving.count() != expected) {
+                throw new BrokenConnectionException(arriving.count() + " of " + expected + " bytes arrived");
             }
-            target.force();
+            arriving.force();
         } catch (IOException e) {
             throw LocalFiles.failure(e);
         }

@@ -12,6 +12,7 @@ import java.nio.file.Path;
  */
 class LocalSource extends BulkInput {
     private final long offset;
+    private final Progress progress;
     private long position;
 
     /**
@@ -19,13 +20,14 @@ class LocalSource extends BulkInput {
      * @throws FileServerException when it is not a regular file that can be read
      */
     static LocalSource open(Path file, long offset) throws FileServerException {
-        return new LocalSource(channel(file, offset), offset);
+        return new LocalSource(file, channel(file, offset), offset);
     }
 
-    LocalSource(SeekableByteChannel channel, long offset) {
+    LocalSource(Path file, SeekableByteChannel channel, long offset) throws FileServerException {
         super(Channels.newInputStream(channel));
         this.offset = offset;
         this.position = offset;
+        this.progress = new Progress(file, size(channel));
     }
 
     static SeekableByteChannel channel(Path file, long offset) throws FileServerException {
@@ -34,6 +36,14 @@ class LocalSource extends BulkInput {
         }
         try {
             return Files.newByteChannel(file).position(offset);
+        } catch (IOException e) {
+            throw LocalFiles.failure(e);
+        }
+    }
+
+    private static long size(SeekableByteChannel channel) throws FileServerException {
+        try {
+            return channel.size();
         } catch (IOException e) {
             throw LocalFiles.failure(e);
         }
@@ -55,6 +65,7 @@ class LocalSource extends BulkInput {
         try {
             int read = in.read(bytes, start, length);
             position += Math.max(read, 0);
+            progress.reached(position);
             return read;
         } catch (IOException e) {
             throw LocalFiles.failure(e);

@@ -16,25 +16,28 @@ import java.util.Set;
 final class LocalTarget extends OutputStream {
     private final FileChannel channel;
     private final long limit;
+    private final Progress progress;
     private long count;
 
     /**
      * Creates or truncates the file. A symlink is refused.
      *
      * @param limit the maximum number of bytes, or {@link Transport#UNKNOWN_SIZE}
+     * @param progress is told how many bytes have arrived
      */
-    static LocalTarget create(Path file, long limit) throws FileServerException {
+    static LocalTarget create(Path file, long limit, Progress progress) throws FileServerException {
         try {
             return new LocalTarget(FileChannel.open(file, Set.of(StandardOpenOption.CREATE, StandardOpenOption.WRITE,
-                    StandardOpenOption.TRUNCATE_EXISTING, LinkOption.NOFOLLOW_LINKS)), limit);
+                    StandardOpenOption.TRUNCATE_EXISTING, LinkOption.NOFOLLOW_LINKS)), limit, progress);
         } catch (IOException e) {
             throw LocalFiles.failure(e);
         }
     }
 
-    private LocalTarget(FileChannel channel, long limit) {
+    private LocalTarget(FileChannel channel, long limit, Progress progress) {
         this.channel = channel;
         this.limit = limit;
+        this.progress = progress;
     }
 
     /** The number of bytes written. */
@@ -58,6 +61,7 @@ final class LocalTarget extends OutputStream {
             while (buffer.hasRemaining()) {
                 channel.write(buffer);
             }
+            progress.reached(count);
         } catch (IOException e) {
             throw LocalFiles.failure(e);
         }

@@ -1,5 +1,6 @@
 package com.vantorel.ep.products.fsclient;
 
+import java.io.BufferedInputStream;
 import java.io.BufferedOutputStream;
 import java.io.IOException;
 import java.io.InputStream;
@@ -184,7 +185,8 @@ final class LocalTransport implements Transport {
         if (mode == TransferMode.BINARY) {
             return source.transferTo(target);
         }
-        InputStream text = new FromNetASCIIInputStream(source);
+        // The conversion reads a byte at a time.
+        InputStream text = new FromNetASCIIInputStream(new BufferedInputStream(source));
         if (LineEnds.ofThisHost() == LineEnds.LF) {
             return text.transferTo(target);
         }

@@ -2,13 +2,15 @@ package com.vantorel.ep.products.fsclient;
 
 /**
  * What happens during an operation without ending it, for the people who wait for it: retries, resumed
- * uploads, text that arrived with other line ends. The program that loads this class into its process may
+ * uploads, text that arrived with other line ends, how far a file is. The program that loads this class into its process may
  * register native methods to receive the texts, and to cancel an operation; otherwise nobody does.
  */
 final class Notices {
     /** Receives the notices instead of the program. */
     interface Listener {
         void notice(String text);
+
+        default void progress(String file, long bytes, long total) {}
     }
 
     /** Null for the program. */
@@ -16,6 +18,9 @@ final class Notices {
 
     /** Whether the program may have registered a method that tells. */
     private static boolean asksProgram = true;
+
+    /** Whether the program may have registered a method that receives progress. */
+    private static boolean tellsProgress = true;
 
     private Notices() {}
 
@@ -34,6 +39,21 @@ final class Notices {
     }
 
     private static native void receive(String text);
+
+    /** Passes on how far the transfer of a local file is; the total may be {@link Transport#UNKNOWN_SIZE}. */
+    static void tellProgress(String file, long bytes, long total) {
+        if (listener != null) {
+            listener.progress(file, bytes, total);
+        } else if (tellsProgress) {
+            try {
+                receiveProgress(file, bytes, total);
+            } catch (UnsatisfiedLinkError e) {
+                tellsProgress = false;
+            }
+        }
+    }
+
+    private static native void receiveProgress(String file, long bytes, long total);
 
     /** Ends an operation that the program no longer wants. */
     static void throwIfCancelled() throws CancelledException {

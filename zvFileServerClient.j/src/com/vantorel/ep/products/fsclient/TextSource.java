@@ -14,11 +14,11 @@ final class TextSource extends LocalSource {
      * @throws FileServerException when it is not a regular file that can be read
      */
     static TextSource open(Path file) throws FileServerException {
-        return new TextSource(channel(file, 0));
+        return new TextSource(file, channel(file, 0));
     }
 
-    private TextSource(SeekableByteChannel channel) {
-        super(channel, 0);
+    private TextSource(Path file, SeekableByteChannel channel) throws FileServerException {
+        super(file, channel, 0);
     }
 
     @Override
