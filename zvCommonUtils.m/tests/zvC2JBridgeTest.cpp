@@ -138,6 +138,20 @@ TEST_F(zvC2JBridgeTest, LogsThatJavaRefusesToStart) {
     });
 }
 
+TEST_F(zvC2JBridgeTest, StartsJavaWithTheOptionsOfTheProgram) {
+    inProcessOfItsOwn([] {
+        zvFSClient::addJavaOption("-Dzv.first=a b");
+        zvFSClient::addJavaOption("-Dzv.second=2");
+        ASSERT_NE(zvC2JBridge::getInstance(), nullptr);
+        EXPECT_EQ(systemProperty("zv.first"), "a b");
+        EXPECT_EQ(systemProperty("zv.second"), "2");
+    });
+    inProcessOfItsOwn([] {
+        zvFSClient::addJavaOption("-XX:NoSuchOption=1");
+        EXPECT_EQ(zvC2JBridge::getInstance(), nullptr);
+    });
+}
+
 TEST_F(zvC2JBridgeTest, UsesAJavaThatRunsAlready) {
     const std::function<void()> starts[] = {startMachine,
                                             // The calling thread is not attached.

@@ -25,7 +25,10 @@ class Receiver(http.server.BaseHTTPRequestHandler):
             file.write(form + "\n")
         with open(plan) as file:
             answers = file.read().splitlines()
-        self.answer(answers[min(number, len(answers) - 1)].split())
+        try:
+            self.answer(answers[min(number, len(answers) - 1)].split())
+        except ConnectionError:
+            pass  # Who asked is gone.
         self.close_connection = True
 
     def answer(self, words):

@@ -99,6 +99,7 @@ zvString textOrNone(Ask ask) {
 
 std::unique_ptr<zvC2JBridge> zvC2JBridge::m_pBridge;
 std::string zvC2JBridge::m_searchedPlaces;
+std::vector<std::string> zvC2JBridge::m_options;
 
 zvC2JBridge* zvC2JBridge::getInstance() {
     if (m_pBridge == nullptr) {
@@ -133,6 +134,9 @@ bool zvC2JBridge::initialize() {
     logger.debug("classpath=[", classPath.c_str(), "]");
     zvJvmOptionList options;
     options.addClassPath(classPath.c_str());
+    for (const std::string& option : m_options) {
+        options.add(option.c_str());
+    }
     if (!startMachine(options)) {
         logger.fatal("Failed to initialize the Java virtual machine");
         return false;

@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "zvException.h"
 #include "zvJniFrame.h"
@@ -19,6 +20,8 @@ public:
     /// The singleton, created on first use and owned by the class; null, with the reasons logged, if no JVM
     /// can be started. A later call retries.
     static zvC2JBridge* getInstance();
+    /// Adds an option, as the `java` command has them, for a JVM that is started later; after the class path.
+    static void addOption(const std::string& option) { m_options.push_back(option); }
     /// Where the last attempt to start a JVM looked for its library; empty before the first one.
     static zvString searchedPlaces() { return m_searchedPlaces.c_str(); }
 
@@ -48,6 +51,7 @@ private:
 
     static std::unique_ptr<zvC2JBridge> m_pBridge;
     static std::string m_searchedPlaces;
+    static std::vector<std::string> m_options;
 
     void* m_pLibrary = nullptr;
     CreateJavaVM m_pCreateJavaVM = nullptr;

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "zvC2JBridge.h"
+#include "zvCharString.h"
 #include "zvFSNotices.h"
 #include "zvLogSource.h"
 
@@ -220,6 +221,10 @@ zvFSClient* zvFSClient::getInstance(const zvString& configPath) {
 }
 
 zvFSClient* zvFSClient::getInstance() { return m_pFSClient; }
+
+void zvFSClient::addJavaOption(const zvString& option) {
+    zvC2JBridge::addOption(zvCharString(option).data());
+}
 
 void zvFSClient::setSecret(const zvString& name, const zvString& value) { knownSecrets()[name] = value; }
 

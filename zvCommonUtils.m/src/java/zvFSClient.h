@@ -28,6 +28,9 @@ public:
     static zvFSClient* getInstance(const zvString& configPath);
     /// The instance; null if it was not created.
     static zvFSClient* getInstance();
+    /// Adds an option for the JVM, as the `java` command has them. It counts for a JVM that getInstance()
+    /// starts later, and a wrong one keeps that from starting.
+    static void addJavaOption(const zvString& option);
     /// Sets a secret to which the configuration refers as ${secret:NAME}. Java gets the secrets from
     /// getInstance(configPath), as the system properties zv.secret.NAME, until it returns. They are not
     /// logged, and appear neither in the environment nor on a command line.

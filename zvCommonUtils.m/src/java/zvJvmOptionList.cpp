@@ -16,6 +16,13 @@ void zvJvmOptionList::add(zvMalloc::Array<char> option, void* extraInformation) 
     m_pOptions[static_cast<std::size_t>(m_count++)] = {option.release(), extraInformation};
 }
 
+void zvJvmOptionList::add(const char* option) {
+    const std::size_t size = std::strlen(option) + 1;
+    zvMalloc::Array<char> copy = zvMalloc::allocate<char>(size);
+    std::copy_n(option, size, copy.get());
+    add(std::move(copy));
+}
+
 void zvJvmOptionList::addClassPath(const char* classPath) {
     constexpr std::size_t roomForName = 40;
     const std::size_t size = std::strlen(classPath) + roomForName;

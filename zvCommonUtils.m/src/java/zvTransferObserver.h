@@ -21,7 +21,8 @@ public:
     /// it throws is ignored. The default does nothing.
     virtual void notice(const zvString& text);
     /// Asked again and again while the file-server client works: true ends the operation with a failure,
-    /// which keeps what was uploaded of a large file to be continued. The default is false.
+    /// which keeps what was uploaded of a large file to be continued. Another thread may ask while the one
+    /// that transfers waits for the server. The default is false.
     virtual bool isCancelled();
 };
 

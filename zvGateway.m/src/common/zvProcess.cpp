@@ -3,6 +3,10 @@
 #include <algorithm>
 #include <thread>
 
+std::error_code zvProcess::flushToDisk(const std::filesystem::path& file) {
+    return appendToFile(file, "", true);
+}
+
 void zvProcess::waitFor(std::chrono::milliseconds time) {
     constexpr std::chrono::milliseconds longestSlice{100};
     const auto end = std::chrono::steady_clock::now() + time;

@@ -51,6 +51,9 @@ int terminalWidth();
 /// Appends to the file; if `isDurable`, returns once it is on the disk. An empty error for success.
 std::error_code appendToFile(const std::filesystem::path& file, const std::string& text, bool isDurable);
 
+/// Returns once what was appended to the file is on the disk. An empty error for success.
+std::error_code flushToDisk(const std::filesystem::path& file);
+
 /// A descriptor from which the file is read; -1 and the reason in `error` if it cannot be opened.
 int openForReading(const std::filesystem::path& file, std::error_code& error);
 /// Whether this process's user owns the open file, and nobody else but the superuser has any right to it.

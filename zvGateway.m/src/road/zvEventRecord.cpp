@@ -36,6 +36,8 @@ zvString fromUtf8(const std::string& text) {
 
 std::string printable(const std::string& utf8) { return zvConsole::printable(fromUtf8(utf8)); }
 
+std::string messageOf(const std::error_code& error) { return error ? error.message() : ""; }
+
 zvStepFailure failure(const fs::path& file, const std::string& reason) {
     return {zvConsole::printable(file.string().c_str()), reason};
 }
@@ -139,8 +141,16 @@ void zvEventRecord::beginAttempt(const zvString& eventId, const Given& given, bo
     if (isDryRun) {
         line["dryRun"] = true;
     }
-    append(line, true);
+    append(line, false);
     requireWritten();
+}
+
+void zvEventRecord::secureIdentity() {
+    if (!m_bIdentitySecured) {
+        m_strFault = m_strFault.empty() ? messageOf(zvProcess::flushToDisk(m_file)) : m_strFault;
+        requireWritten();
+        m_bIdentitySecured = true;
+    }
 }
 
 void zvEventRecord::setObject(const std::string& object) {
@@ -163,7 +173,8 @@ void zvEventRecord::endAttempt(const zvProgramFailure* failure) {
                            {"subject", toUtf8(failure->subject)},
                            {"reason", toUtf8(failure->reason)}};
     }
-    append(line, true);
+    // The server's answer is on the disk already.
+    append(line, failure != nullptr);
 }
 
 bool zvEventRecord::hasArrived(const zvString& path) const {
@@ -177,10 +188,10 @@ bool zvEventRecord::hasArrived(const zvString& path) const {
 
 void zvEventRecord::beginFile(const zvString& path) { m_strSending = fileStamp(toNativePath(path)); }
 
-void zvEventRecord::setArrived(const zvString& path) {
+void zvEventRecord::setArrived(const zvString& path, bool isDurable) {
     const std::string name = nameOf(path);
     m_history.arrivals[name] = m_strSending;
-    append({{"arrived", name}, {"stamp", m_strSending}}, true);
+    append({{"arrived", name}, {"stamp", m_strSending}}, isDurable);
 }
 
 void zvEventRecord::setRemoteDirectory(RemoteDirectory state) {
@@ -198,6 +209,7 @@ void zvEventRecord::append(const ordered_json& line, bool isDurable) {
                              line.dump(-1, ' ', false, ordered_json::error_handler_t::replace) + "\n";
     const std::error_code error = zvProcess::appendToFile(m_file, text, isDurable);
     m_history.hasTornEnd = static_cast<bool>(error);
+    m_bIdentitySecured = m_bIdentitySecured || (isDurable && !error);
     if (error && m_strFault.empty()) {
         m_strFault = error.message();
     }

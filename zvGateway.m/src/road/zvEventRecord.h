@@ -39,6 +39,9 @@ public:
 
     /// Begins an attempt. Throws the zvStepFailure of a record that cannot be written.
     void beginAttempt(const zvString& eventId, const Given& given, bool isDryRun);
+    /// Returns once the event's identity is on the disk: from then on others may hear of the event. Throws a
+    /// zvStepFailure.
+    void secureIdentity();
     /// How many have begun.
     int attempts() const { return m_history.attempts; }
     /// Notes the object's type and key, for people.
@@ -53,7 +56,8 @@ public:
     bool hasArrived(const zvString& path) const;
     /// To be called before the file is sent: what changes later has not arrived.
     void beginFile(const zvString& path);
-    void setArrived(const zvString& path);
+    /// `isDurable` if something is done because of it that cannot be undone.
+    void setArrived(const zvString& path, bool isDurable);
 
     using RemoteDirectory = zvEventHistory::RemoteDirectory;
     RemoteDirectory remoteDirectory() const { return m_history.remoteDirectory; }
@@ -76,6 +80,7 @@ private:
     zvEventHistory m_history;
     zvString m_strEventId;
     std::string m_strFault;
+    bool m_bIdentitySecured = false;
     std::string m_strSending;  // the stamp of the file that is being sent
 };
 

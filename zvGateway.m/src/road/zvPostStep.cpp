@@ -15,6 +15,7 @@ zvStepOutcome zvPostStep::run() {
     if (m_event.session.options.isDryRun) {
         return zvStepOutcome::leftOut("dry run: " + arguments);
     }
+    m_event.record->secureIdentity();
     const std::string delivered = zvPostDelivery(m_event, url).run();
     m_event.record->setPosted();
     m_event.record->requireWritten();

@@ -5,7 +5,6 @@
 
 #include "zvCommonUtils.h"
 #include "zvConsole.h"
-#include "zvDeliveredFile.h"
 #include "zvDirFileUtils.h"
 #include "zvException.h"
 #include "zvFSClient.h"
@@ -21,18 +20,6 @@ namespace {
 
 // From here on a person wants to know what is going on before the file is there.
 constexpr zvInt64 largeFile = 16'000'000;
-
-// The delivered Java client, unless the site has one of its own on CLASSPATH.
-void offerClient() {
-    if (!zvCommonUtils::getEnvironmentalVariable("CLASSPATH").empty()) {
-        return;
-    }
-    const std::string jar = findDeliveredFile("../" ZV_DATA_FOLDER "/zvFileServerClient.jar",
-                                              "../zvFileServerClient.j/zvFileServerClient.jar");
-    if (!jar.empty()) {
-        zvProcess::setEnvironment("CLASSPATH", jar.c_str());
-    }
-}
 
 // The exception with where Java was looked for, which is in its result's additional information.
 zvException detailed(const zvException& exception) {
@@ -199,7 +186,7 @@ void zvTransferStep::makeDirectory() {
 }
 
 zvStepOutcome zvTransferStep::send(const zvString& configuration) {
-    offerClient();
+    m_event.session.prepareJava();
     m_event.session.secrets().forEach(
         [](const zvString& name, const zvString& value) { zvFSClient::setSecret(name, value); });
     m_signals.emplace();
@@ -222,9 +209,11 @@ void zvTransferStep::require(const zvResult& result) {
     }
 }
 
-// Asked by the client, for the first time once the Java machine has started.
+// Asked by the client, for the first time once the Java machine has started, later also by another thread.
 bool zvTransferStep::isCancelled() {
-    m_signals.reset();
+    if (m_signals) {
+        m_signals.reset();
+    }
     return zvProcess::notedSignal() != 0;
 }
 
@@ -247,8 +236,8 @@ void zvTransferStep::fileBegins(const zvString& local) {
 }
 
 void zvTransferStep::fileTransferred(const zvString& local, zvInt64 bytes, zvInt64 milliseconds) {
-    m_event.record->setArrived(local);
     // Or the files that have to be deleted would go, and nobody would know.
+    m_event.record->setArrived(local, m_event.attachments.numAttachments() > 0);
     m_event.record->requireWritten();
     ++m_sentFiles;
     m_sentBytes += bytes;

@@ -4,6 +4,7 @@ import java.io.IOException;
 import java.net.UnknownHostException;
 import java.security.cert.CertificateException;
 import java.util.Arrays;
+import javax.net.ssl.SSLException;
 import org.apache.commons.net.ftp.FTP;
 import org.apache.commons.net.ftp.FTPClient;
 import org.apache.commons.net.ftp.FTPReply;
@@ -164,7 +165,7 @@ final class FtpSession {
 
     private void connect() throws FileServerException {
         order(client -> {
-            client.connect(settings.host, settings.port);
+            encrypt(() -> client.connect(settings.host, settings.port));
             client.setSoTimeout((int) settings.timeout.toMillis());
             client.setKeepAlive(true);
             // Connecting resets it.
@@ -173,6 +174,26 @@ final class FtpSession {
             }
             return FTPReply.isPositiveCompletion(client.getReplyCode());
         });
+    }
+
+    /** The library says of a server without encryption no more than what it has answered. */
+    private void encrypt(Connecting connecting) throws IOException {
+        try {
+            connecting.run();
+        } catch (SSLException e) {
+            String said = String.valueOf(e.getMessage());
+            if (FTPReply.isNegativePermanent(replyCode())) {
+                throw new FileServerException("the server offers no TLS: it answered '" + reply() + "'");
+            } else if (said.startsWith("Unsupported or unrecognized SSL message")) {
+                throw new FileServerException("the server offers no TLS on this port, or not with this ftps-mode: "
+                        + masked(said));
+            }
+            throw e;
+        }
+    }
+
+    private interface Connecting {
+        void run() throws IOException;
     }
 
     private void login() throws FileServerException {

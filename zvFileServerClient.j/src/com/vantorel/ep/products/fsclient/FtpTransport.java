@@ -127,8 +127,7 @@ final class FtpTransport implements Transport {
                 }
                 session.require(stored);
             } catch (BrokenConnectionException e) {
-                throw guard.stalled() ? new BrokenConnectionException(
-                        "the server took nothing for " + settings.timeout.getSeconds() + " seconds") : e;
+                throw guard.reason() == null ? e : guard.reason();
             }
         }
     }

@@ -1,18 +1,25 @@
 package com.vantorel.ep.products.fsclient;
 
 import java.time.Duration;
+import java.util.concurrent.TimeUnit;
 import org.apache.commons.net.io.CopyStreamAdapter;
 
 /**
- * A watchdog for stalled uploads, since sockets have a time-out for reads but none for writes. It is notified
- * of each chunk written, and closes the connection when there was none for too long.
+ * A watchdog for uploads, since sockets have a time-out for reads but none for writes. It is notified of each
+ * chunk written, and closes the connection when there was none for too long, or when nobody wants the upload any
+ * longer.
  */
 final class StallGuard extends CopyStreamAdapter implements AutoCloseable {
+    /** Milliseconds after which it looks whether the upload is still wanted. */
+    private static final long LONGEST_SLEEP = 100;
+    /** In a millisecond. */
+    private static final long NANOSECONDS = 1_000_000;
+
     private final long limit;
     private final Runnable closeConnection;
     private final Thread thread = new Thread(this::watch, "file-server stall guard");
     private volatile long lastProgress = System.nanoTime();
-    private volatile boolean stalled;
+    private volatile FileServerException reason;
 
     /** Starts the watchdog, which runs until it is closed. */
     StallGuard(Duration limit, Runnable closeConnection) {
@@ -22,9 +29,9 @@ final class StallGuard extends CopyStreamAdapter implements AutoCloseable {
         thread.start();
     }
 
-    /** Whether the upload stalled and the connection was closed. */
-    boolean stalled() {
-        return stalled;
+    /** Why it closed the connection; null if it did not. */
+    FileServerException reason() {
+        return reason;
     }
 
     @Override
@@ -32,21 +39,41 @@ final class StallGuard extends CopyStreamAdapter implements AutoCloseable {
         lastProgress = System.nanoTime();
     }
 
+    /** Ends the watchdog, which asks and closes nothing afterwards. */
     @Override
     public void close() {
         thread.interrupt();
+        boolean isInterrupted = false;
+        while (thread.isAlive()) {
+            try {
+                thread.join();
+            } catch (InterruptedException e) {
+                isInterrupted = true;
+            }
+        }
+        if (isInterrupted) {
+            Thread.currentThread().interrupt();
+        }
     }
 
     private void watch() {
         try {
             for (long left = limit; left > 0; left = limit - (System.nanoTime() - lastProgress)) {
-                Thread.sleep(left / 1_000_000 + 1);
+                Notices.throwIfCancelled();
+                Thread.sleep(Math.min(left / NANOSECONDS + 1, LONGEST_SLEEP));
             }
-            stalled = true;
-            closeConnection.run();
+            end(new BrokenConnectionException(
+                    "the server took nothing for " + TimeUnit.NANOSECONDS.toSeconds(limit) + " seconds"));
+        } catch (CancelledException e) {
+            end(e);
         } catch (InterruptedException e) {
             // The upload has finished.
             Thread.currentThread().interrupt();
         }
+    }
+
+    private void end(FileServerException why) {
+        reason = why;
+        closeConnection.run();
     }
 }

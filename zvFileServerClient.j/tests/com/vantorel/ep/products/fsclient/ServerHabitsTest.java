@@ -1,6 +1,7 @@
 package com.vantorel.ep.products.fsclient;
 
 import static com.vantorel.ep.products.fsclient.TestFiles.notices;
+import static com.vantorel.ep.products.fsclient.TestFiles.refused;
 import static com.vantorel.ep.products.fsclient.TestFiles.tree;
 import static org.junit.Assert.assertEquals;
 import static org.junit.Assert.assertTrue;
@@ -56,6 +57,22 @@ public class ServerHabitsTest {
                     assertEquals(commands.toString(), 3, commands.size());
                     assertTrue(commands.toString(), commands.stream().allMatch(line -> line.startsWith(c[1])));
                 }
+            }
+        }
+    }
+
+    @Test
+    public void encryptionThatTheServerHasNotIsToldAtOnce() throws IOException {
+        String[][] cases = {
+                {"ftps-mode=explicit", "--port=0", "the server offers no TLS: it answered '5[0-9]{2} [^']*'"},
+                {"ftps-mode=explicit", "--unknown=AUTH", "the server offers no TLS: it answered '5[0-9]{2} [^']*'"},
+                {"ftps-mode=implicit", "--port=0", "the server offers no TLS on this port"}};
+        for (String[] c : cases) {
+            try (TestServer server = new TestServer(remote, c[1], "--log=" + log)) {
+                String url = "ftps://127.0.0.1:" + server.port;
+                List<String> told = notices(
+                        () -> refused(c[2], () -> TestServer.connect(home, url, "retries=3", c[0]).list("")));
+                assertEquals(Arrays.toString(c), "[]", told.toString());
             }
         }
     }
