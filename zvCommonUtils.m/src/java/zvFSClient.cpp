@@ -51,6 +51,9 @@ constexpr Operation setTransferMode{"setFileType", "setFileTransferMode", "(I)V"
 constexpr Operation makeNewDirectory{"mkNewDir", "mkNewDir", "(Ljava/lang/String;)Z"};
 constexpr Operation removeLeftoverFiles{"removeLeftovers", "removeLeftovers",
                                         "(Ljava/lang/String;Ljava/util/List;)V"};
+constexpr Operation writeProbe{"probe", "probe", "()V"};
+constexpr Operation findConfigurationFaults{"findFaults", "findFaults",
+                                            "(Ljava/lang/String;)[Ljava/lang/String;"};
 
 using Secrets = std::map<zvString, zvString>;
 
@@ -153,13 +156,26 @@ struct zvFSClient::Impl {
         invokeAndReceive<void>(operation, nullptr, arguments...);
     }
 
+    void findBridge() {
+        bridge = zvC2JBridge::getInstance();
+        if (bridge == nullptr) {
+            failFatally("Failed to get the C++ to Java bridge instance",
+                        zvTextBuilder::concat("The Java virtual machine was looked for in ",
+                                              zvC2JBridge::searchedPlaces()));
+        }
+    }
+
+    void getFactory(const zvJniFrame& frame) {
+        logger.info("Getting instance of FileServerClientFactory");
+        jobject const instance = frame.callStatic<jobject>(
+            factoryClass, "getInstance", "()Lcom/vantorel/ep/products/fsclient/FileServerClientFactory;");
+        factory = frame.env().NewGlobalRef(instance);
+        logger.info("Got instance of [", describe(frame, factory), "]");
+    }
+
     void createFactory(const zvString& configPath) {
         run([&](const zvJniFrame& frame) {
-            logger.info("Getting instance of FileServerClientFactory");
-            jobject const instance = frame.callStatic<jobject>(
-                factoryClass, "getInstance", "()Lcom/vantorel/ep/products/fsclient/FileServerClientFactory;");
-            factory = frame.env().NewGlobalRef(instance);
-            logger.info("Got instance of [", describe(frame, factory), "]");
+            getFactory(frame);
             zvFSNotices::receive(frame);
             logger.info("Initializing FileServerClientFactory");
             logger.info("Config file path [", configPath, "]");
@@ -201,6 +217,7 @@ struct zvFSClient::Impl {
     bool connected = false;
     std::optional<bool> lacksNewDirectory;
     std::optional<bool> lacksLeftovers;
+    std::optional<bool> lacksProbe;
 };
 
 zvFSClient* zvFSClient::m_pFSClient = nullptr;
@@ -230,6 +247,22 @@ void zvFSClient::setSecret(const zvString& name, const zvString& value) { knownS
 
 void zvFSClient::setObserver(zvTransferObserver* observer) { zvFSNotices::setObserver(observer); }
 
+bool zvFSClient::findFaults(const zvString& configPath, zvStringList& faults) {
+    Impl impl;
+    impl.findBridge();
+    const GivenSecrets secrets(impl.env());
+    return impl.run([&](const zvJniFrame& frame) {
+        impl.getFactory(frame);
+        jmethodID const method =
+            frame.findMethod(impl.factory, findConfigurationFaults.method, findConfigurationFaults.signature);
+        if (method != nullptr) {
+            frame.appendTexts(frame.call<jobjectArray>(impl.factory, method, frame.toJava(configPath)),
+                              faults);
+        }
+        return method != nullptr;
+    });
+}
+
 void zvFSClient::destroyInstance() {
     if (m_pFSClient == nullptr) {
         return;
@@ -245,12 +278,7 @@ void zvFSClient::destroyInstance() {
 
 void zvFSClient::initialize(const zvString& configPath) {
     logger.info("Initializing FSClient started");
-    m_pImpl->bridge = zvC2JBridge::getInstance();
-    if (m_pImpl->bridge == nullptr) {
-        failFatally("Failed to get the C++ to Java bridge instance",
-                    zvTextBuilder::concat("The Java virtual machine was looked for in ",
-                                          zvC2JBridge::searchedPlaces()));
-    }
+    m_pImpl->findBridge();
     const GivenSecrets secrets(m_pImpl->env());
     m_pImpl->createFactory(configPath);
     m_pImpl->createClient();
@@ -339,6 +367,16 @@ void zvFSClient::removeLeftovers(const zvString& dir, const zvStringList& localF
     logger.info("Removing incomplete files in FileServer directory [", dir, "]");
     m_pImpl->invoke(removeLeftoverFiles, dir, &localFiles);
     logger.info("Successfully removed incomplete files in FileServer directory");
+}
+
+bool zvFSClient::probe() {
+    if (m_pImpl->lacks(writeProbe, m_pImpl->lacksProbe)) {
+        return false;
+    }
+    logger.info("Writing and removing a probe in the root of FileServer");
+    m_pImpl->invoke(writeProbe);
+    logger.info("Successfully wrote and removed a probe");
+    return true;
 }
 
 bool zvFSClient::exists(const zvString& path) {
