@@ -67,19 +67,25 @@ bool zvFileServerCheck::findJava() {
 }
 
 bool zvFileServerCheck::findClient() {
-    zvString place;
-    for (const char* const name : {"FileServerClientFactory", "FileServerClient"}) {
-        const zvResult found =
-            zvJavaMachine::findClass(zvString("com.vantorel.ep.products.fsclient.") + name);
+    std::vector<zvString> names = {"com.vantorel.ep.products.fsclient.FileServerClientFactory",
+                                   "com.vantorel.ep.products.fsclient.FileServerClient"};
+    if (m_bDelivered) {
+        names.emplace_back("org.apache.commons.net.ftp.FTPClient");
+    }
+    zvString places;
+    for (const zvString& name : names) {
+        const zvResult found = zvJavaMachine::findClass(name);
         if (!found.isOk()) {
             addError(zvCheckPlace(client), zvHomeCheckKind::missingClass,
-                     "the class " + zvString(name) + " cannot be used: " + found.getMessage() +
-                         "; the class path is " + quoted(zvCommonUtils::getEnvironmentalVariable("CLASSPATH")));
+                     found.getMessage() + "; the class path is " +
+                         quoted(zvCommonUtils::getEnvironmentalVariable("CLASSPATH")));
             return false;
         }
-        place = found.getMessage();
+        if (places.find(found.getMessage()) < 0) {
+            places += (places.empty() ? "" : ", ") + found.getMessage();
+        }
     }
-    m_report.addGood(zvCheckPlace(client), "FileServerClientFactory and FileServerClient in " + place);
+    m_report.addGood(zvCheckPlace(client), "its classes are in " + places);
     return true;
 }
 
@@ -137,8 +143,8 @@ void zvFileServerCheck::checkKey(const zvJavaProperties::Key& key, Faults& fault
                      zvNearestName::suggestion(key.name, m_known).c_str());
     } else if (fault != faults.end()) {
         addError(place, zvHomeCheckKind::invalidValue, quoted(key.name) + ": " + fault->second);
-    } else {
-        m_report.addGood(place, key.name);
+    } else if (m_bDelivered) {
+        m_report.addGood(place, m_bAsked ? key.name : key.name + ", a known key");
     }
     if (fault != faults.end()) {
         faults.erase(fault);

@@ -1,5 +1,6 @@
 #include "zvLogCheck.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -10,6 +11,7 @@
 #include "zvDirFileUtils.h"
 #include "zvFindingList.h"
 #include "zvHomeCheckKind.h"
+#include "zvHomeFile.h"
 #include "zvLogger.h"
 #include "zvNativePath.h"
 #include "zvProcess.h"
@@ -47,11 +49,29 @@ zvString expanded(const zvString& text) {
     return result + text.substr(copied, text.size() - copied);
 }
 
+// Loads the file without its document type, as the logging library does, which reads no declarations.
+void load(zvXMLParser& parser, const zvString& file) {
+    std::string error;
+    std::string content = zvHomeFile::read(file, error);
+    const std::size_t begin = content.find("<!DOCTYPE");
+    const std::size_t end = content.find_first_of("[>", begin);
+    if (!error.empty() || begin == std::string::npos || end == std::string::npos || content[end] == '[') {
+        parser.loadXMLFromString(file, true);
+        return;
+    }
+    // Lines stay where they are.
+    std::replace_if(
+        content.begin() + static_cast<std::ptrdiff_t>(begin),
+        content.begin() + static_cast<std::ptrdiff_t>(end) + 1, [](char c) { return c != '\n'; }, ' ');
+    parser.loadXMLFromString(content.c_str(), false);
+}
+
 // Why lines cannot be appended to the file, which need not exist; empty if they can. Nothing is made.
 std::string appendError(const fs::path& file) {
     std::error_code error;
     if (fs::is_regular_file(file, error)) {
-        return zvProcess::appendToFile(file, "", false).message();
+        error = zvProcess::appendToFile(file, "", false);
+        return error ? error.message() : "";
     }
     if (fs::is_directory(file, error)) {
         return std::make_error_code(std::errc::is_a_directory).message();
@@ -106,7 +126,7 @@ void zvLogCheck::keepSilent() { startLog("no-gateway-home"); }
 void zvLogCheck::run() {
     zvFindingList findings;
     zvXMLParser parser(&findings);
-    parser.loadXMLFromString(m_strFile, true);
+    load(parser, m_strFile);
     for (const zvFinding& finding : findings.findings()) {
         m_report.addFault({m_strFile, finding.position}, finding, zvExitCode::gatewayHome);
     }

@@ -8,7 +8,6 @@
 #include "zvCharString.h"
 #include "zvClientConfigKey.h"
 #include "zvCommonUtils.h"
-#include "zvConsole.h"
 #include "zvProperties.h"
 
 namespace {
@@ -44,7 +43,7 @@ double readNumber(const zvProperties& properties, const char* key, double byDefa
     value.trim();
     const zvString fault = zvClientConfigKey::find(key)->faultOf(value);
     if (!fault.empty()) {
-        faults.push_back(zvConsole::printable(fault) + ": \"" + key +
+        faults.push_back(std::string(zvCharString(fault).data()) + ": \"" + key +
                          "\" of client-config.ini is left at its default");
         return byDefault;
     }
