@@ -285,7 +285,8 @@ TEST_F(zvFSClientTest, TheDeliveredClientFindsTheFaultsOfAConfiguration) {
     inProcessOfItsOwn([this] {
         Client::setSecret("given", "Secret-7");
         zvStringList faults = texts({"before"});
-        const std::string path = configuration("url=ftp://h\npassword=${secret:given}\nuser=${secret:none}\nretries=x");
+        const std::string path =
+            configuration("url=ftp://h\npassword=${secret:given}\nuser=${secret:none}\nretries=x");
         EXPECT_TRUE(Client::findFaults(path.c_str(), faults));
         ASSERT_EQ(faults.numStrings(), 5);
         EXPECT_EQ(faults.getString(1), "user");

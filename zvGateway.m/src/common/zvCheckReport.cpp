@@ -84,7 +84,8 @@ void zvCheckReport::addFault(const zvCheckPlace& place, const zvFinding& finding
 
 void zvCheckReport::addError(const zvCheckPlace& place, std::string_view kind, const zvString& text,
                              zvExitCode exitCode) {
-    addFault(place, {zvFinding::Severity::error, kind, zvString(), zvString(), place.position, text}, exitCode);
+    addFault(place, {zvFinding::Severity::error, kind, zvString(), zvString(), place.position, text},
+             exitCode);
 }
 
 void zvCheckReport::addUnreadable(const zvString& name, const zvProgramFailure& failure) {
@@ -133,8 +134,9 @@ zvExitCode zvCheckReport::finish() {
 }
 
 void zvCheckReport::printJson() const {
-    ordered_json json = {
-        {"items", ordered_json::array()}, {"files", ordered_json::array()}, {"findings", ordered_json::array()}};
+    ordered_json json = {{"items", ordered_json::array()},
+                         {"files", ordered_json::array()},
+                         {"findings", ordered_json::array()}};
     for (const Item& item : m_items) {
         ordered_json member = toJson(item.place);
         member["outcome"] = item.outcome;

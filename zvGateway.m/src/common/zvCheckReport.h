@@ -10,7 +10,8 @@
 /// What was looked at: a place in a file, or something without one.
 struct zvCheckPlace {
     /// A place in a file, given by its path.
-    zvCheckPlace(const zvString& path, zvTextPosition where = {}) : name(path), isFile(true), position(where) {}
+    zvCheckPlace(const zvString& path, zvTextPosition where = {})
+        : name(path), isFile(true), position(where) {}
     /// Something else, as in "HTTP server".
     explicit zvCheckPlace(const char* thing) : name(thing) {}
 
@@ -19,9 +20,9 @@ struct zvCheckPlace {
     zvTextPosition position;
 };
 
-/// What a check has found, told in the order in which it comes: a line for each thing or, at the end, one JSON
-/// document. A fault is told as compilers do, so that editors go to the place:
-/// `file:line:column: severity: text [kind]`.
+/// What a check has found, told in the order in which it comes: a line for each thing or, at the end, one
+/// JSON document. A fault is told as compilers do, so that editors go to the place: `file:line:column:
+/// severity: text [kind]`.
 class zvCheckReport {
 public:
     /// `isStrict`: warnings count as errors do.
@@ -34,7 +35,8 @@ public:
     /// A fault. An event that meets it ends with the exit code.
     void addFault(const zvCheckPlace& place, const zvFinding& finding, zvExitCode exitCode);
     /// The same for an error without a place of its own.
-    void addError(const zvCheckPlace& place, std::string_view kind, const zvString& text, zvExitCode exitCode);
+    void addError(const zvCheckPlace& place, std::string_view kind, const zvString& text,
+                  zvExitCode exitCode);
     /// A file that could not be read, which is told as the failure that it would be of the whole program; the
     /// check goes on with what follows. Ends the file.
     void addUnreadable(const zvString& name, const zvProgramFailure& failure);

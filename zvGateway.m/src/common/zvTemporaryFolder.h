@@ -3,7 +3,8 @@
 
 #include <filesystem>
 
-/// A new folder in the system's folder for temporary files, removed with everything in it when the object goes.
+/// A new folder in the system's folder for temporary files, removed with everything in it when the object
+/// goes.
 class zvTemporaryFolder {
 public:
     /// Throws a std::filesystem::filesystem_error.

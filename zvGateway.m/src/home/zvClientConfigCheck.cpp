@@ -116,8 +116,8 @@ void zvClientConfigCheck::checkFile(const zvClientConfigKey& key, const zvString
                  quoted(key.name) + ": " + quoted(value) + ": " + error.c_str());
     } else if (toNativePath(value).is_relative()) {
         m_report.addFault(place,
-                          {zvFinding::Severity::warning, zvHomeCheckKind::relativePath, zvString(), zvString(),
-                           place.position,
+                          {zvFinding::Severity::warning, zvHomeCheckKind::relativePath, zvString(),
+                           zvString(), place.position,
                            quoted(key.name) + ": " + quoted(value) +
                                " is counted from the folder that the program is started in"},
                           zvExitCode::gatewayHome);

@@ -122,8 +122,9 @@ void zvFileServerCheck::checkKeys(Faults faults) {
                  key.empty() ? reason : quoted(key) + ": " + reason);
     }
     if (!m_bAsked) {
-        m_report.addLeftOut(m_strFile, m_bDelivered ? "the values, which the Java client knows"
-                                                    : "keys and values, which are those of the site's client");
+        m_report.addLeftOut(m_strFile, m_bDelivered
+                                           ? "the values, which the Java client knows"
+                                           : "keys and values, which are those of the site's client");
     }
 }
 
@@ -135,12 +136,13 @@ void zvFileServerCheck::checkKey(const zvJavaProperties::Key& key, Faults& fault
         m_known.empty() || std::find(m_known.begin(), m_known.end(), key.name) != m_known.end();
     const auto [first, isNew] = m_lines.emplace(key.name, key.position.line);
     if (!isNew) {
-        addError(place, zvHomeCheckKind::repeatedKey,
-                 quoted(key.name) + " is in line " + zvString(first->second) + " already: the last one counts");
+        addError(
+            place, zvHomeCheckKind::repeatedKey,
+            quoted(key.name) + " is in line " + zvString(first->second) + " already: the last one counts");
     } else if (!isKnown) {
-        addError(place, zvHomeCheckKind::unknownKey,
-                 "there is no key " + quoted(key.name) +
-                     zvNearestName::suggestion(key.name, m_known).c_str());
+        addError(
+            place, zvHomeCheckKind::unknownKey,
+            "there is no key " + quoted(key.name) + zvNearestName::suggestion(key.name, m_known).c_str());
     } else if (fault != faults.end()) {
         addError(place, zvHomeCheckKind::invalidValue, quoted(key.name) + ": " + fault->second);
     } else if (m_bDelivered) {

@@ -8,8 +8,8 @@
 #include "zvJavaProperties.h"
 #include "zvTransferObserver.h"
 
-/// Looks at a home's "fileserver.properties", Java and its client, and at the file server: whether the account
-/// may log in, and may write and remove a file.
+/// Looks at a home's "fileserver.properties", Java and its client, and at the file server: whether the
+/// account may log in, and may write and remove a file.
 class zvFileServerCheck : private zvTransferObserver {
 public:
     zvFileServerCheck(const zvString& file, zvCheckReport& report);

@@ -84,8 +84,12 @@ void zvHomeCheck::checkFileNames(const zvString& folder) {
         const std::string suggestion = isKnown ? "" : zvNearestName::suggestion(name, missing);
         if (!suggestion.empty()) {
             m_report.addFault(zvString(file.string().c_str()),
-                              {zvFinding::Severity::warning, zvHomeCheckKind::unknownFile, zvString(), zvString(),
-                               {}, ("a file of this name is not read" + suggestion).c_str()},
+                              {zvFinding::Severity::warning,
+                               zvHomeCheckKind::unknownFile,
+                               zvString(),
+                               zvString(),
+                               {},
+                               ("a file of this name is not read" + suggestion).c_str()},
                               zvExitCode::gatewayHome);
         }
     }

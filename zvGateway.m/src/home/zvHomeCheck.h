@@ -12,12 +12,14 @@
 class zvHomeCheck {
 public:
     /// Adds the faults of a configuration file, as zvConfigurationFileCheck::addFaults() does.
-    using CheckConfiguration = std::function<bool(const std::string& file, const zvString& name, zvCheckReport&)>;
+    using CheckConfiguration =
+        std::function<bool(const std::string& file, const zvString& name, zvCheckReport&)>;
 
     zvHomeCheck(zvCheckReport& report, CheckConfiguration checkConfiguration)
         : m_report(report), m_checkConfiguration(std::move(checkConfiguration)) {}
 
-    /// Offline, the servers are left out. The secrets are those that the file server's configuration may name.
+    /// Offline, the servers are left out. The secrets are those that the file server's configuration may
+    /// name.
     void run(bool isOffline, const zvSecretStore& secrets);
 
 private:

@@ -18,7 +18,7 @@ constexpr std::string_view invalidLine = "invalid-line";
 constexpr std::string_view invalidValue = "invalid-value";
 constexpr std::string_view relativePath = "relative-path";
 // Of what the home names.
-constexpr std::string_view refusedLog = "refused-log";      ///< the logging library refuses its configuration
+constexpr std::string_view refusedLog = "refused-log";  ///< the logging library refuses its configuration
 constexpr std::string_view unwritableLog = "unwritable-log";
 constexpr std::string_view missingJava = "missing-java";
 constexpr std::string_view missingClass = "missing-class";  ///< of the Java client

@@ -37,7 +37,8 @@ std::string unescaped(const std::string& line, std::size_t& place) {
 
 std::string keyOf(const std::string& line) {
     std::string key;
-    for (std::size_t i = 0; i < line.size() && std::string(" \t\f=:").find(line[i]) == std::string::npos; ++i) {
+    for (std::size_t i = 0; i < line.size() && std::string(" \t\f=:").find(line[i]) == std::string::npos;
+         ++i) {
         key += line[i] == '\\' ? unescaped(line, i) : std::string(1, line[i]);
     }
     return key;

@@ -83,8 +83,7 @@ std::string appendError(const fs::path& file) {
     if (!fs::is_directory(folder, error)) {
         return folder.string() + " is no folder";
     }
-    const zvString reason =
-        zvDirFileUtils::getAccessError(folder.string().c_str(), zvDirFileUtils::writable);
+    const zvString reason = zvDirFileUtils::getAccessError(folder.string().c_str(), zvDirFileUtils::writable);
     return reason.empty() ? "" : folder.string() + ": " + zvCharString(reason).data();
 }
 
@@ -92,8 +91,7 @@ std::string appendError(const fs::path& file) {
 // the home is as before afterwards.
 bool startLog(const std::string& home) {
     const std::string variable = zvCharString(zvCommonUtils::getGatewayHomeEnvVariable()).data();
-    const std::string before =
-        zvCharString(zvCommonUtils::getEnvironmentalVariable(variable.c_str())).data();
+    const std::string before = zvCharString(zvCommonUtils::getEnvironmentalVariable(variable.c_str())).data();
     zvLogger::destroyInstance();
     zvProcess::setEnvironment(variable.c_str(), home.c_str());
     const zvLogger* const logger = zvLogger::getInstance();
@@ -172,7 +170,8 @@ void zvLogCheck::checkAppender(zvXMLParser& parser, xercesc::DOMElement* appende
 void zvLogCheck::checkLogFile(const zvString& path, zvTextPosition position) {
     const std::string error = appendError(toNativePath(path));
     if (error.empty()) {
-        m_report.addGood({m_strFile, position}, "lines can be appended to " + zvDirFileUtils::nativePath(path));
+        m_report.addGood({m_strFile, position},
+                         "lines can be appended to " + zvDirFileUtils::nativePath(path));
     } else {
         m_report.addError({m_strFile, position}, zvHomeCheckKind::unwritableLog,
                           zvDirFileUtils::nativePath(path) + ": " + error.c_str(), zvExitCode::gatewayHome);
