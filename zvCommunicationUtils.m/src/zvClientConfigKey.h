@@ -18,8 +18,8 @@ struct ZV_EXPORT zvClientConfigKey {
         passwordVariable,  ///< the name of an environment variable
     };
 
-    const char* name;
-    Form form;
+    const char* name = nullptr;
+    Form form = Form::url;
     /// The range of a number.
     int least = 0;
     int most = 0;

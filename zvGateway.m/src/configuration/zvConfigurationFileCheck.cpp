@@ -42,7 +42,7 @@ Findings findingsOf(const zvConfigurationReading& reading, const std::string& fi
 // A document may have any encoding, which the parser finds out of a file. In a folder of its own nothing else
 // can be included.
 std::string keepStandardInput(const zvTemporaryFolder& folder) {
-    const std::string file = (folder.path() / "standard-input.xml").string();
+    std::string file = (folder.path() / "standard-input.xml").string();
     std::string content;
     const std::error_code error = zvProcess::readToEnd(standardInputDescriptor, longestInput, content);
     if (error) {
