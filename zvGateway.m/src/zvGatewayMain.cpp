@@ -7,15 +7,13 @@
 
 #include "zvBatchCommand.h"
 #include "zvCharString.h"
-#include "zvCheckReport.h"
+#include "zvCheckCommand.h"
 #include "zvCommonUtils.h"
-#include "zvConfigurationFileCheck.h"
 #include "zvConsole.h"
 #include "zvEvaluateCommand.h"
 #include "zvEventRoad.h"
 #include "zvException.h"
 #include "zvFailure.h"
-#include "zvHomeCheck.h"
 #include "zvInterruption.h"
 #include "zvListCommand.h"
 #include "zvProcess.h"
@@ -24,6 +22,7 @@
 #include "zvRoadReport.h"
 #include "zvRoadRunner.h"
 #include "zvRoadSession.h"
+#include "zvSecretOptions.h"
 #include "zvSecrets.h"
 #include "zvShowCommand.h"
 
@@ -122,27 +121,6 @@ void goWithoutHome() {
     }
 }
 
-constexpr char checkFooter[] =
-    R"(Prints a line for each fault, as file:line:column: severity: text [kind], and their number at the end.
-Errors
-  what is left out when the file is read, a mapping rule that does not parse, and what ends the reading
-  an object that nothing reaches: an earlier one of the same types has no mapping rule
-  an attribute with an unknown data type
-Warnings
-  a name that is another attribute's already; an extension without a transfer mode
-  an object that is not reached from its local, or its remote, type alone; an object without types
-  an extension that is neither imported nor exported, or differs from another one in case only
-  "Import" or "Export" that is neither "True" nor "False"; a file object without extensions
-  a lifecycle that is empty, or has a state to which no way leads from the first one
-  a view collection without a view; an element that is not known where it stands
-Exit code 6 for errors, and with --strict for warnings.
-
-Without a file, or with --home, it is the gateway home that is looked at, which GATEWAY_HOME names: the files of its
-folder "config" with every key, the log, Java and the file server's client, and, unless --offline is given, the file
-server and the HTTP server. There is a line for each thing, with "ok", "left out" or the fault. Nothing is changed: the
-file server gets a small file that is removed at once, and the HTTP server a connection. The exit code is that of the
-first step at which an event would stop: 3, 6, 8 or 9.)";
-
 constexpr char batchFooter[] =
     R"(The input has an event on each line: a JSON object of arguments, or a row of a table whose header has the
 arguments' keys. Arguments given here are every event's. Each event has a directory, a record and a line of its
@@ -211,57 +189,6 @@ time since its first attempt, number of attempts, and what it stopped on and why
   no-record    nothing is known of it: its process was killed at once, or the directory is no event's
   unreadable   the record cannot be read)";
 
-struct CheckOptions {
-    std::vector<std::string> files;
-    bool withHome = false;
-    bool isOffline = false;
-    bool isStrict = false;
-    bool asJson = false;
-};
-
-void declareSecrets(CLI::App& command, zvRoadOptions& options, const char* use) {
-    command.add_option("--secrets", options.secretsFile,
-                       std::string("A file with a key=value on each line, ") + use +
-                           "; only its owner may have rights to it");
-    command
-        .add_option("--secrets-fd", options.secretsDescriptor,
-                    "The same from an open file descriptor, as in 3<FILE")
-        ->check(CLI::NonNegativeNumber);
-}
-
-void declareCheck(CLI::App& program, CheckOptions& options, zvRoadOptions& session) {
-    CLI::App& check =
-        *program.add_subcommand("check", "Says everything that is wrong with a configuration, or a home");
-    check.add_option("files", options.files, "The configuration files; - for standard input");
-    check.add_flag("--home", options.withHome, "Looks at the gateway home, also when there are files");
-    check.add_flag("--offline", options.isOffline, "Leaves the home's servers out");
-    check.add_flag("--strict", options.isStrict, "Warnings fail as errors do");
-    check.add_flag("--json", options.asJson, "One JSON document on standard output");
-    declareSecrets(check, session, "to which the file server's configuration may refer");
-    check.footer(checkFooter);
-}
-
-void checkHome(const CheckOptions& options, zvRoadSession& session, zvCheckReport& report) {
-    try {
-        zvHomeCheck(report, zvConfigurationFileCheck::addFaults).run(options.isOffline, session.secrets());
-    } catch (const zvStepFailure& failure) {
-        throw zvProgramFailure{zvExitCode::usage, "secrets", failure.subject, failure.reason};
-    }
-}
-
-zvExitCode runCheck(const CheckOptions& options, zvRoadSession& session) {
-    zvCheckReport report(options.asJson, options.isStrict);
-    if (options.withHome || options.files.empty()) {
-        checkHome(options, session, report);
-    } else {
-        goWithoutHome();
-    }
-    for (const std::string& file : options.files) {
-        zvConfigurationFileCheck::run(file, report);
-    }
-    return report.finish();
-}
-
 void declareShow(CLI::App& program, zvShowCommand& command) {
     CLI::App& show = *program.add_subcommand("show", "Prints a configuration for people");
     show.add_option("file", command.file, "The configuration file")->required();
@@ -302,7 +229,7 @@ void declareRoad(CLI::App& program, zvRoadOptions& options) {
             zvProcess::setEnvironment("GATEWAY_LOG_REQUIRED", "yes");
         },
         "A log that cannot be written fails the event (exit code 3)");
-    declareSecrets(program, options, "which become arguments");
+    zvSecretOptions::declare(program, options, "which become arguments");
 }
 
 // Declares the program's options, and runs what the command line asks for.
@@ -321,8 +248,8 @@ int runProgram(int argc, char** argv) {
                     "name=value or name:Type=value, the type being Integer, Float, String, Date or Boolean");
     eval.add_flag("--explain", evaluation.explain, "Prints the outcome of every part");
     eval.footer("Prints true or false. Exit code 2 for an invalid condition or attribute.");
-    CheckOptions checking;
-    declareCheck(program, checking, session.options);
+    zvCheckCommand checking(session);
+    checking.declare(program);
     zvShowCommand showing;
     declareShow(program, showing);
     zvBatchCommand batching;
@@ -363,11 +290,13 @@ int runProgram(int argc, char** argv) {
         zvRoadRunner runner(session);
         return finish(program.got_subcommand("batch") ? batching.run(runner) : resuming.run(runner));
     }
-    if (program.got_subcommand("check")) {
-        return finish(runCheck(checking, session));
+    if (program.got_subcommand("check") && checking.looksAtHome()) {
+        return finish(checking.run());
     }
     goWithoutHome();
-    return finish(eval.parsed() ? evaluation.run() : showing.run());
+    return finish(eval.parsed()                     ? evaluation.run()
+                  : program.got_subcommand("check") ? checking.run()
+                                                    : showing.run());
 }
 
 }  // namespace

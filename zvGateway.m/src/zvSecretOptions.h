@@ -1,0 +1,17 @@
+#ifndef ZV_SECRET_OPTIONS_H
+#define ZV_SECRET_OPTIONS_H
+
+namespace CLI {
+class App;
+}
+struct zvRoadOptions;
+
+/// The options that name the sources of secrets.
+namespace zvSecretOptions {
+
+/// `use` says in the help what the secrets are for.
+void declare(CLI::App& command, zvRoadOptions& options, const char* use);
+
+}  // namespace zvSecretOptions
+
+#endif
