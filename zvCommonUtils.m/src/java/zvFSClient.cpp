@@ -1,11 +1,11 @@
 #include "zvFSClient.h"
 
-#include <map>
 #include <optional>
 
 #include "zvC2JBridge.h"
 #include "zvCharString.h"
 #include "zvFSNotices.h"
+#include "zvFSSecrets.h"
 #include "zvLogSource.h"
 
 namespace {
@@ -54,47 +54,6 @@ constexpr Operation removeLeftoverFiles{"removeLeftovers", "removeLeftovers",
 constexpr Operation writeProbe{"probe", "probe", "()V"};
 constexpr Operation findConfigurationFaults{"findFaults", "findFaults",
                                             "(Ljava/lang/String;)[Ljava/lang/String;"};
-
-using Secrets = std::map<zvString, zvString>;
-
-Secrets& knownSecrets() {
-    static Secrets secrets;
-    return secrets;
-}
-
-// RAII guard that gives Java the secrets, as system properties, as long as it reads its configuration.
-class GivenSecrets {
-public:
-    explicit GivenSecrets(JNIEnv& env) : m_env(env) {
-        for (const auto& [name, value] : knownSecrets()) {
-            call("setProperty", "(Ljava/lang/String;Ljava/lang/String;)Ljava/lang/String;", name, value);
-        }
-    }
-    GivenSecrets(const GivenSecrets&) = delete;
-    GivenSecrets& operator=(const GivenSecrets&) = delete;
-    ~GivenSecrets() {
-        for (const auto& secret : knownSecrets()) {
-            call("clearProperty", "(Ljava/lang/String;)Ljava/lang/String;", secret.first);
-        }
-    }
-
-private:
-    // What was not given shows as a missing secret.
-    template <typename... Values>
-    void call(const char* method, const char* signature, const zvString& name,
-              const Values&... values) const {
-        const zvJniFrame frame(m_env);
-        try {
-            frame.callStatic<jobject>("java.lang.System", method, signature,
-                                      frame.toJava(zvTextBuilder::concat("zv.secret.", name)),
-                                      frame.toJava(values)...);
-        } catch (const zvJavaThrown&) {
-            logger.warn("A secret could not be given to Java");
-        }
-    }
-
-    JNIEnv& m_env;
-};
 
 bool isTrue(const zvJniFrame&, jboolean answer) { return answer == JNI_TRUE; }
 
@@ -243,14 +202,14 @@ void zvFSClient::addJavaOption(const zvString& option) {
     zvC2JBridge::addOption(zvCharString(option).data());
 }
 
-void zvFSClient::setSecret(const zvString& name, const zvString& value) { knownSecrets()[name] = value; }
+void zvFSClient::setSecret(const zvString& name, const zvString& value) { zvFSSecrets::set(name, value); }
 
 void zvFSClient::setObserver(zvTransferObserver* observer) { zvFSNotices::setObserver(observer); }
 
 bool zvFSClient::findFaults(const zvString& configPath, zvStringList& faults) {
     Impl impl;
     impl.findBridge();
-    const GivenSecrets secrets(impl.env());
+    const zvFSSecrets secrets(impl.env());
     return impl.run([&](const zvJniFrame& frame) {
         impl.getFactory(frame);
         jmethodID const method =
@@ -279,7 +238,7 @@ void zvFSClient::destroyInstance() {
 void zvFSClient::initialize(const zvString& configPath) {
     logger.info("Initializing FSClient started");
     m_pImpl->findBridge();
-    const GivenSecrets secrets(m_pImpl->env());
+    const zvFSSecrets secrets(m_pImpl->env());
     m_pImpl->createFactory(configPath);
     m_pImpl->createClient();
     connect();
