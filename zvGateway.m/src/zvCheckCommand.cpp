@@ -1,7 +1,5 @@
 #include "zvCheckCommand.h"
 
-#include <CLI/CLI.hpp>
-
 #include "zvCheckReport.h"
 #include "zvConfigurationFileCheck.h"
 #include "zvHomeCheck.h"

@@ -1,15 +1,13 @@
 #ifndef ZV_CHECK_COMMAND_H
 #define ZV_CHECK_COMMAND_H
 
+#include <CLI/CLI.hpp>
 #include <string>
 #include <vector>
 
 #include "zvFailure.h"
 #include "zvRoadSession.h"
 
-namespace CLI {
-class App;
-}
 class zvCheckReport;
 
 /// `zvgateway check`: tells everything that is wrong with configuration files, or with the gateway home.

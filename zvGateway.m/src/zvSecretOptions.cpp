@@ -1,6 +1,5 @@
 #include "zvSecretOptions.h"
 
-#include <CLI/CLI.hpp>
 #include <string>
 
 #include "zvRoadOptions.h"

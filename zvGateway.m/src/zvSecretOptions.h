@@ -1,9 +1,7 @@
 #ifndef ZV_SECRET_OPTIONS_H
 #define ZV_SECRET_OPTIONS_H
 
-namespace CLI {
-class App;
-}
+#include <CLI/CLI.hpp>
 struct zvRoadOptions;
 
 /// The options that name the sources of secrets.
