@@ -2,6 +2,7 @@
 #define ZV_SECRET_OPTIONS_H
 
 #include <CLI/CLI.hpp>
+
 struct zvRoadOptions;
 
 /// The options that name the sources of secrets.
