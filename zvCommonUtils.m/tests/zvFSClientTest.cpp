@@ -2,6 +2,7 @@
 
 #include <fstream>
 
+#include "zvJavaMachine.h"
 #include "zvJavaTest.h"
 
 namespace {
@@ -68,6 +69,8 @@ const Operation operations[] = {
      "removeLeftovers(d,java.util.ArrayList[l\\f])", "removeLeftovers",
      "Removing incomplete files in FileServer directory [d]",
      "Successfully removed incomplete files in FileServer directory"},
+    {[](Client& c) { return c.probe(); }, "probe()", "probe",
+     "Writing and removing a probe in the root of FileServer", "Successfully wrote and removed a probe"},
     {[](Client& c) { return c.exists("there"); }, "exists(there)", "exists",
      "Checking if file [there] exists on FileServer", "File [there] exists on FileServer"},
     {[](Client& c) { return !c.exists(""); }, "exists()", "exists",
@@ -124,8 +127,8 @@ TEST_F(zvFSClientTest, EveryOperationIsOneCall) {
 
 TEST_F(zvFSClientTest, EveryOperationPassesOnWhatJavaThrows) {
     std::string script;
-    for (const char* const method : {"get", "put", "mkDir", "mkNewDir", "removeLeftovers", "exists", "list",
-                                     "setFileTransferMode", "disconnect"}) {
+    for (const char* const method : {"get", "put", "mkDir", "mkNewDir", "removeLeftovers", "probe", "exists",
+                                     "list", "setFileTransferMode", "disconnect"}) {
         script += std::string("throw.") + method + "=java.io.IOException no \\u20AC, no \\uD83D\\uDE00\n";
     }
     Client& client = connect(script);
@@ -228,6 +231,10 @@ TEST_F(zvFSClientTest, AClientOfTheSitesOwnMayLackWhatIsNew) {
         EXPECT_TRUE(client.mkNewDir("new"));
         EXPECT_FALSE(client.mkNewDir("there"));
         client.removeLeftovers("d", files);
+        EXPECT_FALSE(client.probe());
+        zvStringList faults;
+        EXPECT_FALSE(Client::findFaults("nowhere", faults));
+        EXPECT_EQ(faults.numStrings(), 0);
         EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
         const Lines made = calls();
         EXPECT_EQ(made.size(), 6U);
@@ -270,6 +277,40 @@ TEST_F(zvFSClientTest, TheDeliveredClientTellsItsRetriesWhileItConnects) {
         const std::string expected = "Cannot connect to ftp://127.0.0.1:1: Connection refused";
         EXPECT_EQ(observer.told[0].substr(0, expected.size()), expected);
         EXPECT_NE(observer.told[1].find("; retry 2 of 2 in 0.0 s"), std::string::npos);
+    });
+}
+
+TEST_F(zvFSClientTest, TheDeliveredClientFindsTheFaultsOfAConfiguration) {
+    const zvScopedVariable classPath("CLASSPATH", ZV_CLIENT_JAR);
+    inProcessOfItsOwn([this] {
+        Client::setSecret("given", "Secret-7");
+        zvStringList faults = texts({"before"});
+        const std::string path =
+            configuration("url=ftp://h\npassword=${secret:given}\nuser=${secret:none}\nretries=x");
+        EXPECT_TRUE(Client::findFaults(path.c_str(), faults));
+        ASSERT_EQ(faults.numStrings(), 5);
+        EXPECT_EQ(faults.getString(1), "user");
+        EXPECT_EQ(narrow(faults.getString(2)).find("the secret 'none' was not given"), 0U);
+        EXPECT_EQ(faults.getString(3), "retries");
+        EXPECT_EQ(faults.getString(4), "'x' is not a whole number from 0 to 1000");
+        EXPECT_EQ(Client::getInstance(), nullptr);
+    });
+}
+
+TEST_F(zvFSClientTest, TheMachineAndTheClientsJarAreTold) {
+    const zvScopedVariable classPath("CLASSPATH", ZV_CLIENT_JAR);
+    inProcessOfItsOwn([] {
+        const zvResult started = zvJavaMachine::start();
+        EXPECT_TRUE(started.isOk());
+        EXPECT_GT(started.getMessage().find(" in "), 0);
+        testing::internal::CaptureStdout();
+        const zvResult found = zvJavaMachine::findClass("com.vantorel.ep.products.fsclient.FileServerClient");
+        EXPECT_TRUE(found.isOk());
+        EXPECT_EQ(found.getMessage(), ZV_CLIENT_JAR);
+        const zvResult missing = zvJavaMachine::findClass("no.such.Class");
+        EXPECT_FALSE(missing.isOk());
+        EXPECT_EQ(narrow(missing.getMessage()), "java.lang.NoClassDefFoundError: no/such/Class");
+        EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
     });
 }
 

@@ -34,3 +34,11 @@ void zvCommunicationUtils::queryResponseHeader() {
 }
 
 zvRequestOutcome zvCommunicationUtils::lastOutcome() const { return {}; }
+
+zvResult zvCommunicationUtils::connect(const zvString&) {
+    constexpr char noProtocol[] = "Function zvCommunicationUtils::connect(zvString) has no protocol";
+    logger.error(noProtocol);
+    zvResult result;
+    result.setMessage(noProtocol);
+    return result;
+}

@@ -44,6 +44,12 @@ public:
 
     /// More of the last request than its result says; by default, nothing.
     virtual zvRequestOutcome lastOutcome() const;
+
+    /// Connects to the server of `url` as request() does, TLS session included, and disconnects: nothing is
+    /// sent. lastOutcome() then tells of it. A client certificate is looked at by many servers with the first
+    /// request only.
+    /// @return 0 if it succeeds; otherwise -1 with the reason as message.
+    virtual zvResult connect(const zvString& url);
 };
 
 #endif

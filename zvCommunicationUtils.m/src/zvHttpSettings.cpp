@@ -4,6 +4,7 @@
 #include <map>
 #include <string>
 
+#include "zvClientConfigKey.h"
 #include "zvCurlFailure.h"
 #include "zvGatewayHome.h"
 #include "zvLogSource.h"
@@ -13,8 +14,6 @@
 namespace {
 
 constexpr zvLogSource logger("zvCommunicationUtils.m/src/zvHttpSettings");
-
-constexpr int longestTimeout = 86400;
 
 using Values = std::map<std::string, zvString>;
 
@@ -53,13 +52,12 @@ void readSeconds(const Values& values, const char* key, long& seconds) {
     if (found == values.end()) {
         return;
     }
-    const zvString& text = found->second;
-    const int number = zvString::convertUnicodeToInt(text);
-    if (number >= 1 && number <= longestTimeout && zvString(number) == text) {
-        seconds = number;
+    const zvString fault = zvClientConfigKey::find(key)->faultOf(found->second);
+    if (fault.empty()) {
+        seconds = zvString::convertUnicodeToInt(found->second);
     } else {
-        logger.warn("\"", text, "\" is no number of seconds from 1 to ", longestTimeout, ": \"", key,
-                    "\" of the file \"client-config.ini\" stays ", static_cast<int>(seconds));
+        logger.warn("", fault, ": \"", key, "\" of the file \"client-config.ini\" stays ",
+                    static_cast<int>(seconds));
     }
 }
 

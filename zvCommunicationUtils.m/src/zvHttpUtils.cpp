@@ -179,10 +179,7 @@ zvFormBody zvHttpUtils::computeHttpRequestArgs(const zvEventArguments& args) con
 
 zvResult zvHttpUtils::request(const zvString& url, const zvEventArguments& args,
                               WriteMemoryCallbackWrapper* sink) {
-    if (!m_settings) {
-        m_settings = zvHttpSettings::read();
-    }
-    m_outcome = {};
+    begin();
     logger.debug(
         "Inside function zvHttpUtils::request(zvString,zvEventArguments,WriteMemoryCallbackWrapper*)");
     zvResult result = post(url, args, sink);
@@ -193,6 +190,31 @@ zvResult zvHttpUtils::request(const zvString& url, const zvEventArguments& args,
 
 zvResult zvHttpUtils::post(const zvString& url, const zvEventArguments& args,
                            WriteMemoryCallbackWrapper* sink) {
+    std::optional<zvFormBody> body;
+    return transfer(url, [&](Transfer& transfer) {
+        body = computeHttpRequestArgs(args);
+        logger.info("Parameters to send : \"", body->shown().c_str(), "\"");
+        transfer.set(CURLOPT_POSTFIELDS, body->sent().c_str());
+        transfer.set(CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(body->sent().size()));
+        setSink(transfer, sink);
+    });
+}
+
+zvResult zvHttpUtils::connect(const zvString& url) {
+    begin();
+    return transfer(url, [](Transfer& transfer) { transfer.set(CURLOPT_CONNECT_ONLY, 1L); });
+}
+
+void zvHttpUtils::begin() {
+    if (!m_settings) {
+        m_settings = zvHttpSettings::read();
+    }
+    m_outcome = {};
+}
+
+// Performs what `setUp` makes of a transfer.
+template <class SetUp>
+zvResult zvHttpUtils::transfer(const zvString& url, SetUp setUp) {
     Transfer transfer;
     if (!transfer.isOpen()) {
         constexpr char noHandle[] = "Error in getting an handle to curl-easy interface.";
@@ -202,11 +224,7 @@ zvResult zvHttpUtils::post(const zvString& url, const zvEventArguments& args,
         return result;
     }
     transfer.set(CURLOPT_URL, zvUtf8::encode(url).c_str());
-    const zvFormBody body = computeHttpRequestArgs(args);
-    logger.info("Parameters to send : \"", body.shown().c_str(), "\"");
-    transfer.set(CURLOPT_POSTFIELDS, body.sent().c_str());
-    transfer.set(CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(body.sent().size()));
-    setSink(transfer, sink);
+    setUp(transfer);
     setConnection(transfer, *m_settings);
     setCertificates(transfer, *m_settings);
     const CURLcode code = transfer.perform();

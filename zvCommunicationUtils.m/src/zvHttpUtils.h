@@ -21,6 +21,7 @@ public:
     void queryResponse() override;
     void queryResponseHeader() override;
     zvRequestOutcome lastOutcome() const override { return m_outcome; }
+    zvResult connect(const zvString& url) override;
 
 private:
     friend class zvCommunicationFactory;
@@ -28,6 +29,9 @@ private:
 
     zvFormBody computeHttpRequestArgs(const zvEventArguments& args) const;
     zvResult post(const zvString& url, const zvEventArguments& args, WriteMemoryCallbackWrapper* sink);
+    void begin();
+    template <class SetUp>
+    zvResult transfer(const zvString& url, SetUp setUp);
 
     // Read by the first request.
     std::optional<zvHttpSettings> m_settings;

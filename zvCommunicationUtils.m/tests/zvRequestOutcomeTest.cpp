@@ -95,6 +95,26 @@ TEST_F(zvRequestOutcomeTest, ABrokenConnectionIsTold) {
     EXPECT_EQ(outcomeOf(midway.url("/204")).failure, Failure::none);
 }
 
+TEST_F(zvRequestOutcomeTest, AConnectionAloneSendsNothing) {
+    LoopbackServer server;
+    const zvString gone = LoopbackServer().url();
+    const struct {
+        zvString url;
+        bool isOk;
+        Failure failure;
+    } cases[] = {{server.url("/503"), true, Failure::none},
+                 {gone, false, Failure::connect},
+                 {"", false, Failure::settings},
+                 {server.url("/200", "https"), false, Failure::tls}};
+    for (const auto& [url, isOk, failure] : cases) {
+        const zvResult result = m_pUtils->connect(url);
+        EXPECT_EQ(result.isOk(), isOk) << narrow(url) << ": " << narrow(result.getMessage());
+        EXPECT_EQ(m_pUtils->lastOutcome().failure, failure) << narrow(url);
+    }
+    EXPECT_EQ(server.m_requests, 0);
+    EXPECT_FALSE(zvCommunicationUtils(*m_pUtils).connect(server.url()).isOk()) << "has no protocol";
+}
+
 TEST_F(zvRequestOutcomeTest, AStalledServerIsATimeout) {
     m_folder.write("config/client-config.ini", "http-stall-timeout=1\nhttp-connect-timeout=1\n");
     auto holding = std::make_unique<httplib::Server>();

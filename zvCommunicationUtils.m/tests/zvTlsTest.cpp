@@ -69,6 +69,9 @@ TEST_F(zvTlsTest, TheFailedCheckIsTold) {
     for (const auto& [name, identity, isAuthorityKnown, failure] : cases) {
         LoopbackServer server(m_authority.server(identity));
         configure(isAuthorityKnown ? caLine() : "http-connect-timeout=30\n");
+        const auto utils = create();
+        EXPECT_EQ(utils->connect(server.url("/200", "https")).isOk(), failure == TlsFailure::none) << name;
+        EXPECT_EQ(utils->lastOutcome().tlsFailure, failure) << name << ", without a request";
         const zvRequestOutcome outcome = outcomeOf(server);
         EXPECT_EQ(outcome.tlsFailure, failure) << name << ": " << narrow(outcome.errorText);
         EXPECT_EQ(outcome.failure, failure == TlsFailure::none ? Failure::none : Failure::tls) << name;

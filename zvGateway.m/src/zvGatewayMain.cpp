@@ -22,6 +22,7 @@
 #include "zvRoadReport.h"
 #include "zvRoadRunner.h"
 #include "zvRoadSession.h"
+#include "zvSecretOptions.h"
 #include "zvSecrets.h"
 #include "zvShowCommand.h"
 
@@ -120,21 +121,6 @@ void goWithoutHome() {
     }
 }
 
-constexpr char checkFooter[] =
-    R"(Prints a line for each fault, as file:line:column: severity: text [kind], and their number at the end.
-Errors
-  what is left out when the file is read, a mapping rule that does not parse, and what ends the reading
-  an object that nothing reaches: an earlier one of the same types has no mapping rule
-  an attribute with an unknown data type
-Warnings
-  a name that is another attribute's already; an extension without a transfer mode
-  an object that is not reached from its local, or its remote, type alone; an object without types
-  an extension that is neither imported nor exported, or differs from another one in case only
-  "Import" or "Export" that is neither "True" nor "False"; a file object without extensions
-  a lifecycle that is empty, or has a state to which no way leads from the first one
-  a view collection without a view; an element that is not known where it stands
-Exit code 6 for errors, and with --strict for warnings.)";
-
 constexpr char batchFooter[] =
     R"(The input has an event on each line: a JSON object of arguments, or a row of a table whose header has the
 arguments' keys. Arguments given here are every event's. Each event has a directory, a record and a line of its
@@ -203,14 +189,6 @@ time since its first attempt, number of attempts, and what it stopped on and why
   no-record    nothing is known of it: its process was killed at once, or the directory is no event's
   unreadable   the record cannot be read)";
 
-CLI::App& declareCheck(CLI::App& program, zvCheckCommand& command) {
-    CLI::App& check = *program.add_subcommand("check", "Says everything that is wrong with a configuration");
-    check.add_option("file", command.file, "The configuration file")->required();
-    check.add_flag("--strict", command.strict, "Warnings fail as errors do");
-    check.footer(checkFooter);
-    return check;
-}
-
 void declareShow(CLI::App& program, zvShowCommand& command) {
     CLI::App& show = *program.add_subcommand("show", "Prints a configuration for people");
     show.add_option("file", command.file, "The configuration file")->required();
@@ -251,14 +229,7 @@ void declareRoad(CLI::App& program, zvRoadOptions& options) {
             zvProcess::setEnvironment("GATEWAY_LOG_REQUIRED", "yes");
         },
         "A log that cannot be written fails the event (exit code 3)");
-    program.add_option(
-        "--secrets", options.secretsFile,
-        "A file with a key=value on each line, which become arguments; only its owner may have rights "
-        "to it");
-    program
-        .add_option("--secrets-fd", options.secretsDescriptor,
-                    "The same from an open file descriptor, as in 3<FILE")
-        ->check(CLI::NonNegativeNumber);
+    zvSecretOptions::declare(program, options, "which become arguments");
 }
 
 // Declares the program's options, and runs what the command line asks for.
@@ -277,8 +248,8 @@ int runProgram(int argc, char** argv) {
                     "name=value or name:Type=value, the type being Integer, Float, String, Date or Boolean");
     eval.add_flag("--explain", evaluation.explain, "Prints the outcome of every part");
     eval.footer("Prints true or false. Exit code 2 for an invalid condition or attribute.");
-    zvCheckCommand checking;
-    const CLI::App& check = declareCheck(program, checking);
+    zvCheckCommand checking(session);
+    checking.declare(program);
     zvShowCommand showing;
     declareShow(program, showing);
     zvBatchCommand batching;
@@ -319,8 +290,13 @@ int runProgram(int argc, char** argv) {
         zvRoadRunner runner(session);
         return finish(program.got_subcommand("batch") ? batching.run(runner) : resuming.run(runner));
     }
+    if (program.got_subcommand("check") && checking.looksAtHome()) {
+        return finish(checking.run());
+    }
     goWithoutHome();
-    return finish(eval.parsed() ? evaluation.run() : check.parsed() ? checking.run() : showing.run());
+    return finish(eval.parsed()                     ? evaluation.run()
+                  : program.got_subcommand("check") ? checking.run()
+                                                    : showing.run());
 }
 
 }  // namespace

@@ -1,11 +1,11 @@
 #include "zvFSClient.h"
 
-#include <map>
 #include <optional>
 
 #include "zvC2JBridge.h"
 #include "zvCharString.h"
 #include "zvFSNotices.h"
+#include "zvFSSecrets.h"
 #include "zvLogSource.h"
 
 namespace {
@@ -51,47 +51,9 @@ constexpr Operation setTransferMode{"setFileType", "setFileTransferMode", "(I)V"
 constexpr Operation makeNewDirectory{"mkNewDir", "mkNewDir", "(Ljava/lang/String;)Z"};
 constexpr Operation removeLeftoverFiles{"removeLeftovers", "removeLeftovers",
                                         "(Ljava/lang/String;Ljava/util/List;)V"};
-
-using Secrets = std::map<zvString, zvString>;
-
-Secrets& knownSecrets() {
-    static Secrets secrets;
-    return secrets;
-}
-
-// RAII guard that gives Java the secrets, as system properties, as long as it reads its configuration.
-class GivenSecrets {
-public:
-    explicit GivenSecrets(JNIEnv& env) : m_env(env) {
-        for (const auto& [name, value] : knownSecrets()) {
-            call("setProperty", "(Ljava/lang/String;Ljava/lang/String;)Ljava/lang/String;", name, value);
-        }
-    }
-    GivenSecrets(const GivenSecrets&) = delete;
-    GivenSecrets& operator=(const GivenSecrets&) = delete;
-    ~GivenSecrets() {
-        for (const auto& secret : knownSecrets()) {
-            call("clearProperty", "(Ljava/lang/String;)Ljava/lang/String;", secret.first);
-        }
-    }
-
-private:
-    // What was not given shows as a missing secret.
-    template <typename... Values>
-    void call(const char* method, const char* signature, const zvString& name,
-              const Values&... values) const {
-        const zvJniFrame frame(m_env);
-        try {
-            frame.callStatic<jobject>("java.lang.System", method, signature,
-                                      frame.toJava(zvTextBuilder::concat("zv.secret.", name)),
-                                      frame.toJava(values)...);
-        } catch (const zvJavaThrown&) {
-            logger.warn("A secret could not be given to Java");
-        }
-    }
-
-    JNIEnv& m_env;
-};
+constexpr Operation writeProbe{"probe", "probe", "()V"};
+constexpr Operation findConfigurationFaults{"findFaults", "findFaults",
+                                            "(Ljava/lang/String;)[Ljava/lang/String;"};
 
 bool isTrue(const zvJniFrame&, jboolean answer) { return answer == JNI_TRUE; }
 
@@ -153,13 +115,26 @@ struct zvFSClient::Impl {
         invokeAndReceive<void>(operation, nullptr, arguments...);
     }
 
+    void findBridge() {
+        bridge = zvC2JBridge::getInstance();
+        if (bridge == nullptr) {
+            failFatally("Failed to get the C++ to Java bridge instance",
+                        zvTextBuilder::concat("The Java virtual machine was looked for in ",
+                                              zvC2JBridge::searchedPlaces()));
+        }
+    }
+
+    void getFactory(const zvJniFrame& frame) {
+        logger.info("Getting instance of FileServerClientFactory");
+        jobject const instance = frame.callStatic<jobject>(
+            factoryClass, "getInstance", "()Lcom/vantorel/ep/products/fsclient/FileServerClientFactory;");
+        factory = frame.env().NewGlobalRef(instance);
+        logger.info("Got instance of [", describe(frame, factory), "]");
+    }
+
     void createFactory(const zvString& configPath) {
         run([&](const zvJniFrame& frame) {
-            logger.info("Getting instance of FileServerClientFactory");
-            jobject const instance = frame.callStatic<jobject>(
-                factoryClass, "getInstance", "()Lcom/vantorel/ep/products/fsclient/FileServerClientFactory;");
-            factory = frame.env().NewGlobalRef(instance);
-            logger.info("Got instance of [", describe(frame, factory), "]");
+            getFactory(frame);
             zvFSNotices::receive(frame);
             logger.info("Initializing FileServerClientFactory");
             logger.info("Config file path [", configPath, "]");
@@ -201,6 +176,7 @@ struct zvFSClient::Impl {
     bool connected = false;
     std::optional<bool> lacksNewDirectory;
     std::optional<bool> lacksLeftovers;
+    std::optional<bool> lacksProbe;
 };
 
 zvFSClient* zvFSClient::m_pFSClient = nullptr;
@@ -226,9 +202,25 @@ void zvFSClient::addJavaOption(const zvString& option) {
     zvC2JBridge::addOption(zvCharString(option).data());
 }
 
-void zvFSClient::setSecret(const zvString& name, const zvString& value) { knownSecrets()[name] = value; }
+void zvFSClient::setSecret(const zvString& name, const zvString& value) { zvFSSecrets::set(name, value); }
 
 void zvFSClient::setObserver(zvTransferObserver* observer) { zvFSNotices::setObserver(observer); }
+
+bool zvFSClient::findFaults(const zvString& configPath, zvStringList& faults) {
+    Impl impl;
+    impl.findBridge();
+    const zvFSSecrets secrets(impl.env());
+    return impl.run([&](const zvJniFrame& frame) {
+        impl.getFactory(frame);
+        jmethodID const method =
+            frame.findMethod(impl.factory, findConfigurationFaults.method, findConfigurationFaults.signature);
+        if (method != nullptr) {
+            frame.appendTexts(frame.call<jobjectArray>(impl.factory, method, frame.toJava(configPath)),
+                              faults);
+        }
+        return method != nullptr;
+    });
+}
 
 void zvFSClient::destroyInstance() {
     if (m_pFSClient == nullptr) {
@@ -245,13 +237,8 @@ void zvFSClient::destroyInstance() {
 
 void zvFSClient::initialize(const zvString& configPath) {
     logger.info("Initializing FSClient started");
-    m_pImpl->bridge = zvC2JBridge::getInstance();
-    if (m_pImpl->bridge == nullptr) {
-        failFatally("Failed to get the C++ to Java bridge instance",
-                    zvTextBuilder::concat("The Java virtual machine was looked for in ",
-                                          zvC2JBridge::searchedPlaces()));
-    }
-    const GivenSecrets secrets(m_pImpl->env());
+    m_pImpl->findBridge();
+    const zvFSSecrets secrets(m_pImpl->env());
     m_pImpl->createFactory(configPath);
     m_pImpl->createClient();
     connect();
@@ -339,6 +326,16 @@ void zvFSClient::removeLeftovers(const zvString& dir, const zvStringList& localF
     logger.info("Removing incomplete files in FileServer directory [", dir, "]");
     m_pImpl->invoke(removeLeftoverFiles, dir, &localFiles);
     logger.info("Successfully removed incomplete files in FileServer directory");
+}
+
+bool zvFSClient::probe() {
+    if (m_pImpl->lacks(writeProbe, m_pImpl->lacksProbe)) {
+        return false;
+    }
+    logger.info("Writing and removing a probe in the root of FileServer");
+    m_pImpl->invoke(writeProbe);
+    logger.info("Successfully wrote and removed a probe");
+    return true;
 }
 
 bool zvFSClient::exists(const zvString& path) {

@@ -38,6 +38,10 @@ public:
     /// Sets the observer of the client's notices, which is not owned and may be set before the instance is
     /// created; null for none.
     static void setObserver(zvTransferObserver* observer);
+    /// Looks for everything that is wrong with a configuration file, which is not used otherwise, and starts
+    /// the JVM on demand. Appends a key and the reason in turn; the key is empty for what concerns the file
+    /// itself. False with a Java client of the site's own that cannot do this.
+    static bool findFaults(const zvString& configPath, zvStringList& faults);
     /// Disconnects and deletes the instance, if any; a failure is only logged. The JVM keeps running.
     static void destroyInstance();
 
@@ -63,6 +67,9 @@ public:
     /// some files to it would continue. Nobody else may transfer files into the directory at the time. Does
     /// nothing with a Java client of the site's own that cannot do this.
     void removeLeftovers(const zvString& dir, const zvStringList& localFiles);
+    /// Writes a small temporary file into the root of the server and removes it. False, with nothing done,
+    /// with a Java client of the site's own that cannot do this.
+    bool probe();
     /// Whether a file or directory exists on the server.
     bool exists(const zvString& path);
     /// Appends the names of the entries of a remote directory to `out`, which is unchanged on failure.

@@ -4,10 +4,9 @@
 #include <charconv>
 #include <cmath>
 #include <iterator>
-#include <string_view>
-#include <system_error>
 
 #include "zvCharString.h"
+#include "zvClientConfigKey.h"
 #include "zvCommonUtils.h"
 #include "zvProperties.h"
 
@@ -34,39 +33,34 @@ bool isTemporary(const zvRequestOutcome& outcome) {
                                            : contains(temporaryFailures, outcome.failure);
 }
 
-// Overwrites `number` if the property is set and a number from 0 to `largest`.
-void readNumber(const zvProperties& properties, const char* key, double largest, bool isWhole, double& number,
-                std::vector<std::string>& faults) {
+// The value of the property if it can be used; otherwise the default.
+double readNumber(const zvProperties& properties, const char* key, double byDefault,
+                  std::vector<std::string>& faults) {
     zvString value = properties.getPropertyValue(key);
     if (value.empty()) {
-        return;
+        return byDefault;
     }
     value.trim();
-    const zvCharString text(value);
-    const std::string_view digits = text.data();
-    double read = 0;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), read);
-    const bool isNumber = error == std::errc() && end == digits.data() + digits.size();
-    if (isNumber && read >= 0 && read <= largest && (!isWhole || read == std::floor(read))) {
-        number = read;
-    } else {
-        faults.push_back("\"" + std::string(text.data()) + "\" is no " + (isWhole ? "whole " : "") +
-                         "number from 0 to " + std::to_string(static_cast<int>(largest)) + ": \"" + key +
+    const zvString fault = zvClientConfigKey::find(key)->faultOf(value);
+    if (!fault.empty()) {
+        faults.push_back(std::string(zvCharString(fault).data()) + ": \"" + key +
                          "\" of client-config.ini is left at its default");
+        return byDefault;
     }
+    const std::string digits = zvCharString(value).data();
+    double number = byDefault;
+    std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    return number;
 }
 
 }  // namespace
 
 zvPostRetry zvPostRetry::read(std::vector<std::string>& faults) {
-    constexpr double mostRetries = 1000;
     zvPostRetry retry;
     zvProperties properties;
     if (properties.parse(zvCommonUtils::getConfigurationFile("client-config.ini")).isOk()) {
-        double retries = retry.retries;
-        readNumber(properties, "http-retries", mostRetries, true, retries, faults);
-        retry.retries = static_cast<int>(retries);
-        readNumber(properties, "http-retry-delay", longestDelay, false, retry.delay, faults);
+        retry.retries = static_cast<int>(readNumber(properties, "http-retries", retry.retries, faults));
+        retry.delay = readNumber(properties, "http-retry-delay", retry.delay, faults);
     }
     return retry;
 }

@@ -4,16 +4,12 @@
 
 #include "zvCfgConfigManager.h"
 #include "zvCfgMgrXmlParser.h"
-#include "zvCommonUtils.h"
 #include "zvConsole.h"
-#include "zvDeliveredFile.h"
 #include "zvDirFileUtils.h"
-#include "zvFSClient.h"
 #include "zvFailure.h"
 #include "zvFileStamp.h"
 #include "zvFindingList.h"
 #include "zvNativePath.h"
-#include "zvProcess.h"
 
 namespace {
 
@@ -36,40 +32,7 @@ void parse(const zvString& file) {
     }
 }
 
-// A machine that runs for one event starts sooner with these, and one that runs for many does not grow with
-// each.
-constexpr const char* javaOptions[] = {"-XX:+IgnoreUnrecognizedVMOptions", "-XX:+UseSerialGC",
-                                       "-XX:TieredStopAtLevel=1", "-Xmn4m"};
-
-bool isSet(const char* variable) { return !zvCommonUtils::getEnvironmentalVariable(variable).empty(); }
-
-// The delivered Java client, unless the site has one of its own on CLASSPATH.
-void offerClient() {
-    if (isSet("CLASSPATH")) {
-        return;
-    }
-    const std::string jar = findDeliveredFile("../" ZV_DATA_FOLDER "/zvFileServerClient.jar",
-                                              "../zvFileServerClient.j/zvFileServerClient.jar");
-    if (!jar.empty()) {
-        zvProcess::setEnvironment("CLASSPATH", jar.c_str());
-    }
-}
-
 }  // namespace
-
-void zvRoadSession::prepareJava() {
-    if (m_bJavaPrepared) {
-        return;
-    }
-    m_bJavaPrepared = true;
-    offerClient();
-    // These variables reach the machine, too, and may contradict.
-    if (!isSet("JAVA_TOOL_OPTIONS") && !isSet("_JAVA_OPTIONS")) {
-        for (const char* const option : javaOptions) {
-            zvFSClient::addJavaOption(option);
-        }
-    }
-}
 
 const zvSecretStore& zvRoadSession::secrets() {
     if (!m_bSecretsRead) {

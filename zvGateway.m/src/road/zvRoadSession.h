@@ -19,15 +19,11 @@ public:
     /// changed since. Throws a zvStepFailure.
     void loadConfiguration(const zvString& file);
 
-    /// Makes the delivered Java client and the options of its machine known, unless the site has its own.
-    void prepareJava();
-
 private:
     void readSecrets();
 
     zvSecretStore m_secrets;
     bool m_bSecretsRead = false;
-    bool m_bJavaPrepared = false;
     // Of the configuration that the manager has; empty for none.
     zvString m_strConfigurationFile;
     std::string m_strConfigurationStamp;

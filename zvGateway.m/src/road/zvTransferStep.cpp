@@ -9,6 +9,7 @@
 #include "zvException.h"
 #include "zvFSClient.h"
 #include "zvFSClientUtil.h"
+#include "zvFileServerConnection.h"
 #include "zvInterruption.h"
 #include "zvNativePath.h"
 #include "zvProcess.h"
@@ -20,48 +21,6 @@ namespace {
 
 // From here on a person wants to know what is going on before the file is there.
 constexpr zvInt64 largeFile = 16'000'000;
-
-// The exception with where Java was looked for, which is in its result's additional information.
-zvException detailed(const zvException& exception) {
-    const zvString detail = exception.getResult().getAdditionalInformation();
-    zvException result(exception);
-    if (!detail.empty()) {
-        result.setMessage(exception.getMessage() + ". " + detail);
-    }
-    return result;
-}
-
-// Java says no more of a class that it lacks than the class's name.
-zvString explained(const zvString& message) {
-    constexpr char package[] = "com/vantorel/ep/products/fsclient/";
-    const bool isMissingClass = message.find(package) == 0 && message.find(" ") == -1;
-    return isMissingClass ? "the Java class " + message + " is not on the class path, which is \"" +
-                                zvCommonUtils::getEnvironmentalVariable("CLASSPATH") + "\""
-                          : message;
-}
-
-// The connection to the file server, as long as it lives, with its observer.
-class Connection {
-public:
-    Connection(const zvString& configuration, zvTransferObserver& observer) {
-        zvFSClient::setObserver(&observer);
-        try {
-            zvFSClient::getInstance(zvDirFileUtils::nativePath(configuration));
-        } catch (const zvException& exception) {
-            close();
-            throw zvException(detailed(exception));
-        }
-    }
-    Connection(const Connection&) = delete;
-    Connection& operator=(const Connection&) = delete;
-    ~Connection() { close(); }
-
-private:
-    static void close() {
-        zvFSClient::destroyInstance();
-        zvFSClient::setObserver(nullptr);
-    }
-};
 
 zvInt64 sizeOf(const zvString& file) {
     std::error_code error;
@@ -99,8 +58,7 @@ zvStepOutcome zvTransferStep::run() {
         return send(configuration);
     } catch (const zvException& exception) {
         zvInterruption::throwIfRequested();
-        const zvString message = exception.getMessage();
-        throw failure(explained(message.empty() ? exception.getResult().getMessage() : message));
+        throw failure(zvFileServerConnection::reasonOf(exception));
     }
 }
 
@@ -186,11 +144,11 @@ void zvTransferStep::makeDirectory() {
 }
 
 zvStepOutcome zvTransferStep::send(const zvString& configuration) {
-    m_event.session.prepareJava();
+    zvFileServerConnection::prepareJava();
     m_event.session.secrets().forEach(
         [](const zvString& name, const zvString& value) { zvFSClient::setSecret(name, value); });
     m_signals.emplace();
-    const Connection connection(configuration, *this);
+    const zvFileServerConnection connection(configuration, *this);
     m_signals.reset();
     makeDirectory();
     const zvResult sent = zvFSClientUtil::uploadEventFiles(*m_event.arguments, m_event.attachments, this);

@@ -21,4 +21,8 @@ public final class FileServerClient extends ListedOperations {
     public void removeLeftovers(String dir, List<String> localFiles) throws Exception {
         Recorder.record("removeLeftovers", dir, localFiles);
     }
+
+    public void probe() throws Exception {
+        Recorder.record("probe");
+    }
 }

@@ -182,6 +182,18 @@ public final class FileServerClient {
         });
     }
 
+    /** Writes a small temporary file into the root and removes it: whether the account may. */
+    public void probe() throws FileServerException {
+        String what = "write and remove a file in the root of the file server";
+        onServer(what, () -> {
+            Probe probe = new Probe(transport);
+            return retry.run(what, () -> {
+                probe.run();
+                return null;
+            });
+        });
+    }
+
     /** Whether a file, a directory or anything else exists at the path. */
     public boolean exists(String path) throws FileServerException {
         String what = "tell whether '" + path + "' exists on the file server";

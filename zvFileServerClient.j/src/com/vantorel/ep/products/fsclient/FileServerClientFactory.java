@@ -1,5 +1,8 @@
 package com.vantorel.ep.products.fsclient;
 
+import java.util.ArrayList;
+import java.util.List;
+
 /**
  * Creates file-server clients from a configuration file. A singleton; not thread-safe.
  */
@@ -28,6 +31,20 @@ public final class FileServerClientFactory {
         } catch (FileServerException e) {
             throw new FileServerException("Cannot configure the file-server client: " + e.getMessage(), e);
         }
+    }
+
+    /**
+     * Everything that is wrong with a configuration, which is not used: a key and the reason in turn, without
+     * a password. The key is empty for what concerns the file itself.
+     */
+    public String[] findFaults(String configPath) {
+        List<String> faults = new ArrayList<>();
+        try {
+            Settings.faults(LocalFiles.path(configPath)).forEach((key, reason) -> faults.addAll(List.of(key, reason)));
+        } catch (FileServerException e) {
+            faults.addAll(List.of("", e.getMessage()));
+        }
+        return faults.toArray(new String[0]);
     }
 
     /**

@@ -19,17 +19,16 @@ import java.util.TreeSet;
  */
 final class PropertyFile {
     private final Path file;
-    private final Properties properties;
+    private final Properties defaults = new Properties();
+    private final Properties properties = new Properties(defaults);
 
     /**
      * Parses a file.
      *
-     * @throws FileServerException when it cannot be read or contains an unknown key
+     * @throws FileServerException when it cannot be read
      */
     PropertyFile(Path file) throws FileServerException {
         this.file = file;
-        Properties defaults = new Properties();
-        this.properties = new Properties(defaults);
         try (InputStream in = PropertyFile.class.getResourceAsStream("fileserver.properties")) {
             defaults.load(new InputStreamReader(in, StandardCharsets.UTF_8));
             properties.load(text(file));
@@ -40,12 +39,26 @@ final class PropertyFile {
         } catch (IOException e) {
             throw LocalFiles.failure(e);
         }
+    }
+
+    /** Validates the keys. */
+    void requireKnownKeys() throws FileServerException {
         for (String key : properties.stringPropertyNames()) {
             if (!defaults.containsKey(key)) {
                 throw failure(key, "there is no such key (the keys are "
                         + String.join(", ", new TreeSet<>(defaults.stringPropertyNames())) + ")");
             }
         }
+    }
+
+    /** Sets a key, also an unknown one, back to its default. */
+    void reset(String key) {
+        properties.remove(key);
+    }
+
+    /** Sets a key. */
+    void set(String key, String value) {
+        properties.setProperty(key, value);
     }
 
     private static Reader text(Path file) throws IOException {
@@ -129,6 +142,6 @@ final class PropertyFile {
 
     /** An exception for an invalid value. */
     FileServerException failure(String key, String reason) {
-        return new FileServerException("'" + file + "', key '" + key + "': " + reason);
+        return new SettingException(file, key, reason);
     }
 }

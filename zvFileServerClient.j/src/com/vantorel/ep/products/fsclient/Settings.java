@@ -6,6 +6,8 @@ import java.nio.charset.Charset;
 import java.nio.file.Path;
 import java.nio.file.Paths;
 import java.time.Duration;
+import java.util.LinkedHashMap;
+import java.util.Map;
 
 /**
  * The client's validated configuration. The keys and their defaults are described in this package's {@code
@@ -17,6 +19,8 @@ final class Settings {
     private static final int ONE_DAY = 24 * 60 * 60;
     private static final long MEBIBYTE = 1 << 20;
     private static final int LARGEST_RESUME_FROM = 1_000_000;
+    /** In place of one that cannot be used. */
+    private static final String HARMLESS_URL = "ftp://localhost";
     private static final String MASK = "********";
 
     /** The URL schemes. */
@@ -57,7 +61,43 @@ final class Settings {
         return new Settings(new PropertyFile(file));
     }
 
+    /**
+     * Everything that is wrong with a configuration file: the reason by the key. After each fault the file is
+     * read again with the key's default.
+     *
+     * @throws FileServerException when it cannot be read
+     */
+    static Map<String, String> faults(Path file) throws FileServerException {
+        Map<String, String> faults = new LinkedHashMap<>();
+        PropertyFile properties = new PropertyFile(file);
+        for (;;) {
+            try {
+                requireCertificates(properties, new Settings(properties).certificates);
+                return faults;
+            } catch (SettingException e) {
+                if (faults.put(e.key, e.reason) != null) {
+                    throw e;
+                }
+                properties.reset(e.key);
+                if (e.key.equals("url")) {
+                    properties.set("url", HARMLESS_URL);
+                }
+            }
+        }
+    }
+
+    private static void requireCertificates(PropertyFile file, Path certificates) throws FileServerException {
+        if (certificates != null) {
+            try {
+                TlsContext.trusting(certificates);
+            } catch (FileServerException e) {
+                throw file.failure("ftps-certificates", e.getMessage());
+            }
+        }
+    }
+
     private Settings(PropertyFile file) throws FileServerException {
+        file.requireKnownKeys();
         implicit = file.choice("ftps-mode", "explicit", "implicit") == 1;
         url = file.text("url");
         URI uri = uri(file, url);

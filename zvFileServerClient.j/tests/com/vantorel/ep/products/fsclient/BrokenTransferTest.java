@@ -216,6 +216,7 @@ public class BrokenTransferTest {
             FileServerClient client = server.client(home);
             refused("'a'.*550 Not enough privileges", () -> client.put(localFile, "a"));
             refused("'a'.*550 Not enough privileges", () -> client.mkDir("a"));
+            refused("write and remove .*550 Not enough privileges", client::probe);
         }
         refused("ftp://127.0.0.1:1/: Connection refused",
                 () -> TestServer.connect(home, "ftp://127.0.0.1:1/", "connect-timeout=2"));

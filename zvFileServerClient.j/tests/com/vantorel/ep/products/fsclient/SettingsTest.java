@@ -10,6 +10,7 @@ import java.io.IOException;
 import java.nio.charset.StandardCharsets;
 import java.nio.file.Files;
 import java.nio.file.Path;
+import java.util.Arrays;
 import org.junit.Rule;
 import org.junit.Test;
 import org.junit.rules.TemporaryFolder;
@@ -73,6 +74,23 @@ public class SettingsTest {
             String text = refused("my.properties', key '" + c[1] + "': .*(" + c[2] + ")",
                     () -> FileServerClientFactory.getInstance().initialize(file.toString())).toString();
             assertFalse(text, text.contains("Secret-7"));
+        }
+    }
+
+    @Test
+    public void allFaultsAreFound() throws IOException {
+        String[][] cases = {
+                {"url=ftp://h\nretries=2", "[]"},
+                {"retries=x\nUser=y\npassword=Secret-7\npassword-env=PATH\npassive=no", "[User, there is no such key "
+                        + ".*, url, it is missing, password-env, there is a password too, retries, 'x' is not .*, "
+                        + "passive, 'no' is none of true, false]"},
+                {"url=ftps://h\nftps-certificates=none.pem", "[ftps-certificates, cannot use .*none.pem.*]"},
+                {"user=\\u12", "[, .*wrong escape]"}};
+        for (String[] c : cases) {
+            Path file = Files.writeString(folder.getRoot().toPath().resolve("my.properties"), c[0]);
+            String found = Arrays.toString(FileServerClientFactory.getInstance().findFaults(file.toString()));
+            assertTrue(found, found.matches(c[1].replaceFirst("^\\[", "\\\\[")));
+            assertFalse(found, found.contains("Secret-7"));
         }
     }
 

@@ -187,6 +187,13 @@ public class TransferTest {
     }
 
     @Test
+    public void aProbeLeavesNothing() throws IOException {
+        fill(remote, "a");
+        client.probe();
+        assertEquals("{a=a}", tree(remote).toString());
+    }
+
+    @Test
     public void noNameLeavesTheRoot() throws IOException {
         fill(local, "f");
         String file = local.resolve("f").toString();

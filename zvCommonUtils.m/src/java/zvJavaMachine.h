@@ -1,0 +1,19 @@
+#ifndef ZV_JAVA_MACHINE_H
+#define ZV_JAVA_MACHINE_H
+
+#include "zvExport.h"
+#include "zvResult.h"
+#include "zvString.h"
+
+/// The Java virtual machine that the file-server client runs in, for whoever looks at an installation.
+class ZV_EXPORT zvJavaMachine {
+public:
+    /// Starts it, with the class path in CLASSPATH, unless it runs. The message is its name, version and
+    /// folder; of a failure, the reason, and the additional information is where its library was looked for.
+    static zvResult start();
+    /// Looks for a class by its dotted name; start() has to have succeeded. The message is the jar, or the
+    /// folder, that it comes from; of a failure, Java's reason.
+    static zvResult findClass(const zvString& name);
+};
+
+#endif

@@ -1,0 +1,17 @@
+#ifndef ZV_HOME_FILE_H
+#define ZV_HOME_FILE_H
+
+#include <string>
+#include <vector>
+
+#include "zvString.h"
+
+/// A small file of a gateway home.
+struct zvHomeFile {
+    /// Reads the file. `error` is why it cannot be read, or is none; otherwise empty.
+    static std::string read(const zvString& path, std::string& error);
+    /// Its lines, without their ends, which may be those of Windows.
+    static std::vector<std::string> lines(const std::string& content);
+};
+
+#endif
