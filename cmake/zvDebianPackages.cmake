@@ -63,19 +63,29 @@ endmacro()
 set(CPACK_COMPONENTS_ALL "")
 zv_add_debian_package(library ${library_package} libs "libzvlogger"
     "common utilities of integration gateway programs"
-    "Gateway programs move engineering data between a local engineering system and\na remote product-data-management system. This library has what they are made\nof: texts, typed values, logging, files, event arguments, XML, conditions, the\nmapping configuration, the file server and HTTP."
+[[Gateway programs move engineering data between a local engineering system and
+a remote product-data-management system. This library has what they are made
+of: texts, typed values, logging, files, event arguments, XML, conditions, the
+mapping configuration, the file server and HTTP.]]
     ${made}/symbols ${made}/shlibs ${debian}/triggers)
 zv_add_debian_package(logger libzvlogger libs ""
     "logging library of integration gateway programs"
-    "The log of libzvCommonUtilsExport, on Apache log4cxx. A site may replace it by\nits own library with the same functions."
+[[The log of libzvCommonUtilsExport, on Apache log4cxx. A site may replace it by
+its own library with the same functions.]]
     ${debian}/triggers)
 zv_add_debian_package(development libzvcommonutilsexport-dev libdevel
-    "${library_package} (= ${package_version}), libzvlogger (= ${package_version}), libxerces-c-dev"
+    "${library_package} (= ${package_version}), libzvlogger, libxerces-c-dev"
     "common utilities of integration gateway programs - development files"
-    "The headers, the CMake package and the pkg-config file of\nlibzvCommonUtilsExport, for programs of a site's own.")
+[[The headers, the CMake package and the pkg-config file of
+libzvCommonUtilsExport, for programs of a site's own.]])
 zv_add_debian_package(program zvgateway net "${library_package} (= ${package_version})"
     "takes events through the gateway between two engineering systems"
-    "One process takes one event, or a batch of them, from its arguments to the\npost: it maps the event's object, sends its files to the file server and posts\nits arguments. It also tries conditions, and checks and shows configurations.\n.\nFiles are sent by a Java client, which needs a Java machine. systemd units take\nbatch files from spool folders."
+[[One process takes one event, or a batch of them, from its arguments to the
+post: it maps the event's object, sends its files to the file server and posts
+its arguments. It also tries conditions, and checks and shows configurations.
+.
+Files are sent by a Java client, which needs a Java machine. systemd units take
+batch files from spool folders.]]
     ${debian}/postinst ${debian}/prerm ${debian}/postrm)
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS "default-jre-headless (>= 2:1.11), libcommons-net-java (>= 3.9)")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_SUGGESTS "systemd")
