@@ -19,17 +19,19 @@ zv_add_public_header(${generated_folder}/zvCommonUtilsExport.h)
 
 target_include_directories(zvCommonUtilsExport INTERFACE $<INSTALL_INTERFACE:${header_folder}>)
 
-set(installed zvCommonUtilsExport zvLogger)
-if(WIN32)
-    set(installed zvCommonUtilsExport)  # the logging library is the site's
-endif()
-install(TARGETS ${installed}
+install(TARGETS zvCommonUtilsExport
     EXPORT zvCommonUtilsExportTargets
-    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    PUBLIC_HEADER DESTINATION ${header_folder})
-install(EXPORT zvCommonUtilsExportTargets NAMESPACE zvCommonUtilsExport:: DESTINATION ${package_folder})
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library NAMELINK_COMPONENT development
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT library
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
+    PUBLIC_HEADER DESTINATION ${header_folder} COMPONENT development)
+if(NOT WIN32)  # where the logging library is the site's
+    install(TARGETS zvLogger
+        EXPORT zvCommonUtilsExportTargets
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT logger)
+endif()
+install(EXPORT zvCommonUtilsExportTargets NAMESPACE zvCommonUtilsExport:: DESTINATION ${package_folder}
+    COMPONENT development)
 
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/zvCommonUtilsExportConfig.cmake.in
     ${generated_folder}/zvCommonUtilsExportConfig.cmake
@@ -39,12 +41,13 @@ write_basic_package_version_file(${generated_folder}/zvCommonUtilsExportConfigVe
 install(FILES
     ${generated_folder}/zvCommonUtilsExportConfig.cmake
     ${generated_folder}/zvCommonUtilsExportConfigVersion.cmake
-    DESTINATION ${package_folder})
+    DESTINATION ${package_folder} COMPONENT development)
 
 # Relative paths, so that an installed tree can be moved.
 file(RELATIVE_PATH ZV_LIBDIR_TO_PREFIX ${CMAKE_INSTALL_FULL_LIBDIR} ${CMAKE_INSTALL_PREFIX})
 configure_file(${CMAKE_CURRENT_LIST_DIR}/zvCommonUtilsExport.pc.in ${generated_folder}/zvCommonUtilsExport.pc @ONLY)
-install(FILES ${generated_folder}/zvCommonUtilsExport.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+install(FILES ${generated_folder}/zvCommonUtilsExport.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+    COMPONENT development)
 
 # Not with sanitizers: consumers are built without the runtime that a sanitized library needs.
 if(ZV_BUILD_TESTS AND NOT ZV_SANITIZE AND NOT CMAKE_CROSSCOMPILING)
