@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "zvBatchCommand.h"
 #include "zvCharString.h"
 #include "zvCheckCommand.h"
 #include "zvCommonUtils.h"
@@ -15,12 +14,9 @@
 #include "zvException.h"
 #include "zvFailure.h"
 #include "zvInterruption.h"
-#include "zvListCommand.h"
+#include "zvOperationCommands.h"
 #include "zvProcess.h"
-#include "zvPruneCommand.h"
-#include "zvResumeCommand.h"
 #include "zvRoadReport.h"
-#include "zvRoadRunner.h"
 #include "zvRoadSession.h"
 #include "zvSecretOptions.h"
 #include "zvSecrets.h"
@@ -121,97 +117,12 @@ void goWithoutHome() {
     }
 }
 
-constexpr char batchFooter[] =
-    R"(The input has an event on each line: a JSON object of arguments, or a row of a table whose header has the
-arguments' keys. Arguments given here are every event's. Each event has a directory, a record and a line of its
-outcome; one that stops does not stop the others.
-
-An entry is taken once: what identifies it, all its arguments or the value of --key, gives its directory its name. The
-same batch started again goes on with what stopped and leaves out what arrived. Another name, or another file, makes
-other events of the same entries.
-
-Exit codes: 0 all events arrived, 10 some did not, 2 an input that cannot be read; 3 and 128 + a signal's number as for
-an event. More than one process: see docs/operating.md.)";
-
-void declareBatch(CLI::App& program, zvBatchCommand& command) {
-    CLI::App& batch = *program.add_subcommand("batch", "Takes the events of a file, one after the other");
-    batch.add_option("file", command.file, "The input; - for standard input")->required();
-    batch.add_option("arguments", command.common, "key=value, an argument of every event");
-    std::vector<std::string> words;
-    for (const auto& [word, format] : zvBatchCommand::formats) {
-        words.emplace_back(word);
-    }
-    batch
-        .add_option("--format", command.format,
-                    "Instead of what the file's extension, or a first character \"{\", says")
-        ->check(CLI::IsMember(words));
-    batch.add_option("--key", command.key, "The key of the argument that identifies an entry");
-    batch.add_option("--name", command.name, "The batch's name, instead of the file's");
-    batch.add_flag("--stop-on-error", command.stopsOnError, "Ends with the first event that stops");
-    batch.add_flag("--json", command.asJson, "One JSON object for each event on standard output");
-    batch.fallthrough();  // the event's options may come last
-    batch.footer(batchFooter);
-}
-
-void declareResume(CLI::App& program, zvResumeCommand& command) {
-    CLI::App& resume = *program.add_subcommand("resume", "Goes on with events that stopped");
-    resume.add_option("root", command.root, "The folder that events have as RootShadowDir")->required();
-    resume.add_option("events", command.events,
-                      "Names of directories, or beginnings of EventIds, 8 characters at least");
-    resume.add_flag("--all", command.all, "Every event that stopped or never ended");
-    resume.add_flag("--json", command.asJson, "One JSON object for each event on standard output");
-    resume.fallthrough();
-    resume.footer(
-        "The arguments are those of the event's record; secrets, which it does not have, are given as for a "
-        "new "
-        "event.\nEvents that another process runs are left out and counted. Exit code 0 if all arrived, 10 "
-        "if not.");
-}
-
-void declarePrune(CLI::App& program, zvPruneCommand& command) {
-    CLI::App& prune = *program.add_subcommand("prune", "Removes the directories of events that arrived");
-    prune.add_option("root", command.root, "The folder that events have as RootShadowDir")->required();
-    prune.add_option("--older-than", command.olderThan, "Since the last attempt: 90s, 15m, 12h, 30d, 2w")
-        ->required();
-    prune.add_flag("--dry-run", command.isDryRun, "Only prints what would be removed");
-    prune.footer(
-        "Never removes another event's. What is removed is forgotten: a batch that has it takes it again.");
-}
-
-constexpr char listFooter[] =
-    R"(A line for each event, in no order: directory, the first eight characters of the EventId, event, object, state,
-time since its first attempt, number of attempts, and what it stopped on and why. The states are
-  arrived      the local server has answered
-  stopped      a step failed, which is named
-  running      a process is running it
-  never-ended  the last attempt has no end: its process was killed, or the machine stopped
-  dry-run      it was only tried
-  no-record    nothing is known of it: its process was killed at once, or the directory is no event's
-  unreadable   the record cannot be read)";
-
 void declareShow(CLI::App& program, zvShowCommand& command) {
     CLI::App& show = *program.add_subcommand("show", "Prints a configuration for people");
     show.add_option("file", command.file, "The configuration file")->required();
     show.add_option("--html", command.page, "Writes it as a page with a search field and pictures instead");
     show.footer(
         "Exit code 6 for a configuration that is not read to its end, 2 for a page that cannot be written.");
-}
-
-void declareList(CLI::App& program, zvListCommand& command) {
-    CLI::App& list = *program.add_subcommand("list", "Lists the events below a root shadow directory");
-    list.add_option("root", command.root, "The folder that events have as RootShadowDir")->required();
-    list.add_option("--state", command.states, "Only events in this state; more than one with commas")
-        ->delimiter(',')
-        ->check(CLI::IsMember(std::vector<std::string>(std::begin(zvFoundEvent::stateWords),
-                                                       std::end(zvFoundEvent::stateWords))));
-    list.add_option(
-        "--since", command.since,
-        "Only events whose last attempt began since then: 90s, 15m, 12h, 30d, 2w, or a date or time "
-        "as in 2026-11-25 and 2026-11-25T18:00");
-    list.add_flag("--json", command.asJson, "One JSON object a line");
-    list.add_option("--html", command.page,
-                    "Writes a page with a search field and each event's steps instead");
-    list.footer(listFooter);
 }
 
 void declareRoad(CLI::App& program, zvRoadOptions& options) {
@@ -252,14 +163,8 @@ int runProgram(int argc, char** argv) {
     checking.declare(program);
     zvShowCommand showing;
     declareShow(program, showing);
-    zvBatchCommand batching;
-    declareBatch(program, batching);
-    zvListCommand listing;
-    declareList(program, listing);
-    zvResumeCommand resuming;
-    declareResume(program, resuming);
-    zvPruneCommand pruning;
-    declarePrune(program, pruning);
+    zvOperationCommands operation;
+    operation.declare(program);
     program.allow_extras();  // after the subcommands, which would inherit it
 
     try {
@@ -276,19 +181,8 @@ int runProgram(int argc, char** argv) {
         const zvExitCode code = takeEvent(session, program.remaining());
         return session.options.asJson ? finish(code) : static_cast<int>(code);
     }
-    if (program.got_subcommand("list")) {
-        return finish(listing.run());
-    }
-    if (program.got_subcommand("prune")) {
-        zvProcess::noteSignals();
-        return finish(pruning.run());
-    }
-    if (program.got_subcommand("batch") || program.got_subcommand("resume")) {
-        zvProcess::noteSignals();
-        zvConsole::muteSteps();
-        session.options.asJson = false;  // of one event's summary
-        zvRoadRunner runner(session);
-        return finish(program.got_subcommand("batch") ? batching.run(runner) : resuming.run(runner));
+    if (operation.wasAskedFor(program)) {
+        return finish(operation.run(program, session));
     }
     if (program.got_subcommand("check") && checking.looksAtHome()) {
         return finish(checking.run());
