@@ -91,6 +91,7 @@ int main(int, char** argv) {
     if (!zvCfgMgrXmlParser().parse(configuration, true).isOk()) {
         return EXIT_FAILURE;
     }
+    const zvXMLParser keepsTheXmlLibraryReady;
     for (int number = 0; number < std::atoi(argv[2]); ++number) {
         if (!takeEvent(argv[1], number)) {
             std::fprintf(stderr, "event %d failed\n", number);

@@ -4,6 +4,7 @@
 #include "zvGatewayHomeStep.h"
 
 void zvRoadRunner::prepare() {
+    m_session.keepXmlReady();
     zvExitCode code = zvExitCode::usage;
     const char* step = "secrets";
     try {

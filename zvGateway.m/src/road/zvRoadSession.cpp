@@ -55,11 +55,18 @@ void zvRoadSession::readSecrets() {
     }
 }
 
+void zvRoadSession::keepXmlReady() {
+    if (!m_xml) {
+        m_xml.emplace();
+    }
+}
+
 void zvRoadSession::loadConfiguration(const zvString& file) {
     const std::string stamp = fileStamp(toNativePath(file));
     if (!stamp.empty() && file == m_strConfigurationFile && stamp == m_strConfigurationStamp) {
         return;
     }
+    keepXmlReady();
     // What an earlier one left, also one whose reading failed, is not this one's.
     zvCfgConfigManager::destroyCfgConfigManager();
     m_strConfigurationStamp.clear();

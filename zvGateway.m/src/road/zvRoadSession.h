@@ -1,10 +1,12 @@
 #ifndef ZV_ROAD_SESSION_H
 #define ZV_ROAD_SESSION_H
 
+#include <optional>
 #include <string>
 
 #include "zvRoadOptions.h"
 #include "zvSecretStore.h"
+#include "zvXMLParser.h"
 
 /// What the events that one process takes share.
 class zvRoadSession {
@@ -15,6 +17,10 @@ public:
     /// call. Throws the zvStepFailure of a source that cannot be used.
     const zvSecretStore& secrets();
 
+    /// Keeps the XML library ready, whose start is most of the work of an event without files, until the
+    /// session ends.
+    void keepXmlReady();
+
     /// Fills the configuration manager from the file, unless it has been filled from it and the file has not
     /// changed since. Throws a zvStepFailure.
     void loadConfiguration(const zvString& file);
@@ -23,6 +29,7 @@ private:
     void readSecrets();
 
     zvSecretStore m_secrets;
+    std::optional<zvXMLParser> m_xml;  // the library runs as long as it has a user
     bool m_bSecretsRead = false;
     // Of the configuration that the manager has; empty for none.
     zvString m_strConfigurationFile;
