@@ -207,7 +207,9 @@ void zvEventRecord::setArrived(const zvString& path, bool isDurable) {
 
 void zvEventRecord::setRemoteDirectory(RemoteDirectory state) {
     m_history.remoteDirectory = state;
-    append({{"remoteDirectory", zvEventHistory::remoteDirectoryWords[static_cast<int>(state)]}}, true);
+    // Without its claim, which a power failure at this moment may lose, an empty directory is refused.
+    append({{"remoteDirectory", zvEventHistory::remoteDirectoryWords[static_cast<int>(state)]}},
+           state == RemoteDirectory::own);
 }
 
 void zvEventRecord::setPosted() {
