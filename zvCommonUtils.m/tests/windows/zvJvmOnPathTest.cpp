@@ -56,6 +56,8 @@ TEST_F(zvJvmOnPathTest, IsFoundOnPathAndDrivenThroughJni) {
               "RegisterNatives receive(Ljava/lang/String;)V\n"
               "FindClass com/vantorel/ep/products/fsclient/Notices\n"
               "RegisterNatives isCancelled()Z\n"
+              "FindClass com/vantorel/ep/products/fsclient/Notices\n"
+              "RegisterNatives receiveProgress(Ljava/lang/String;JJ)V\n"
               "GetMethodID initialize(Ljava/lang/String;)V\n"
               "CallVoidMethod initialize C:\\home\\client.properties\n"
               "GetMethodID getFileServerClient()Lcom/vantorel/ep/products/fsclient/FileServerClient;\n"
