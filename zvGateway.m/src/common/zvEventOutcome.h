@@ -10,6 +10,7 @@
 /// not known are empty.
 struct zvEventOutcome {
     enum class Kind { arrived, arrivedBefore, tried, stopped, heldByAnother };
+    static constexpr std::size_t numKinds = 5;
 
     Kind kind = Kind::stopped;
     std::string eventId;

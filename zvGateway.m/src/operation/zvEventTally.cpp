@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <nlohmann/json.hpp>
+#include <numeric>
 
 #include "zvConsole.h"
 
@@ -30,30 +31,15 @@ zvEventTally::zvEventTally(std::string verb, bool asJson, bool tellsArrived)
     : m_strVerb(std::move(verb)), m_bAsJson(asJson), m_bTellsArrived(tellsArrived) {}
 
 void zvEventTally::add(const zvEventOutcome& outcome, long line, double share) {
-    count(outcome);
+    ++m_counts[static_cast<std::size_t>(outcome.kind)];
     tellOutcome(outcome, line);
     tellProgress(share);
 }
 
-void zvEventTally::count(const zvEventOutcome& outcome) {
-    using Kind = zvEventOutcome::Kind;
-    switch (outcome.kind) {
-        case Kind::arrived:
-            ++m_arrived;
-            break;
-        case Kind::arrivedBefore:
-            ++m_before;
-            break;
-        case Kind::tried:
-            ++m_tried;
-            break;
-        case Kind::stopped:
-            ++m_stopped;
-            break;
-        case Kind::heldByAnother:
-            ++m_held;
-            break;
-    }
+long zvEventTally::count(zvEventOutcome::Kind kind) const { return m_counts[static_cast<std::size_t>(kind)]; }
+
+bool zvEventTally::hasAllArrived() const {
+    return count(zvEventOutcome::Kind::stopped) + count(zvEventOutcome::Kind::heldByAnother) == 0;
 }
 
 void zvEventTally::tellOutcome(const zvEventOutcome& outcome, long line) {
@@ -78,24 +64,26 @@ void zvEventTally::finish() {
 }
 
 std::string zvEventTally::counts() const {
-    const long all = m_arrived + m_before + m_tried + m_stopped + m_held;
-    std::string text = zvConsole::counted(all, "event") + ", " + std::to_string(m_arrived) + " arrived, " +
-                       std::to_string(m_stopped) + " stopped";
-    const auto add = [&text](long count, const char* words) {
-        if (count > 0) {
-            text.append(", ").append(std::to_string(count)).append(" ").append(words);
+    using Kind = zvEventOutcome::Kind;
+    const long all = std::accumulate(m_counts.begin(), m_counts.end(), 0L);
+    std::string text = zvConsole::counted(all, "event") + ", " + std::to_string(count(Kind::arrived)) +
+                       " arrived, " + std::to_string(count(Kind::stopped)) + " stopped";
+    const auto add = [&](Kind kind, const char* words) {
+        if (count(kind) > 0) {
+            text.append(", ").append(std::to_string(count(kind))).append(" ").append(words);
         }
     };
-    add(m_before, "arrived before");
-    add(m_tried, "tried");
-    add(m_held, "left out, since another process has them");
+    add(Kind::arrivedBefore, "arrived before");
+    add(Kind::tried, "tried");
+    add(Kind::heldByAnother, "left out, since another process has them");
     return text;
 }
 
 std::string zvEventTally::progress(double share) {
     const Clock::time_point now = Clock::now();
     const double seconds = std::chrono::duration<double>(now - m_start).count();
-    const long taken = m_arrived + m_tried + m_stopped;
+    using Kind = zvEventOutcome::Kind;
+    const long taken = count(Kind::arrived) + count(Kind::tried) + count(Kind::stopped);
     std::string text =
         counts() + ", " + fixed(static_cast<double>(taken) / std::max(seconds, 1e-3), "%.1f/s");
     if (share > 0) {

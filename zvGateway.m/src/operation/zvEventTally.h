@@ -1,6 +1,7 @@
 #ifndef ZV_EVENT_TALLY_H
 #define ZV_EVENT_TALLY_H
 
+#include <array>
 #include <string>
 
 #include "zvEventOutcome.h"
@@ -20,12 +21,13 @@ public:
     /// The line at the end.
     void finish();
 
-    bool hasAllArrived() const { return m_stopped + m_held == 0; }
+    /// Whether the other side has every event, those that were only tried left aside.
+    bool hasAllArrived() const;
 
 private:
     using Clock = zvProgressMeter::Clock;
 
-    void count(const zvEventOutcome& outcome);
+    long count(zvEventOutcome::Kind kind) const;
     void tellOutcome(const zvEventOutcome& outcome, long line);
     void tellProgress(double share);
     std::string counts() const;
@@ -34,11 +36,7 @@ private:
     std::string m_strVerb;
     bool m_bAsJson;
     bool m_bTellsArrived;
-    long m_arrived = 0;
-    long m_before = 0;
-    long m_tried = 0;
-    long m_stopped = 0;
-    long m_held = 0;
+    std::array<long, zvEventOutcome::numKinds> m_counts{};
     Clock::time_point m_start = Clock::now();
     Clock::time_point m_lastTold = m_start;
     zvProgressMeter m_meter{0, m_start};
