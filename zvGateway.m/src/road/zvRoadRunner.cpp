@@ -5,6 +5,7 @@
 
 void zvRoadRunner::prepare() {
     m_session.keepXmlReady();
+    m_session.fileServer.keep();
     zvExitCode code = zvExitCode::usage;
     const char* step = "secrets";
     try {

@@ -6,12 +6,14 @@
 
 #include "zvRoadOptions.h"
 #include "zvSecretStore.h"
+#include "zvSharedConnection.h"
 #include "zvXMLParser.h"
 
 /// What the events that one process takes share.
 class zvRoadSession {
 public:
     zvRoadOptions options;
+    zvSharedConnection fileServer;
 
     /// The secrets of the sources that the options and the environment name, which are read by the first
     /// call. Throws the zvStepFailure of a source that cannot be used.

@@ -148,11 +148,12 @@ zvStepOutcome zvTransferStep::send(const zvString& configuration) {
     m_event.session.secrets().forEach(
         [](const zvString& name, const zvString& value) { zvFSClient::setSecret(name, value); });
     m_signals.emplace();
-    const zvFileServerConnection connection(configuration, *this);
+    zvSharedConnection::Use connection(m_event.session.fileServer, configuration, *this);
     m_signals.reset();
     makeDirectory();
     const zvResult sent = zvFSClientUtil::uploadEventFiles(*m_event.arguments, m_event.attachments, this);
     require(sent);
+    connection.succeed();
     const zvString notRemoved = sent.getAdditionalInformation();
     if (!notRemoved.empty()) {
         // The event may be run again to remove them.
