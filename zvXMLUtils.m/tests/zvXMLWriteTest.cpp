@@ -88,7 +88,8 @@ TEST_F(zvXMLWriteTest, WritesAndReadsFilesInEveryEncoding) {
         }
         const std::string name = encoding.character;
         std::filesystem::create_directories(m_folder.path() / name);
-        const zvString path = (m_folder.path().string() + "\\" + name + "\\" + name + ".xml").c_str();
+        const std::string file = "\\" + name + ".xml";
+        const zvString path = (m_folder.path().string() + "\\" + name).append(file).c_str();
         zvXMLParser parser("<r>a</r>", false);
         EXPECT_TRUE(parser.writeTreeToFile(path, "UTF-8")) << encoding.encoding;
         EXPECT_TRUE(std::filesystem::exists(m_folder.path() / name / (name + ".xml"))) << encoding.encoding;
