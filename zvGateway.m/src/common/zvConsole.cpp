@@ -77,8 +77,6 @@ void setQuiet() {
     leaveOutProgress();
 }
 
-bool isQuiet() { return quiet; }
-
 void note(const std::string& text) { outcome(text, false); }
 
 void outcome(const std::string& text, bool isFailure) {

@@ -37,7 +37,6 @@ void fact(const std::string& name, const std::string& value);
 void muteSteps();
 /// The same, and nothing but failures is told.
 void setQuiet();
-bool isQuiet();
 /// A line of standard error, beside the answer that another program may read; nothing when quiet.
 void note(const std::string& text);
 /// What became of an event, as a line of standard error; when quiet, only if it `isFailure`.

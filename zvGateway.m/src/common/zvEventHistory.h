@@ -19,6 +19,8 @@ struct zvEventHistory {
     enum class RemoteDirectory { unknown, claimed, own };
     /// The version of the record's format that this program writes.
     static constexpr int formatVersion = 1;
+    /// Of the record's name, after that of the event's directory.
+    static constexpr const char* fileSuffix = "_record.jsonl";
     static constexpr const char* remoteDirectoryWords[] = {"unknown", "claimed", "own"};
     struct Step {
         std::string name;

@@ -10,11 +10,12 @@
 #include <xxhash.h>
 
 #include "zvArgumentTexts.h"
+#include "zvArgumentValue.h"
 #include "zvCharString.h"
 #include "zvConsole.h"
 #include "zvEventArguments.h"
 #include "zvInterruption.h"
-#include "zvUtf8.h"
+#include "zvUtf8Text.h"
 
 namespace fs = std::filesystem;
 
@@ -26,12 +27,6 @@ zvEventOutcome refused(const std::string& reason) {
     zvEventOutcome outcome;
     outcome.setFailure({zvExitCode::usage, "input", "", reason});
     return outcome;
-}
-
-zvString toText(const std::string& utf8) {
-    zvString text;
-    static_cast<void>(zvUtf8::decode(utf8, text));
-    return text;
 }
 
 }  // namespace
@@ -115,7 +110,7 @@ zvEventOutcome zvBatchCommand::take(const zvBatchEntry& entry, zvEventRunner& ru
     }
     const std::string* const own = entry.find("RootShadowDir");
     const std::string root =
-        own == nullptr ? commonValue("RootShadowDir") : zvCharString(toText(*own)).data();
+        own == nullptr ? argumentValue(common, "RootShadowDir") : zvCharString(fromUtf8(*own)).data();
     if (root.empty()) {
         return refused("\"RootShadowDir\" is missing");
     }
@@ -174,17 +169,6 @@ std::string zvBatchCommand::directoryName(const zvBatchEntry& entry) const {
     return text;
 }
 
-std::string zvBatchCommand::commonValue(const char* key) const {
-    for (const std::string& argument : common) {
-        zvString name;
-        zvString value;
-        if (zvEventArguments::splitArgument(argument.c_str(), name, value) && name == key) {
-            return zvCharString(value).data();
-        }
-    }
-    return "";
-}
-
 // Whether the record has the arguments that the event would have now. If not, the road says what differs.
 bool zvBatchCommand::isRecordedAs(const zvEventHistory& history, const zvBatchEntry& entry) const {
     zvEventHistory::Arguments given;
@@ -197,7 +181,7 @@ bool zvBatchCommand::isRecordedAs(const zvEventHistory& history, const zvBatchEn
         }
     }
     for (const auto& [name, value] : entry.arguments) {
-        if (zvEventHistory::isRecorded(toText(name), toText(value))) {
+        if (zvEventHistory::isRecorded(fromUtf8(name), fromUtf8(value))) {
             given.emplace(name, value);
         }
     }

@@ -42,7 +42,6 @@ private:
     zvEventOutcome runIn(const std::string& root, const zvBatchEntry& entry,
                          std::vector<std::string> arguments, zvEventRunner& runner) const;
     std::string directoryName(const zvBatchEntry& entry) const;
-    std::string commonValue(const char* key) const;
     bool isRecordedAs(const zvEventHistory& history, const zvBatchEntry& entry) const;
 };
 

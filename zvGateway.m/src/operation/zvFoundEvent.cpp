@@ -33,7 +33,7 @@ zvFoundEvent::State stateOf(const zvEventHistory& history, const fs::path& recor
 
 }  // namespace
 
-fs::path zvFoundEvent::recordFile() const { return fileIn(directory, "_record.jsonl"); }
+fs::path zvFoundEvent::recordFile() const { return fileIn(directory, zvEventHistory::fileSuffix); }
 
 bool zvFoundEvent::isEvent() const {
     std::error_code error;

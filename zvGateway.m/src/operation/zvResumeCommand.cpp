@@ -7,7 +7,7 @@
 #include "zvArgumentTexts.h"
 #include "zvConsole.h"
 #include "zvInterruption.h"
-#include "zvUtf8.h"
+#include "zvUtf8Text.h"
 
 namespace fs = std::filesystem;
 
@@ -25,9 +25,7 @@ bool isOpen(const zvFoundEvent& event) {
 std::set<zvString> toNames(const std::vector<std::string>& utf8) {
     std::set<zvString> names;
     for (const std::string& name : utf8) {
-        zvString decoded;
-        static_cast<void>(zvUtf8::decode(name, decoded));
-        names.insert(decoded);
+        names.insert(fromUtf8(name));
     }
     return names;
 }
@@ -53,16 +51,16 @@ zvExitCode zvResumeCommand::run(zvEventRunner& runner) {
         zvFoundEvent::forEachIn(root, zvEventHistory::Detail::state, [&](const zvFoundEvent& event) {
             if (isOpen(event) && zvProcess::notedSignal() == 0) {
                 ++taken;
-                resume(event, runner, tally,
-                       static_cast<double>(taken) / static_cast<double>(std::max(open, taken)));
+                tally.add(outcomeOf(event, runner), 0,
+                          static_cast<double>(taken) / static_cast<double>(std::max(open, taken)));
             }
         });
     }
     double taken = 0;
     for (const std::string& name : events) {
         if (zvProcess::notedSignal() == 0) {
-            resume(zvFoundEvent::in(find(name), zvEventHistory::Detail::state), runner, tally,
-                   ++taken / static_cast<double>(events.size()));
+            const zvFoundEvent event = zvFoundEvent::in(find(name), zvEventHistory::Detail::state);
+            tally.add(outcomeOf(event, runner), 0, ++taken / static_cast<double>(events.size()));
         }
     }
     tally.finish();
@@ -99,11 +97,6 @@ fs::path zvResumeCommand::find(const std::string& event) const {
                                              : "more than one EventId begins so"};
     }
     return found.front();
-}
-
-void zvResumeCommand::resume(const zvFoundEvent& event, zvEventRunner& runner, zvEventTally& tally,
-                             double share) const {
-    tally.add(outcomeOf(event, runner), 0, share);
 }
 
 zvEventOutcome zvResumeCommand::outcomeOf(const zvFoundEvent& event, zvEventRunner& runner) const {

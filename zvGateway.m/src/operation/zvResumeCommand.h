@@ -25,7 +25,6 @@ public:
 private:
     long countOpen() const;
     std::filesystem::path find(const std::string& event) const;
-    void resume(const zvFoundEvent& event, zvEventRunner& runner, zvEventTally& tally, double share) const;
     zvEventOutcome outcomeOf(const zvFoundEvent& event, zvEventRunner& runner) const;
 };
 

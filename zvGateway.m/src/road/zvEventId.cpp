@@ -4,30 +4,18 @@
 #include <cstdio>
 #include <random>
 
+#include "zvArgumentValue.h"
 #include "zvEventRecord.h"
 
-namespace {
-
-zvString valueOf(const std::vector<std::string>& arguments, const std::string& key) {
-    for (const std::string& argument : arguments) {
-        if (argument.compare(0, key.size() + 1, key + "=") == 0) {
-            return argument.substr(key.size() + 1).c_str();
-        }
-    }
-    return {};
-}
-
-}  // namespace
-
 zvString eventIdOf(const std::vector<std::string>& arguments) {
-    const zvString name = valueOf(arguments, "EventShadowDir");
+    const zvString name = argumentValue(arguments, "EventShadowDir").c_str();
     zvString id;
     if (!name.empty()) {
-        id = zvEventRecord::eventIdIn(
-            zvEventRecord::fileIn(valueOf(arguments, "RootShadowDir") + "\\" + name, name));
+        id = zvEventRecord::eventIdIn(zvEventRecord::fileIn(
+            zvString(argumentValue(arguments, "RootShadowDir").c_str()) + "\\" + name, name));
     }
     if (id.empty()) {
-        id = valueOf(arguments, "EventId");
+        id = argumentValue(arguments, "EventId").c_str();
     }
     return id.empty() ? zvString(makeEventId().c_str()) : id;
 }

@@ -11,7 +11,7 @@
 #include "zvNativePath.h"
 #include "zvSecrets.h"
 #include "zvUtcTime.h"
-#include "zvUtf8.h"
+#include "zvUtf8Text.h"
 
 namespace fs = std::filesystem;
 using nlohmann::ordered_json;
@@ -27,14 +27,6 @@ std::string nameOf(const zvString& path) {
 
 // Texts for people are in the locale's encoding.
 std::string toUtf8(const std::string& text) { return zvUtf8::encode(text.c_str()); }
-
-zvString fromUtf8(const std::string& text) {
-    zvString decoded;
-    static_cast<void>(zvUtf8::decode(text, decoded));
-    return decoded;
-}
-
-std::string printable(const std::string& utf8) { return zvConsole::printable(fromUtf8(utf8)); }
 
 std::string messageOf(const std::error_code& error) { return error ? error.message() : ""; }
 
@@ -58,7 +50,7 @@ zvEventRecord::Given zvEventRecord::givenBy(const zvEventArguments& arguments) {
 }
 
 zvString zvEventRecord::fileIn(const zvString& directory, const zvString& name) {
-    return directory + "\\" + name + "_record.jsonl";
+    return directory + "\\" + name + zvEventHistory::fileSuffix;
 }
 
 zvString zvEventRecord::eventIdIn(const zvString& file) {
@@ -98,7 +90,8 @@ std::vector<std::string> zvEventRecord::differencesFrom(const Given& given) cons
     }
     const auto valueIn = [](const zvEventHistory::Arguments& all, const std::string& key) {
         const auto found = all.find(key);
-        return found == all.end() ? std::string("absent") : "\"" + printable(found->second) + "\"";
+        return found == all.end() ? std::string("absent")
+                                  : "\"" + zvConsole::printableUtf8(found->second) + "\"";
     };
     zvEventHistory::Arguments keys = m_history.arguments;
     keys.insert(given.arguments.begin(), given.arguments.end());
@@ -106,8 +99,11 @@ std::vector<std::string> zvEventRecord::differencesFrom(const Given& given) cons
         const std::string recorded = valueIn(m_history.arguments, key);
         const std::string now = valueIn(given.arguments, key);
         if (recorded != now) {
-            differences.push_back(
-                printable(key).append(" was ").append(recorded).append(" and is ").append(now));
+            differences.push_back(zvConsole::printableUtf8(key)
+                                      .append(" was ")
+                                      .append(recorded)
+                                      .append(" and is ")
+                                      .append(now));
         }
     }
     addSecretDifferences(given.secrets, differences);
@@ -124,13 +120,14 @@ void zvEventRecord::addSecretDifferences(const std::vector<std::string>& given,
     const std::set<std::string> now(given.begin(), given.end());
     for (const std::string& name : before) {
         if (now.count(name) == 0) {
-            differences.push_back("the secret " + printable(name) +
+            differences.push_back("the secret " + zvConsole::printableUtf8(name) +
                                   " was given and is absent: give it again, as with --secrets");
         }
     }
     for (const std::string& name : now) {
         if (before.count(name) == 0) {
-            differences.push_back("the secret " + printable(name) + " was absent and is given");
+            differences.push_back("the secret " + zvConsole::printableUtf8(name) +
+                                  " was absent and is given");
         }
     }
 }
@@ -169,7 +166,7 @@ void zvEventRecord::setObject(const std::string& object) {
     append({{"object", m_history.object}}, false);
 }
 
-std::string zvEventRecord::object() const { return printable(m_history.object); }
+std::string zvEventRecord::object() const { return zvConsole::printableUtf8(m_history.object); }
 
 void zvEventRecord::setOutcome(const std::string& step, const std::string& outcome,
                                const std::string& detail) {
