@@ -18,7 +18,7 @@ public:
     /// used.
     virtual void prepare() = 0;
     /// Takes the event with these arguments, `key=value` each in the locale's encoding. Of the secrets those
-    /// in `secretNames` become arguments of it, or all if that is null.
+    /// in `secretNames` become arguments of it; if that is null, all but the file server's.
     virtual zvEventOutcome run(std::vector<std::string> arguments, const std::set<zvString>* secretNames) = 0;
 };
 

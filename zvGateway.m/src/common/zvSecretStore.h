@@ -21,6 +21,7 @@ public:
     /// without the line end after it. Subfolders, and names that begin with a dot, are not read.
     void readFolder(const std::string& folder);
 
+    bool empty() const { return m_secrets.empty(); }
     /// Where the secret is from; empty for a name that is not there.
     std::string sourceOf(const zvString& name) const;
 

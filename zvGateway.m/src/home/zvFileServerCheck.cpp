@@ -27,7 +27,8 @@ std::vector<zvString> keysOfDeliveredClient() {
                                                "../zvFileServerClient.j/fileserver.properties");
     std::string error;
     std::vector<zvString> names;
-    for (const zvJavaProperties::Key& key : zvJavaProperties::keysOf(zvHomeFile::read(file.c_str(), error))) {
+    for (const zvJavaProperties::Entry& key :
+         zvJavaProperties::entriesOf(zvHomeFile::read(file.c_str(), error))) {
         names.push_back(key.name);
     }
     return names;
@@ -114,7 +115,7 @@ void zvFileServerCheck::checkKeys(Faults faults) {
         addError(m_strFile, zvHomeCheckKind::unreadable, error.c_str());
         return;
     }
-    for (const zvJavaProperties::Key& key : zvJavaProperties::keysOf(content)) {
+    for (const zvJavaProperties::Entry& key : zvJavaProperties::entriesOf(content)) {
         checkKey(key, faults);
     }
     for (const auto& [key, reason] : faults) {
@@ -129,7 +130,7 @@ void zvFileServerCheck::checkKeys(Faults faults) {
 }
 
 // Takes what it tells from `faults`.
-void zvFileServerCheck::checkKey(const zvJavaProperties::Key& key, Faults& faults) {
+void zvFileServerCheck::checkKey(const zvJavaProperties::Entry& key, Faults& faults) {
     const zvCheckPlace place(m_strFile, key.position);
     const auto fault = faults.find(key.name);
     const bool isKnown =

@@ -23,7 +23,7 @@ private:
     using Faults = std::map<zvString, zvString>;
     Faults askClient();
     void checkKeys(Faults faults);
-    void checkKey(const zvJavaProperties::Key& key, Faults& faults);
+    void checkKey(const zvJavaProperties::Entry& key, Faults& faults);
     void connect();
     void addError(const zvCheckPlace& place, std::string_view kind, const zvString& text);
 

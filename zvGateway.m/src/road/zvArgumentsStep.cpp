@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "zvConsole.h"
+#include "zvFileServerSecrets.h"
 #include "zvNearestName.h"
 #include "zvSecrets.h"
 
@@ -106,8 +107,9 @@ void zvArgumentsStep::parse(const zvSecretStore& secrets) {
     m_event.arguments.reset(
         zvEventArguments::parseEventArguments(static_cast<int>(argv.size()), argv.data()));
     const std::set<zvString>* const wanted = m_event.secretNames;
+    const std::set<zvString> others = secrets.empty() ? std::set<zvString>() : zvFileServerSecrets::names();
     secrets.forEach([&](const zvString& name, const zvString& value) {
-        if (wanted == nullptr || wanted->count(name) > 0) {
+        if (wanted == nullptr ? others.count(name) == 0 : wanted->count(name) > 0) {
             m_event.arguments->addEventArgument(name, value);
         }
     });

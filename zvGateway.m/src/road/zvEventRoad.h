@@ -13,7 +13,7 @@
 class zvEventRoad {
 public:
     /// `session` is used as long as the road lives; the arguments are `key=value` each. Of the session's
-    /// secrets those in `secretNames` become arguments, or all if that is null.
+    /// secrets those in `secretNames` become arguments; if that is null, all but the file server's.
     zvEventRoad(zvRoadSession& session, std::vector<std::string> arguments,
                 const std::set<zvString>* secretNames = nullptr);
 

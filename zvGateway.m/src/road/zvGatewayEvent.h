@@ -27,7 +27,8 @@ struct zvGatewayEvent {
     zvLogContext logContext;
     /// As given, `key=value` each.
     std::vector<std::string> commandLine;
-    /// The names of the session's secrets that become arguments of the event; null for all.
+    /// The names of the session's secrets that become arguments of the event; null for all but the file
+    /// server's.
     const std::set<zvString>* secretNames = nullptr;
     /// There from the first step on.
     std::unique_ptr<zvEventArguments, Destroy> arguments;

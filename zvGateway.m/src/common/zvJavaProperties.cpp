@@ -1,6 +1,8 @@
 #include "zvJavaProperties.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <cstring>
 
 #include "zvHomeFile.h"
 #include "zvUtf8.h"
@@ -35,23 +37,39 @@ std::string unescaped(const std::string& line, std::size_t& place) {
     return zvUtf8::encode(zvString(unit));
 }
 
-std::string keyOf(const std::string& line) {
-    std::string key;
-    for (std::size_t i = 0; i < line.size() && std::string(" \t\f=:").find(line[i]) == std::string::npos;
-         ++i) {
-        key += line[i] == '\\' ? unescaped(line, i) : std::string(1, line[i]);
+// The text from `place` to one of `ends` that has no backslash before it, or to the line's end; `place` is
+// moved there.
+std::string textUntil(const char* ends, const std::string& line, std::size_t& place) {
+    std::string bytes;
+    for (; place < line.size() && std::strchr(ends, line[place]) == nullptr; ++place) {
+        bytes += line[place] == '\\' ? unescaped(line, place) : std::string(1, line[place]);
     }
-    return key;
+    return bytes;
+}
+
+// Past the blanks between a key and its value, with one "=" or ":" among them.
+std::size_t afterSeparator(const std::string& line, std::size_t place) {
+    place = std::min(line.find_first_not_of(blanks, place), line.size());
+    if (place < line.size() && (line[place] == '=' || line[place] == ':')) {
+        place = std::min(line.find_first_not_of(blanks, place + 1), line.size());
+    }
+    return place;
+}
+
+zvString toText(const std::string& bytes) {
+    zvString text;
+    zvUtf8::decode(bytes, text);
+    return text;
 }
 
 }  // namespace
 
-std::vector<zvJavaProperties::Key> zvJavaProperties::keysOf(const std::string& content) {
+std::vector<zvJavaProperties::Entry> zvJavaProperties::entriesOf(const std::string& content) {
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     const bool isMarked = content.compare(0, byteOrderMark.size(), byteOrderMark) == 0;
     const std::vector<std::string> lines =
         zvHomeFile::lines(content.substr(isMarked ? byteOrderMark.size() : 0));
-    std::vector<Key> keys;
+    std::vector<Entry> entries;
     for (std::size_t i = 0; i < lines.size(); ++i) {
         const zvTextPosition position{static_cast<int>(i) + 1,
                                       static_cast<int>(lines[i].size() - withoutIndent(lines[i]).size()) + 1};
@@ -63,9 +81,10 @@ std::vector<zvJavaProperties::Key> zvJavaProperties::keysOf(const std::string& c
             line.pop_back();
             line += withoutIndent(lines[++i]);
         }
-        Key key{zvString(), position};
-        zvUtf8::decode(keyOf(line), key.name);
-        keys.push_back(key);
+        std::size_t place = 0;
+        const zvString name = toText(textUntil(" \t\f=:", line, place));
+        place = afterSeparator(line, place);
+        entries.push_back({name, toText(textUntil("", line, place)), position});
     }
-    return keys;
+    return entries;
 }
