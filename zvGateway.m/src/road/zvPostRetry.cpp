@@ -20,7 +20,7 @@ constexpr double longestDelay = 60;  // seconds
 // Of a server that is busy, starts or stops, or of a proxy before one.
 constexpr int temporaryStatuses[] = {408, 425, 429, 500, 502, 503, 504};
 constexpr Failure temporaryFailures[] = {Failure::resolve, Failure::connect, Failure::timeout,
-                                         Failure::connection};
+                                         Failure::connection, Failure::answerLimit};
 
 template <typename Values, typename Value>
 bool contains(const Values& values, Value value) {
