@@ -44,8 +44,7 @@ public:
             return 0;
         }
         const bool isDiscarded = self.m_pSink == nullptr || self.m_pSink->m_pWriteFunction == nullptr;
-        return isDiscarded ? size * count
-                           : self.m_pSink->m_pWriteFunction(data, size, count, self.m_pSink);
+        return isDiscarded ? size * count : self.m_pSink->m_pWriteFunction(data, size, count, self.m_pSink);
     }
 
 private:
@@ -88,7 +87,8 @@ public:
     zvRequestOutcome outcome(CURLcode code) const {
         zvRequestOutcome outcome;
         outcome.status = static_cast<int>(info<long>(CURLINFO_RESPONSE_CODE));
-        outcome.location = info<const char*>(CURLINFO_REDIRECT_URL);
+        const char* const location = info<const char*>(CURLINFO_REDIRECT_URL);
+        outcome.location = zvUtf8::decodeReplacing(location == nullptr ? "" : location);
         // Negative for a date that has passed.
         outcome.retryAfterSeconds = std::max(info<curl_off_t>(CURLINFO_RETRY_AFTER), curl_off_t{0});
         outcome.failure = zvCurlFailure::kindOf(code, m_errorText);

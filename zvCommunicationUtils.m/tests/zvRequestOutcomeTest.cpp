@@ -144,9 +144,8 @@ TEST_F(zvRequestOutcomeTest, AnAnswerWithoutAnEndIsLeft) {
          Failure::answerLimit, tooLong},
         {"an endless body",
          [](auto& to) {
-             to.set_content_provider(std::size_t{1} << 40U, "a/b", [](auto, auto, auto& out) {
-                 return endless(1000, 0)(0, out);
-             });
+             to.set_content_provider(std::size_t{1} << 40U, "a/b",
+                                     [](auto, auto, auto& out) { return endless(1000, 0)(0, out); });
          },
          Failure::answerLimit, tooLong},
         {"many headers",
