@@ -63,6 +63,7 @@ bool zvGatewayHomeStep::isHomeNamed() { return !homePath().empty(); }
 
 zvStepOutcome zvGatewayHomeStep::run() const {
     requireUsable(m_event.session.options.requiresLog);
+    m_event.deadline.set(m_event.session.eventTimeout());
     return zvStepOutcome::done(zvConsole::printablePath(homePath()));
 }
 

@@ -1,9 +1,9 @@
 #include "zvPostDelivery.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <utility>
-#include <vector>
 
 #include "zvCommunicationFactory.h"
 #include "zvConsole.h"
@@ -38,12 +38,9 @@ std::string seconds(std::chrono::milliseconds time) {
 }
 
 zvPostRetry readRetry() {
-    std::vector<std::string> faults;
-    const zvPostRetry retry = zvPostRetry::read(faults);
-    for (const std::string& fault : faults) {
-        zvConsole::fact("warning", fault);
-        log(zvLogLevel::warn, fault, __LINE__);
-    }
+    zvClientSettings settings;
+    const zvPostRetry retry = zvPostRetry::read(settings);
+    settings.tellFaults();
     return retry;
 }
 
@@ -74,18 +71,23 @@ std::string zvPostDelivery::run() {
         if (decision != zvPostRetry::Decision::again) {
             fail(reason, decision, attempt);
         }
+        m_event.deadline.throwIfOver(m_strShownUrl, reason);
         const auto wait =
             retry.wait(outcome, attempt, std::uniform_real_distribution<double>(0, 1)(m_random));
         tellRetry(reason + "; try " + std::to_string(attempt + 1) + " of " +
                   std::to_string(retry.retries + 1) + " in " + seconds(wait));
-        zvProcess::waitFor(wait);
+        const int left = m_event.deadline.secondsLeft();
+        zvProcess::waitFor(left == 0 ? wait
+                                     : std::min<std::chrono::milliseconds>(wait, std::chrono::seconds(left)));
         zvInterruption::throwIfRequested();
+        m_event.deadline.throwIfOver(m_strShownUrl, reason);
     }
 }
 
 // Returns the reason in case it failed.
 std::string zvPostDelivery::post() {
     zvServerAnswer answer(m_secrets);
+    m_pServer->setTimeLimit(m_event.deadline.secondsLeft());
     const zvResult posted = m_pServer->request(m_url, *m_event.arguments, answer.sink());
     zvRequestOutcome outcome = m_pServer->lastOutcome();
     m_strAnswer = answer.text();

@@ -6,6 +6,8 @@ package com.vantorel.ep.products.fsclient;
  */
 final class TimeLimits {
     private static final long SECOND = 1_000_000_000;
+    /** In nanoseconds, after which it looks whether the answer is still wanted. */
+    private static final long LONGEST_PAUSE = 100_000_000;
 
     private final long stall;
     private final long slowest;
@@ -15,6 +17,7 @@ final class TimeLimits {
     private volatile long lastPace;
     private long end;
     private long fileBegin;
+    private long lastQuestion = System.nanoTime();
 
     TimeLimits(Settings settings) {
         stall = settings.timeout.toNanos();
@@ -70,8 +73,13 @@ final class TimeLimits {
         return new BrokenConnectionException("the server took " + little + " for " + stall / SECOND + " seconds");
     }
 
-    /** Fails when the server gives too little or too late. */
-    void check() throws BrokenConnectionException {
+    /** Fails when the server gives too little or too late, or nobody wants it any longer. */
+    void check() throws FileServerException {
+        long now = System.nanoTime();
+        if (now - lastQuestion > LONGEST_PAUSE) {
+            lastQuestion = now;
+            Notices.throwIfCancelled();
+        }
         if (left() < 0) {
             throw new BrokenConnectionException("the server gave less than " + slowest + " bytes a second for "
                     + stall / SECOND + " seconds");
