@@ -18,6 +18,8 @@ using Form = zvClientConfigKey::Form;
 
 constexpr int longestTimeout = 86400;
 constexpr int longestDelay = 60;
+constexpr int longestAnswer = 1 << 30;
+constexpr int longestEvent = 30 * longestTimeout;
 constexpr int mostRetries = 1000;
 
 struct CloseUrl {
@@ -57,12 +59,15 @@ const std::vector<zvClientConfigKey>& zvClientConfigKey::all() {
         {"local-server-url", Form::url},
         {"http-connect-timeout", Form::wholeNumber, 1, longestTimeout},
         {"http-stall-timeout", Form::wholeNumber, 1, longestTimeout},
+        {"http-timeout", Form::wholeNumber, 1, longestTimeout},
+        {"http-answer-limit", Form::wholeNumber, 1, longestAnswer},
         {"http-retries", Form::wholeNumber, 0, mostRetries},
         {"http-retry-delay", Form::number, 0, longestDelay},
         {"http-ca-file", Form::certificates},
         {"http-client-certificate", Form::file},
         {"http-client-key", Form::file},
-        {"http-client-key-password-env", Form::passwordVariable}};
+        {"http-client-key-password-env", Form::passwordVariable},
+        {"event-timeout", Form::wholeNumber, 0, longestEvent}};
     return keys;
 }
 

@@ -35,6 +35,8 @@ void zvCommunicationUtils::queryResponseHeader() {
 
 zvRequestOutcome zvCommunicationUtils::lastOutcome() const { return {}; }
 
+void zvCommunicationUtils::setTimeLimit(int) {}
+
 zvResult zvCommunicationUtils::connect(const zvString&) {
     constexpr char noProtocol[] = "Function zvCommunicationUtils::connect(zvString) has no protocol";
     logger.error(noProtocol);

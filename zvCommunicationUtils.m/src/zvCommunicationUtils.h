@@ -29,7 +29,9 @@ public:
     ~zvCommunicationUtils() override;
 
     /// Sends the arguments to `url` and waits for the response, whose body is passed to `sink` whatever the
-    /// status; a null sink, or one without a write function, discards it.
+    /// status; a null sink, or one without a write function, discards it. An answer that is longer than
+    /// "http-answer-limit" of the client configuration (1 MiB), and a request that takes longer than
+    /// "http-timeout" (10 minutes), is a failure.
     /// @return 0 for a response with a status below 400, including redirects, which are not followed;
     /// otherwise -1 with the reason as message. The additional information is the status in decimal, empty if
     /// there was no response.
@@ -50,6 +52,9 @@ public:
     /// request only.
     /// @return 0 if it succeeds; otherwise -1 with the reason as message.
     virtual zvResult connect(const zvString& url);
+
+    /// The seconds that each later request may take if its protocol would give it more; 0 for no other limit.
+    virtual void setTimeLimit(int seconds);
 };
 
 #endif

@@ -46,24 +46,26 @@ void readText(const Values& values, const char* key, zvString& text) {
     }
 }
 
-// Overwrites `seconds` if the key is set and its value is valid.
-void readSeconds(const Values& values, const char* key, long& seconds) {
+// Overwrites `number` if the key is set and its value is valid.
+void readNumber(const Values& values, const char* key, long& number) {
     const auto found = values.find(key);
     if (found == values.end()) {
         return;
     }
     const zvString fault = zvClientConfigKey::find(key)->faultOf(found->second);
     if (fault.empty()) {
-        seconds = zvString::convertUnicodeToInt(found->second);
+        number = zvString::convertUnicodeToInt(found->second);
     } else {
         logger.warn("", fault, ": \"", key, "\" of the file \"client-config.ini\" stays ",
-                    static_cast<int>(seconds));
+                    static_cast<int>(number));
     }
 }
 
 void applyValues(const Values& values, zvHttpSettings& settings) {
-    readSeconds(values, "http-connect-timeout", settings.connectSeconds);
-    readSeconds(values, "http-stall-timeout", settings.stallSeconds);
+    readNumber(values, "http-connect-timeout", settings.connectSeconds);
+    readNumber(values, "http-stall-timeout", settings.stallSeconds);
+    readNumber(values, "http-timeout", settings.totalSeconds);
+    readNumber(values, "http-answer-limit", settings.answerLimit);
     readText(values, "http-ca-file", settings.caFile);
     readText(values, "http-client-certificate", settings.clientCertificate);
     readText(values, "http-client-key", settings.clientKey);

@@ -11,6 +11,10 @@ struct zvHttpSettings {
 
     long connectSeconds = 30;
     long stallSeconds = 60;
+    /// From the beginning of a request to the end of its answer.
+    long totalSeconds = 600;
+    /// In bytes, of an answer with its headers.
+    long answerLimit = 1 << 20;
     /// Trusted certificates in PEM, instead of the system's; empty for the system's.
     zvString caFile;
     /// A folder of trusted certificates as OpenSSL's c_rehash prepares it; empty for the system's.

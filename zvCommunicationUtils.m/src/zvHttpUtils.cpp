@@ -27,7 +27,37 @@ void initializeLibrary() {
     }
 }
 
-std::size_t discard(char*, std::size_t size, std::size_t count, void*) { return size * count; }
+// Counts what the server sends, headers included, and passes the body on. A full one ends the transfer.
+class LimitedAnswer {
+public:
+    LimitedAnswer(long limit, WriteMemoryCallbackWrapper* sink)
+        : m_left(static_cast<std::size_t>(limit)), m_pSink(sink) {}
+
+    bool isTooLong() const { return m_bTooLong; }
+
+    static std::size_t takeHeader(char*, std::size_t size, std::size_t count, void* answer) {
+        return static_cast<LimitedAnswer*>(answer)->has(size * count) ? size * count : 0;
+    }
+    static std::size_t takeBody(char* data, std::size_t size, std::size_t count, void* answer) {
+        auto& self = *static_cast<LimitedAnswer*>(answer);
+        if (!self.has(size * count)) {
+            return 0;
+        }
+        const bool isDiscarded = self.m_pSink == nullptr || self.m_pSink->m_pWriteFunction == nullptr;
+        return isDiscarded ? size * count : self.m_pSink->m_pWriteFunction(data, size, count, self.m_pSink);
+    }
+
+private:
+    bool has(std::size_t bytes) {
+        m_bTooLong = m_bTooLong || bytes > m_left;
+        m_left -= m_bTooLong ? m_left : bytes;
+        return !m_bTooLong;
+    }
+
+    std::size_t m_left;
+    WriteMemoryCallbackWrapper* m_pSink;
+    bool m_bTooLong = false;
+};
 
 // RAII wrapper of a libcurl easy handle. An option that fails makes the transfer fail.
 class Transfer {
@@ -46,11 +76,19 @@ public:
         return m_code == CURLE_OK ? curl_easy_perform(m_pHandle.get()) : m_code;
     }
 
+    // Whether it has used up the time, but for what the clock is inexact.
+    bool hasTaken(long seconds) const {
+        constexpr curl_off_t perSecond = 1'000'000;
+        constexpr curl_off_t inexact = 100'000;
+        return info<curl_off_t>(CURLINFO_TOTAL_TIME_T) + inexact >= seconds * perSecond;
+    }
+
     // What is known once it was performed with the result `code`.
     zvRequestOutcome outcome(CURLcode code) const {
         zvRequestOutcome outcome;
         outcome.status = static_cast<int>(info<long>(CURLINFO_RESPONSE_CODE));
-        outcome.location = info<const char*>(CURLINFO_REDIRECT_URL);
+        const char* const location = info<const char*>(CURLINFO_REDIRECT_URL);
+        outcome.location = zvUtf8::decodeReplacing(location == nullptr ? "" : location);
         // Negative for a date that has passed.
         outcome.retryAfterSeconds = std::max(info<curl_off_t>(CURLINFO_RETRY_AFTER), curl_off_t{0});
         outcome.failure = zvCurlFailure::kindOf(code, m_errorText);
@@ -86,10 +124,16 @@ private:
     CURLcode m_code = CURLE_OK;
 };
 
-void setSink(Transfer& transfer, WriteMemoryCallbackWrapper* sink) {
-    const bool isDiscarded = sink == nullptr || sink->m_pWriteFunction == nullptr;
-    transfer.set(CURLOPT_WRITEFUNCTION, isDiscarded ? &discard : sink->m_pWriteFunction);
-    transfer.set(CURLOPT_WRITEDATA, sink);
+void setAnswer(Transfer& transfer, LimitedAnswer& answer) {
+    transfer.set(CURLOPT_HEADERFUNCTION, &LimitedAnswer::takeHeader);
+    transfer.set(CURLOPT_HEADERDATA, &answer);
+    transfer.set(CURLOPT_WRITEFUNCTION, &LimitedAnswer::takeBody);
+    transfer.set(CURLOPT_WRITEDATA, &answer);
+}
+
+zvString describeLimit(const zvHttpSettings& settings) {
+    return "the answer is longer than " + zvString(static_cast<int>(settings.answerLimit)) +
+           " bytes, \"http-answer-limit\" of client-config.ini";
 }
 
 bool endsWith(const std::string& text, std::string_view end) {
@@ -144,16 +188,19 @@ zvString describe(CURLcode code, const zvHttpSettings& settings) {
     return text;
 }
 
-zvResult concluded(CURLcode code, int status, const zvHttpSettings& settings) {
+zvResult concluded(CURLcode code, const zvRequestOutcome& outcome, const zvHttpSettings& settings) {
     zvResult result;
-    if (status > 0) {
-        result.setAdditionalInformation(zvString(status));
+    if (outcome.status > 0) {
+        result.setAdditionalInformation(zvString(outcome.status));
     }
-    if (code == CURLE_OK && status < firstErrorStatus) {
+    if (code == CURLE_OK && outcome.status < firstErrorStatus) {
         result.setOk();
         return result;
     }
-    result.setMessage(code != CURLE_OK ? describe(code, settings) : "HTTP status " + zvString(status));
+    const bool isTooLong = outcome.failure == zvRequestOutcome::Failure::answerLimit;
+    result.setMessage(isTooLong          ? outcome.errorText
+                      : code != CURLE_OK ? describe(code, settings)
+                                         : "HTTP status " + zvString(outcome.status));
     logger.error("Following error occured while sending the request : ", result.getMessage());
     return result;
 }
@@ -163,7 +210,10 @@ zvResult concluded(CURLcode code, int status, const zvHttpSettings& settings) {
 zvHttpUtils::zvHttpUtils() { initializeLibrary(); }
 
 zvHttpUtils::zvHttpUtils(const zvHttpUtils& other)
-    : zvCommunicationUtils(other), m_settings(other.m_settings), m_outcome(other.m_outcome) {
+    : zvCommunicationUtils(other),
+      m_settings(other.m_settings),
+      m_timeLimit(other.m_timeLimit),
+      m_outcome(other.m_outcome) {
     initializeLibrary();
 }
 
@@ -191,18 +241,27 @@ zvResult zvHttpUtils::request(const zvString& url, const zvEventArguments& args,
 zvResult zvHttpUtils::post(const zvString& url, const zvEventArguments& args,
                            WriteMemoryCallbackWrapper* sink) {
     std::optional<zvFormBody> body;
-    return transfer(url, [&](Transfer& transfer) {
+    LimitedAnswer answer(m_settings->answerLimit, sink);
+    return transfer(url, answer, [&](Transfer& transfer) {
         body = computeHttpRequestArgs(args);
         logger.info("Parameters to send : \"", body->shown().c_str(), "\"");
         transfer.set(CURLOPT_POSTFIELDS, body->sent().c_str());
         transfer.set(CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(body->sent().size()));
-        setSink(transfer, sink);
     });
 }
 
 zvResult zvHttpUtils::connect(const zvString& url) {
     begin();
-    return transfer(url, [](Transfer& transfer) { transfer.set(CURLOPT_CONNECT_ONLY, 1L); });
+    LimitedAnswer answer(m_settings->answerLimit, nullptr);
+    return transfer(url, answer, [](Transfer& transfer) { transfer.set(CURLOPT_CONNECT_ONLY, 1L); });
+}
+
+void zvHttpUtils::setTimeLimit(int seconds) { m_timeLimit = seconds; }
+
+// Of a transfer, in seconds.
+long zvHttpUtils::timeLimit() const {
+    const long most = m_settings->totalSeconds;
+    return m_timeLimit > 0 ? std::min<long>(most, m_timeLimit) : most;
 }
 
 void zvHttpUtils::begin() {
@@ -213,8 +272,8 @@ void zvHttpUtils::begin() {
 }
 
 // Performs what `setUp` makes of a transfer.
-template <class SetUp>
-zvResult zvHttpUtils::transfer(const zvString& url, SetUp setUp) {
+template <class Answer, class SetUp>
+zvResult zvHttpUtils::transfer(const zvString& url, Answer& answer, SetUp setUp) {
     Transfer transfer;
     if (!transfer.isOpen()) {
         constexpr char noHandle[] = "Error in getting an handle to curl-easy interface.";
@@ -225,11 +284,19 @@ zvResult zvHttpUtils::transfer(const zvString& url, SetUp setUp) {
     }
     transfer.set(CURLOPT_URL, zvUtf8::encode(url).c_str());
     setUp(transfer);
+    setAnswer(transfer, answer);
     setConnection(transfer, *m_settings);
     setCertificates(transfer, *m_settings);
+    transfer.set(CURLOPT_TIMEOUT, timeLimit());
     const CURLcode code = transfer.perform();
     m_outcome = transfer.outcome(code);
-    return concluded(code, m_outcome.status, *m_settings);
+    if (answer.isTooLong()) {
+        m_outcome.failure = zvRequestOutcome::Failure::answerLimit;
+        m_outcome.errorText = describeLimit(*m_settings);
+    } else if (code == CURLE_OPERATION_TIMEDOUT && transfer.hasTaken(m_settings->totalSeconds)) {
+        m_outcome.errorText += ": \"http-timeout\" of client-config.ini";
+    }
+    return concluded(code, m_outcome, *m_settings);
 }
 
 void zvHttpUtils::queryResponse() {

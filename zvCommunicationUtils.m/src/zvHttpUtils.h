@@ -22,6 +22,7 @@ public:
     void queryResponseHeader() override;
     zvRequestOutcome lastOutcome() const override { return m_outcome; }
     zvResult connect(const zvString& url) override;
+    void setTimeLimit(int seconds) override;
 
 private:
     friend class zvCommunicationFactory;
@@ -30,11 +31,13 @@ private:
     zvFormBody computeHttpRequestArgs(const zvEventArguments& args) const;
     zvResult post(const zvString& url, const zvEventArguments& args, WriteMemoryCallbackWrapper* sink);
     void begin();
-    template <class SetUp>
-    zvResult transfer(const zvString& url, SetUp setUp);
+    long timeLimit() const;
+    template <class Answer, class SetUp>
+    zvResult transfer(const zvString& url, Answer& answer, SetUp setUp);
 
     // Read by the first request.
     std::optional<zvHttpSettings> m_settings;
+    int m_timeLimit = 0;
     zvRequestOutcome m_outcome;
 };
 

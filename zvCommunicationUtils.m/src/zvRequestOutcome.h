@@ -12,10 +12,11 @@ struct zvRequestOutcome {
         settings,    ///< the URL or protocol, or a file named in the client configuration, cannot be used
         resolve,     ///< the name of the host or of the proxy cannot be resolved
         connect,     ///< the host does not accept the connection
-        timeout,     ///< connecting took too long, or the transfer stalled
+        timeout,     ///< connecting or the whole request took too long, or the transfer stalled
         tls,         ///< no TLS session: see tlsFailure
         connection,  ///< the connection broke; the server may have received the request
-        other
+        other,
+        answerLimit  ///< the answer is longer than "http-answer-limit" of the client configuration
     };
     /// The check of TLS that failed. Told apart where libcurl uses OpenSSL; elsewhere, `other`.
     enum class TlsFailure {

@@ -183,6 +183,7 @@ TEST_F(zvCommunicationUtilsTest, ManyAndLongArgumentsArriveWhole) {
 
 TEST_F(zvCommunicationUtilsTest, TheSinkGetsTheResponseInPieces) {
     constexpr std::size_t length = 10u << 20u;
+    m_folder.write("config/client-config.ini", "http-answer-limit=20000000\n");
     LoopbackServer server;
     server.m_answer = [](httplib::Response& response) {
         response.set_content(std::string(length - 1, 'x') + "y", "text/plain");

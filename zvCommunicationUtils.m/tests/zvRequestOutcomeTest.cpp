@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <ctime>
+#include <functional>
 #include <memory>
 #include <string>
+#include <thread>
 #include <utility>
 
 #include "zvCommunicationTestSupport.h"
@@ -113,6 +116,67 @@ TEST_F(zvRequestOutcomeTest, AConnectionAloneSendsNothing) {
     }
     EXPECT_EQ(server.m_requests, 0);
     EXPECT_FALSE(zvCommunicationUtils(*m_pUtils).connect(server.url()).isOk()) << "has no protocol";
+}
+
+// Writes so many bytes a time, and waits.
+auto endless(std::size_t bytes, int milliseconds) {
+    return [bytes, milliseconds](std::size_t, httplib::DataSink& out) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+        const std::string piece(bytes, 'x');
+        return out.write(piece.data(), piece.size());
+    };
+}
+
+TEST_F(zvRequestOutcomeTest, AnAnswerWithoutAnEndIsLeft) {
+    constexpr char limits[] = "http-answer-limit=2000\nhttp-timeout=1\nhttp-stall-timeout=60\n";
+    const std::string tooLong = "the answer is longer than 2000 bytes, \"http-answer-limit\"";
+    const struct {
+        const char* name;
+        std::function<void(httplib::Response&)> answer;
+        Failure failure;
+        std::string text;
+    } cases[] = {
+        {"just not too long", [](auto& to) { to.set_content(std::string(1800, 'x'), "text/plain"); },
+         Failure::none, ""},
+        {"long", [](auto& to) { to.set_content(std::string(2000, 'x'), "text/plain"); }, Failure::answerLimit,
+         tooLong},
+        {"endless chunks", [](auto& to) { to.set_chunked_content_provider("a/b", endless(1000, 0)); },
+         Failure::answerLimit, tooLong},
+        {"an endless body",
+         [](auto& to) {
+             to.set_content_provider(std::size_t{1} << 40U, "a/b",
+                                     [](auto, auto, auto& out) { return endless(1000, 0)(0, out); });
+         },
+         Failure::answerLimit, tooLong},
+        {"many headers",
+         [](auto& to) {
+             for (int i = 0; i < 20; ++i) {
+                 to.set_header("Name-" + std::to_string(i), std::string(100, 'x'));
+             }
+         },
+         Failure::answerLimit, tooLong},
+        {"a drip", [](auto& to) { to.set_chunked_content_provider("a/b", endless(1, 50)); }, Failure::timeout,
+         ": \"http-timeout\" of client-config.ini"},
+    };
+    m_folder.write("config/client-config.ini", limits);
+    for (const auto& [name, answer, failure, text] : cases) {
+        LoopbackServer server;
+        server.m_answer = answer;
+        const zvResult result = m_pUtils->request(server.url(), m_args, nullptr);
+        const zvRequestOutcome outcome = m_pUtils->lastOutcome();
+        EXPECT_EQ(result.isOk(), failure == Failure::none) << name;
+        EXPECT_EQ(outcome.failure, failure) << name;
+        EXPECT_EQ(outcome.status, 200) << name;
+        EXPECT_NE(narrow(outcome.errorText).find(text), std::string::npos) << narrow(outcome.errorText);
+    }
+}
+
+TEST_F(zvRequestOutcomeTest, TheCallersTimeLimitCountsIfItIsShorter) {
+    m_folder.write("config/client-config.ini", "http-timeout=600\n");
+    LoopbackServer server;
+    server.m_answer = [](auto& to) { to.set_chunked_content_provider("a/b", endless(1, 50)); };
+    m_pUtils->setTimeLimit(1);
+    EXPECT_EQ(outcomeOf(server.url()).failure, Failure::timeout);
 }
 
 TEST_F(zvRequestOutcomeTest, AStalledServerIsATimeout) {

@@ -98,11 +98,11 @@ TEST_F(zvPostRetrySettingsTest, SettingsAreReadOrTold) {
                  {"http-retries= \nhttp-retry-delay=1e3\n", 5, 1, 2}};
     for (const auto& [lines, retries, delay, count] : cases) {
         m_folder.write("config/client-config.ini", lines);
-        std::vector<std::string> faults;
-        const zvPostRetry retry = zvPostRetry::read(faults);
+        zvClientSettings settings;
+        const zvPostRetry retry = zvPostRetry::read(settings);
         EXPECT_EQ(retry.retries, retries) << lines;
         EXPECT_EQ(retry.delay, delay) << lines;
-        EXPECT_EQ(faults.size(), count) << lines;
+        EXPECT_EQ(settings.faults().size(), count) << lines;
     }
 }
 

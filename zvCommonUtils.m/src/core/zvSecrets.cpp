@@ -20,6 +20,51 @@ struct AddedKey {
     }
 };
 
+// The account of a URL in a text, from its first character to the "@" behind it; `end` is -1 if there is
+// none.
+struct Account {
+    int begin = 0;
+    int end = -1;
+};
+
+int lastIn(const zvString& text, wchar16 character, int begin, int end) {
+    while (end-- > begin) {
+        if (text[end] == character) {
+            return end;
+        }
+    }
+    return -1;
+}
+
+bool isEndOfAuthority(wchar16 c) { return c == u'/' || c == u'?' || c == u'#'; }
+
+// Whether the host, which ends at `end`, is followed by what is no port: a "/" in a password, for one.
+bool hasOddPort(const zvString& text, int begin, int end) {
+    const int colon = lastIn(text, u':', begin, end);
+    for (int i = colon + 1; colon >= 0 && text[begin] != u'[' && i < end; ++i) {
+        if (text[i] < u'0' || text[i] > u'9') {
+            return true;
+        }
+    }
+    return false;
+}
+
+Account findAccount(const zvString& text) {
+    const int slashes = text.find("//");
+    // Without a scheme, in a line of a properties file.
+    const int begin = slashes >= 0 ? slashes + 2 : text.find("=") + 1;
+    int end = begin;
+    while (end < text.size() && !isEndOfAuthority(text[end])) {
+        ++end;
+    }
+    int at = lastIn(text, u'@', begin, end);
+    if (at < 0 && begin < end && hasOddPort(text, begin, end)) {
+        at = lastIn(text, u'@', end, text.size());
+    }
+    const bool isAccount = slashes >= 0 || lastIn(text, u':', begin, at) >= 0;
+    return {begin, isAccount ? at : -1};
+}
+
 // Never destroyed: what is logged at the end of the process is masked as well.
 std::deque<AddedKey>& addedKeys() {
     static auto& added = *new std::deque<AddedKey>;
@@ -60,4 +105,16 @@ zvString zvSecrets::maskedKey(const zvString& key) {
 
 zvString zvSecrets::maskedValue(const zvString& key, const zvString& value) {
     return keyIn(key) == nullptr && keyIn(value) == nullptr ? value : zvString(mask);
+}
+
+zvString zvSecrets::accountIn(const zvString& url) {
+    const Account account = findAccount(url);
+    return account.end < 0 ? zvString() : url.substr(account.begin, account.end - account.begin);
+}
+
+zvString zvSecrets::maskedUrl(const zvString& text) {
+    const Account account = findAccount(text);
+    return account.end < 0
+               ? text
+               : text.substr(0, account.begin) + mask + text.substr(account.end, text.size() - account.end);
 }

@@ -5,6 +5,35 @@
 
 #include "zvTextCodec.h"
 
+namespace {
+
+bool isContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
+
+// How many bytes the character has that begins with this one, if it is well-formed.
+std::size_t lengthByLead(char lead) {
+    const auto byte = static_cast<unsigned char>(lead);
+    return byte < 0xC0 ? 1 : byte < 0xE0 ? 2 : byte < 0xF0 ? 3 : 4;
+}
+
+// Takes one character, or what is left of one, from the beginning of `bytes`.
+void takeCharacter(std::string_view& bytes, std::vector<wchar16>& units) {
+    constexpr wchar16 replacement = 0xFFFD;
+    std::size_t length = 1;
+    while (length < std::min(lengthByLead(bytes.front()), bytes.size()) && isContinuation(bytes[length])) {
+        ++length;
+    }
+    wchar16 character[4];
+    const std::size_t count = zvTextCodec::fromUtf8(std::string(bytes.substr(0, length)).c_str(), character);
+    if (count == 0 || count == zvTextCodec::unconvertible) {
+        units.push_back(replacement);
+    } else {
+        units.insert(units.end(), character, character + count);
+    }
+    bytes.remove_prefix(length);
+}
+
+}  // namespace
+
 namespace zvUtf8 {
 
 std::string encode(const zvString& text) {
@@ -26,6 +55,14 @@ bool decode(const std::string& bytes, zvString& text) {
     const bool isValid = length != zvTextCodec::unconvertible;
     text = isValid ? zvString(units.data(), static_cast<int>(length)) : zvString();
     return isValid;
+}
+
+zvString decodeReplacing(std::string_view bytes) {
+    std::vector<wchar16> units;
+    while (!bytes.empty()) {
+        takeCharacter(bytes, units);
+    }
+    return units.empty() ? zvString() : zvString(units.data(), static_cast<int>(units.size()));
 }
 
 }  // namespace zvUtf8

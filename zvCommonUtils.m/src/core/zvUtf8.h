@@ -15,6 +15,8 @@ ZV_EXPORT std::string encode(const zvString& text);
 ZV_EXPORT std::string_view encode(const zvString& text, std::string& buffer);
 /// The text that `bytes` encode, up to a null byte; false, with `text` empty, for malformed UTF-8.
 ZV_EXPORT bool decode(const std::string& bytes, zvString& text);
+/// The text that `bytes` encode, with U+FFFD for what is malformed and for a null byte: for what is shown.
+ZV_EXPORT zvString decodeReplacing(std::string_view bytes);
 
 }  // namespace zvUtf8
 

@@ -5,6 +5,7 @@
 
 #include "zvDirFileUtils.h"
 #include "zvLogSource.h"
+#include "zvSecrets.h"
 
 namespace {
 
@@ -64,11 +65,11 @@ bool zvProperties::addPropertyToMap(const zvString& line) {
     if (line.empty() || line[0] == commentMark) {
         return true;
     }
-    logger.info("Processing string :", line);
+    logger.info("Processing string :", zvSecrets::maskedUrl(line));
     const wchar16* const end = line.data() + line.size();
     const auto separator = static_cast<int>(std::find(line.data(), end, wchar16{u'='}) - line.data());
     if (separator < 1 || separator == line.size()) {
-        logger.error("Line : \"", line, "\" doesn't have key-value separator char.");
+        logger.error("Line : \"", zvSecrets::maskedUrl(line), "\" doesn't have key-value separator char.");
         return false;
     }
     zvString name = line.substr(0, separator);

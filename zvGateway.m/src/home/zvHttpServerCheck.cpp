@@ -7,17 +7,11 @@
 #include "zvConsole.h"
 #include "zvHomeCheckKind.h"
 #include "zvPostReason.h"
+#include "zvSecrets.h"
 
 namespace {
 
-// Without an account: it may hold a password.
-std::string shown(const zvString& url) {
-    std::string text = zvConsole::printable(url);
-    const std::size_t begin = text.find("//") + 2;
-    const std::size_t end = text.find_first_of("/?#", begin);
-    const std::size_t account = text.substr(0, end).rfind('@');
-    return account == std::string::npos ? text : text.replace(begin, account - begin, "********");
-}
+std::string shown(const zvString& url) { return zvConsole::printable(zvSecrets::maskedUrl(url)); }
 
 }  // namespace
 

@@ -73,6 +73,7 @@ void zvEventRoad::take(const Step& step) {
     zvConsole::step(step.name);
     m_event.report.take(step.name, step.exitCode, [&] {
         zvInterruption::throwIfRequested();
+        m_event.deadline.throwIfOver("event-timeout");
         return step.run(m_event);
     });
     recordOutcomes();

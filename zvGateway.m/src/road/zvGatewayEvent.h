@@ -8,6 +8,7 @@
 
 #include "zvAttachmentList.h"
 #include "zvEventArguments.h"
+#include "zvEventDeadline.h"
 #include "zvEventRecord.h"
 #include "zvLogContext.h"
 #include "zvRoadReport.h"
@@ -37,6 +38,7 @@ struct zvGatewayEvent {
     bool wasPostedBefore = false;
     zvAttachmentList attachments;
     zvRoadReport report;
+    zvEventDeadline deadline;
 
     zvString argument(const char* key) const { return arguments->getEventArgumentValue(key); }
     /// The path of the event's directory.

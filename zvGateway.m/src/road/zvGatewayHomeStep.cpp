@@ -4,6 +4,7 @@
 #include "zvConsole.h"
 #include "zvDirFileUtils.h"
 #include "zvLogger.h"
+#include "zvSecrets.h"
 
 namespace {
 
@@ -45,7 +46,7 @@ void checkLocalServer() {
         throw failure(configuration, error.empty() ? "\"local-server-url\" cannot be found in it"
                                                    : zvConsole::printable(error));
     }
-    zvConsole::fact("local server", zvConsole::printable(url));
+    zvConsole::fact("local server", zvConsole::printable(zvSecrets::maskedUrl(url)));
 }
 
 }  // namespace
@@ -62,6 +63,7 @@ bool zvGatewayHomeStep::isHomeNamed() { return !homePath().empty(); }
 
 zvStepOutcome zvGatewayHomeStep::run() const {
     requireUsable(m_event.session.options.requiresLog);
+    m_event.deadline.set(m_event.session.eventTimeout());
     return zvStepOutcome::done(zvConsole::printablePath(homePath()));
 }
 

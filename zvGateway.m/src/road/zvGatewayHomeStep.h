@@ -6,7 +6,7 @@
 /// The step that looks at the gateway home: its log configuration and its client configuration.
 class zvGatewayHomeStep {
 public:
-    explicit zvGatewayHomeStep(const zvGatewayEvent& event) : m_event(event) {}
+    explicit zvGatewayHomeStep(zvGatewayEvent& event) : m_event(event) {}
 
     /// Whether the environment names a home.
     static bool isHomeNamed();
@@ -17,11 +17,11 @@ public:
 
     /// Throws the zvStepFailure of a home, or of a file in it, that cannot be used.
     static void requireUsable(bool requiresLog);
-    /// The same.
+    /// The same. Sets the time that the event has.
     zvStepOutcome run() const;
 
 private:
-    const zvGatewayEvent& m_event;
+    zvGatewayEvent& m_event;
 };
 
 #endif

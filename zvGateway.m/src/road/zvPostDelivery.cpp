@@ -1,11 +1,10 @@
 #include "zvPostDelivery.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <utility>
-#include <vector>
 
-#include "zvCharString.h"
 #include "zvCommunicationFactory.h"
 #include "zvConsole.h"
 #include "zvInterruption.h"
@@ -13,7 +12,9 @@
 #include "zvPostReason.h"
 #include "zvProcess.h"
 #include "zvProgramLog.h"
+#include "zvSecrets.h"
 #include "zvServerAnswer.h"
+#include "zvUtf8.h"
 
 namespace {
 
@@ -37,17 +38,14 @@ std::string seconds(std::chrono::milliseconds time) {
 }
 
 zvPostRetry readRetry() {
-    std::vector<std::string> faults;
-    const zvPostRetry retry = zvPostRetry::read(faults);
-    for (const std::string& fault : faults) {
-        zvConsole::fact("warning", fault);
-        log(zvLogLevel::warn, fault, __LINE__);
-    }
+    zvClientSettings settings;
+    const zvPostRetry retry = zvPostRetry::read(settings);
+    settings.tellFaults();
     return retry;
 }
 
-void logFailure(zvLogLevel level, const zvString& url, const std::string& text) {
-    log(level, "Post to \"" + zvConsole::printable(url) + "\" failed: " + text, __LINE__);
+void logFailure(zvLogLevel level, const std::string& url, const std::string& text) {
+    log(level, "Post to \"" + url + "\" failed: " + text, __LINE__);
 }
 
 }  // namespace
@@ -55,7 +53,8 @@ void logFailure(zvLogLevel level, const zvString& url, const std::string& text) 
 zvPostDelivery::zvPostDelivery(zvGatewayEvent& event, const zvString& url)
     : m_event(event),
       m_url(url),
-      m_secrets(*event.arguments),
+      m_strShownUrl(zvConsole::printable(zvSecrets::maskedUrl(url))),
+      m_secrets(*event.arguments, url),
       m_pServer(zvCommunicationFactory::createCommunicationUtils(zvCommProtocoalHTTP)) {}
 
 std::string zvPostDelivery::run() {
@@ -72,27 +71,36 @@ std::string zvPostDelivery::run() {
         if (decision != zvPostRetry::Decision::again) {
             fail(reason, decision, attempt);
         }
+        m_event.deadline.throwIfOver(m_strShownUrl, reason);
         const auto wait =
             retry.wait(outcome, attempt, std::uniform_real_distribution<double>(0, 1)(m_random));
         tellRetry(reason + "; try " + std::to_string(attempt + 1) + " of " +
                   std::to_string(retry.retries + 1) + " in " + seconds(wait));
-        zvProcess::waitFor(wait);
+        const int left = m_event.deadline.secondsLeft();
+        zvProcess::waitFor(left == 0 ? wait
+                                     : std::min<std::chrono::milliseconds>(wait, std::chrono::seconds(left)));
         zvInterruption::throwIfRequested();
+        m_event.deadline.throwIfOver(m_strShownUrl, reason);
     }
 }
 
 // Returns the reason in case it failed.
 std::string zvPostDelivery::post() {
     zvServerAnswer answer(m_secrets);
+    m_pServer->setTimeLimit(m_event.deadline.secondsLeft());
     const zvResult posted = m_pServer->request(m_url, *m_event.arguments, answer.sink());
-    const zvRequestOutcome outcome = m_pServer->lastOutcome();
+    zvRequestOutcome outcome = m_pServer->lastOutcome();
     m_strAnswer = answer.text();
-    constexpr std::size_t longestTarget = 2000;
-    const std::string target = zvCharString(outcome.location).data();
-    const zvPostReason reason = {zvConsole::printable(m_url), m_strAnswer,
-                                 zvConsole::printable(m_secrets.masked(target, longestTarget).c_str()),
-                                 zvConsole::printable(posted.getMessage())};
+    // libcurl quotes names that the server has given.
+    outcome.errorText = shown(outcome.errorText).c_str();
+    const zvPostReason reason = {m_strShownUrl, m_strAnswer, shown(zvSecrets::maskedUrl(outcome.location)),
+                                 shown(posted.getMessage())};
     return reason.text(outcome);
+}
+
+std::string zvPostDelivery::shown(const zvString& text) const {
+    constexpr std::size_t longest = 2000;
+    return zvServerAnswer::shown(zvUtf8::encode(text), longest, m_secrets);
 }
 
 void zvPostDelivery::tellAnswer() {
@@ -104,7 +112,7 @@ void zvPostDelivery::tellAnswer() {
 
 void zvPostDelivery::tellRetry(const std::string& text) {
     zvConsole::fact("retry", text);
-    logFailure(zvLogLevel::warn, m_url, text);
+    logFailure(zvLogLevel::warn, m_strShownUrl, text);
 }
 
 void zvPostDelivery::fail(std::string reason, zvPostRetry::Decision decision, int attempt) {
@@ -117,6 +125,6 @@ void zvPostDelivery::fail(std::string reason, zvPostRetry::Decision decision, in
     if (attempt > 1) {
         reason += " (" + std::to_string(attempt) + " tries)";
     }
-    logFailure(zvLogLevel::error, m_url, reason);
-    throw zvStepFailure{zvConsole::printable(m_url), reason};
+    logFailure(zvLogLevel::error, m_strShownUrl, reason);
+    throw zvStepFailure{m_strShownUrl, reason};
 }

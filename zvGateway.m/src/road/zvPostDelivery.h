@@ -22,12 +22,14 @@ public:
 
 private:
     std::string post();
+    std::string shown(const zvString& text) const;
     void tellAnswer();
     void tellRetry(const std::string& text);
     [[noreturn]] void fail(std::string reason, zvPostRetry::Decision decision, int attempt);
 
     zvGatewayEvent& m_event;
     zvString m_url;
+    std::string m_strShownUrl;  // without its account
     zvSecretValues m_secrets;
     std::unique_ptr<zvCommunicationUtils> m_pServer;
     std::string m_strAnswer;  // of the last attempt

@@ -1,14 +1,8 @@
 #include "zvPostRetry.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <iterator>
-
-#include "zvCharString.h"
-#include "zvClientConfigKey.h"
-#include "zvCommonUtils.h"
-#include "zvProperties.h"
 
 namespace {
 
@@ -20,7 +14,7 @@ constexpr double longestDelay = 60;  // seconds
 // Of a server that is busy, starts or stops, or of a proxy before one.
 constexpr int temporaryStatuses[] = {408, 425, 429, 500, 502, 503, 504};
 constexpr Failure temporaryFailures[] = {Failure::resolve, Failure::connect, Failure::timeout,
-                                         Failure::connection};
+                                         Failure::connection, Failure::answerLimit};
 
 template <typename Values, typename Value>
 bool contains(const Values& values, Value value) {
@@ -33,35 +27,12 @@ bool isTemporary(const zvRequestOutcome& outcome) {
                                            : contains(temporaryFailures, outcome.failure);
 }
 
-// The value of the property if it can be used; otherwise the default.
-double readNumber(const zvProperties& properties, const char* key, double byDefault,
-                  std::vector<std::string>& faults) {
-    zvString value = properties.getPropertyValue(key);
-    if (value.empty()) {
-        return byDefault;
-    }
-    value.trim();
-    const zvString fault = zvClientConfigKey::find(key)->faultOf(value);
-    if (!fault.empty()) {
-        faults.push_back(std::string(zvCharString(fault).data()) + ": \"" + key +
-                         "\" of client-config.ini is left at its default");
-        return byDefault;
-    }
-    const std::string digits = zvCharString(value).data();
-    double number = byDefault;
-    std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    return number;
-}
-
 }  // namespace
 
-zvPostRetry zvPostRetry::read(std::vector<std::string>& faults) {
+zvPostRetry zvPostRetry::read(zvClientSettings& settings) {
     zvPostRetry retry;
-    zvProperties properties;
-    if (properties.parse(zvCommonUtils::getConfigurationFile("client-config.ini")).isOk()) {
-        retry.retries = static_cast<int>(readNumber(properties, "http-retries", retry.retries, faults));
-        retry.delay = readNumber(properties, "http-retry-delay", retry.delay, faults);
-    }
+    retry.retries = static_cast<int>(settings.number("http-retries", retry.retries));
+    retry.delay = settings.number("http-retry-delay", retry.delay);
     return retry;
 }
 

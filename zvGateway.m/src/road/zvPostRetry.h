@@ -2,9 +2,7 @@
 #define ZV_POST_RETRY_H
 
 #include <chrono>
-#include <string>
-#include <vector>
-
+#include "zvClientSettings.h"
 #include "zvRequestOutcome.h"
 
 /// When a post that was not delivered is tried again: the site's settings, and the decision.
@@ -12,9 +10,8 @@ struct zvPostRetry {
     /// A longer "Retry-After" is not waited for.
     static constexpr std::chrono::seconds longestRetryAfter{600};
 
-    /// Reads the keys "http-retries" and "http-retry-delay" of the client configuration. A value that cannot
-    /// be used is appended to `faults`, as a sentence, and its default is used.
-    static zvPostRetry read(std::vector<std::string>& faults);
+    /// Reads the keys "http-retries" and "http-retry-delay".
+    static zvPostRetry read(zvClientSettings& settings);
 
     /// How often at most.
     int retries = 5;

@@ -3,10 +3,11 @@
 #include "zvConsole.h"
 #include "zvGatewayHomeStep.h"
 #include "zvPostDelivery.h"
+#include "zvSecrets.h"
 
 zvStepOutcome zvPostStep::run() {
     const zvString url = zvGatewayHomeStep::localServerUrl();
-    zvConsole::fact("to", zvConsole::printable(url));
+    zvConsole::fact("to", zvConsole::printable(zvSecrets::maskedUrl(url)));
     if (m_event.record->isPosted()) {
         m_event.wasPostedBefore = true;
         return zvStepOutcome::leftOut("posted before");

@@ -4,6 +4,7 @@
 
 #include "zvCfgConfigManager.h"
 #include "zvCfgMgrXmlParser.h"
+#include "zvClientSettings.h"
 #include "zvConsole.h"
 #include "zvDirFileUtils.h"
 #include "zvFailure.h"
@@ -53,6 +54,15 @@ void zvRoadSession::readSecrets() {
     if (folder != nullptr && *folder != '\0') {
         m_secrets.readFolder(folder);
     }
+}
+
+std::chrono::seconds zvRoadSession::eventTimeout() {
+    if (!m_eventTimeout) {
+        zvClientSettings settings;
+        m_eventTimeout = std::chrono::seconds(static_cast<int>(settings.number("event-timeout", 0)));
+        settings.tellFaults();
+    }
+    return *m_eventTimeout;
 }
 
 void zvRoadSession::keepXmlReady() {

@@ -1,6 +1,7 @@
 #ifndef ZV_ROAD_SESSION_H
 #define ZV_ROAD_SESSION_H
 
+#include <chrono>
 #include <optional>
 #include <string>
 
@@ -19,6 +20,9 @@ public:
     /// call. Throws the zvStepFailure of a source that cannot be used.
     const zvSecretStore& secrets();
 
+    /// The time that each event may take in total, which the first call reads; zero without a limit.
+    std::chrono::seconds eventTimeout();
+
     /// Keeps the XML library ready, whose start is most of the work of an event without files, until the
     /// session ends.
     void keepXmlReady();
@@ -31,6 +35,7 @@ private:
     void readSecrets();
 
     zvSecretStore m_secrets;
+    std::optional<std::chrono::seconds> m_eventTimeout;
     std::optional<zvXMLParser> m_xml;  // the library runs as long as it has a user
     bool m_bSecretsRead = false;
     // Of the configuration that the manager has; empty for none.

@@ -7,19 +7,26 @@
 
 #include "zvEventArguments.h"
 
-/// The values of an event's secrets, which are masked when another system sends them back.
+/// The secrets that travel with an event, which are masked when another system sends them back.
 class zvSecretValues {
 public:
-    explicit zvSecretValues(const zvEventArguments& arguments);
+    /// Those among the arguments, and the account in the server's address if it has one.
+    zvSecretValues(const zvEventArguments& arguments, const zvString& url);
 
-    /// The beginning of the text, at most `limit` bytes, with each secret masked: as it is, or
-    /// percent-encoded. A secret that goes beyond the limit is masked if `text` has all of it.
+    /// The beginning of the text, at most `limit` bytes, with each secret masked, however its characters are
+    /// spelled. A secret that goes beyond the limit is masked if `text` has all of it, and so is one that the
+    /// end of the text cuts off.
     std::string masked(std::string_view text, std::size_t limit) const;
-    /// The length of the longest form of a secret in bytes.
-    std::size_t longest() const { return m_forms.empty() ? 0 : m_forms.front().size(); }
+    /// The length of the longest spelling of a secret in bytes.
+    std::size_t longest() const;
 
 private:
-    std::vector<std::string> m_forms;  // the longest first
+    void add(const zvString& secret);
+    void addArgument(const zvString& name, const zvString& value);
+    void addAccount(const zvString& url);
+    std::size_t endOfSecretAt(std::string_view text, std::size_t begin) const;
+
+    std::vector<std::u32string> m_secrets;
 };
 
 #endif

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 #include "zvCommunicationUtils.h"
 #include "zvSecretValues.h"
@@ -19,6 +20,10 @@ public:
     WriteMemoryCallbackWrapper* sink() { return &m_sink; }
     /// The first 200 bytes on one line, printable, with secrets masked.
     std::string text() const;
+
+    /// The beginning, at most `limit` bytes, of what a server sent, in the same form. What is not UTF-8, or
+    /// unknown to the locale, is replaced.
+    static std::string shown(std::string_view text, std::size_t limit, const zvSecretValues& secrets);
 
 private:
     static std::size_t take(char* data, std::size_t size, std::size_t count, void* sink);

@@ -58,6 +58,7 @@ zvStepOutcome zvTransferStep::run() {
         return send(configuration);
     } catch (const zvException& exception) {
         zvInterruption::throwIfRequested();
+        m_event.deadline.throwIfOver(zvConsole::printablePath(configuration));
         throw failure(zvFileServerConnection::reasonOf(exception));
     }
 }
@@ -173,7 +174,7 @@ bool zvTransferStep::isCancelled() {
     if (m_signals) {
         m_signals.reset();
     }
-    return zvProcess::notedSignal() != 0;
+    return zvProcess::notedSignal() != 0 || m_event.deadline.isOver();
 }
 
 bool zvTransferStep::hasArrived(const zvString& local) {
@@ -187,6 +188,7 @@ bool zvTransferStep::hasArrived(const zvString& local) {
 
 void zvTransferStep::fileBegins(const zvString& local) {
     zvInterruption::throwIfRequested();
+    m_event.deadline.throwIfOver(zvConsole::printablePath(local));
     m_event.record->beginFile(local);
     m_progress.begin();
     const zvInt64 bytes = sizeOf(local);

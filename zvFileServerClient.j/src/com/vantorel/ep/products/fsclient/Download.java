@@ -12,10 +12,15 @@ import java.nio.file.StandardCopyOption;
 final class Download {
     private final Transport transport;
     private final TransferMode mode;
+    private final long largestFile;
 
-    Download(Transport transport, TransferMode mode) {
+    /**
+     * @param largestFile the size in bytes above which a file is refused
+     */
+    Download(Transport transport, TransferMode mode, long largestFile) {
         this.transport = transport;
         this.mode = mode;
+        this.largestFile = largestFile;
     }
 
     /**
@@ -44,7 +49,8 @@ final class Download {
         // In ASCII mode, the conversion of line ends may change the size.
         long expected = mode == TransferMode.BINARY ? transport.size(source) : Transport.UNKNOWN_SIZE;
         Progress progress = new Progress(target, expected);
-        try (LocalTarget arriving = LocalTarget.create(temporary, expected, progress)) {
+        LocalTarget.Limit limit = limit(expected, temporary);
+        try (LocalTarget arriving = LocalTarget.create(temporary, limit, progress)) {
             transport.receive(source, mode, arriving);
             if (expected != Transport.UNKNOWN_SIZE && arriving.count() != expected) {
                 throw new BrokenConnectionException(arriving.count() + " of " + expected + " bytes arrived");
@@ -53,6 +59,24 @@ final class Download {
         } catch (IOException e) {
             throw LocalFiles.failure(e);
         }
+    }
+
+    /** A file of unknown size leaves a tenth of the room, lest others have none. */
+    private LocalTarget.Limit limit(long expected, Path temporary) throws FileServerException {
+        long room = LocalFiles.room(temporary.toAbsolutePath().getParent());
+        if (expected > largestFile) {
+            throw new FileServerException("it has " + expected + " bytes, and largest-file is " + largestFile);
+        }
+        if (expected > room) {
+            throw new FileServerException("it has " + expected + " bytes, and there is room for " + room);
+        }
+        if (expected != Transport.UNKNOWN_SIZE) {
+            return new LocalTarget.Limit(expected,
+                    new BrokenConnectionException("more than the announced " + expected + " bytes arrived"));
+        }
+        long most = Math.min(largestFile, room - room / 10);
+        String reason = most == largestFile ? "bytes of largest-file arrived" : "bytes arrived for which there is room";
+        return new LocalTarget.Limit(most, new FileServerException("more than the " + most + " " + reason));
     }
 
     private static void remove(Path temporary) {

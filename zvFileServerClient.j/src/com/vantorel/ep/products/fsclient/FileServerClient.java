@@ -27,16 +27,18 @@ public final class FileServerClient {
     private final Transport transport;
     private final Retry retry;
     private final long resumeFrom;
+    private final long largestFile;
     /** The directory that was created last, where nobody can have left anything. */
     private String newest;
     private TransferMode mode = TransferMode.BINARY;
     private boolean connected;
 
-    FileServerClient(String url, Transport transport, Retry retry, long resumeFrom) {
-        this.url = url;
+    FileServerClient(Settings settings, Transport transport) {
+        url = settings.url;
         this.transport = transport;
-        this.retry = retry;
-        this.resumeFrom = resumeFrom;
+        retry = new Retry(transport, settings.retries, settings.retryDelay);
+        resumeFrom = settings.resumeFrom;
+        largestFile = settings.largestFile;
     }
 
     /** Connects and logs in, which is required before any file operation. Idempotent. */
@@ -224,7 +226,7 @@ public final class FileServerClient {
     private void fetch(FilePair pair) throws FileServerException {
         String what = fetching(pair.remote, pair.local);
         onServer(what, () -> {
-            new Download(transport, mode).run(what, retry, pair.remote, pair.local);
+            new Download(transport, mode, largestFile).run(what, retry, pair.remote, pair.local);
             return null;
         });
     }

@@ -58,7 +58,6 @@ public final class FileServerClientFactory {
         }
         Transport transport = settings.scheme == Settings.Scheme.FILE ? new LocalTransport(settings.directory)
                                                                       : new FtpTransport(settings);
-        return new FileServerClient(settings.url, transport,
-                new Retry(transport, settings.retries, settings.retryDelay), settings.resumeFrom);
+        return new FileServerClient(settings, transport);
     }
 }

@@ -10,10 +10,10 @@ public class FileServerException extends IOException {
     private static final long serialVersionUID = 1L;
 
     FileServerException(String message) {
-        super(message);
+        super(Masking.maskedMessage(message));
     }
 
     FileServerException(String message, Throwable cause) {
-        super(message, cause);
+        super(Masking.maskedMessage(message), cause);
     }
 }

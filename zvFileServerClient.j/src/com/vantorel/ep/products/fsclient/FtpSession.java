@@ -7,6 +7,7 @@ import java.util.Arrays;
 import javax.net.ssl.SSLException;
 import org.apache.commons.net.ftp.FTP;
 import org.apache.commons.net.ftp.FTPClient;
+import org.apache.commons.net.ftp.FTPFile;
 import org.apache.commons.net.ftp.FTPReply;
 
 /**
@@ -18,11 +19,13 @@ final class FtpSession {
     private static final int BUFFER_SIZE = 64 << 10;
 
     private final Settings settings;
-    private final SessionSockets sockets = new SessionSockets();
+    private final TimeLimits limits;
+    private final SessionSockets sockets;
     private final FTPClient ftp;
     private final String root;
     private TransferMode currentMode;
-    private LineEnds lineEnds;
+    /** What the server says of its system, once it was asked; empty when it does not say it. */
+    private String system;
     private volatile boolean open = true;
 
     /** A command for the server. */
@@ -31,8 +34,10 @@ final class FtpSession {
     }
 
     /** Connects, logs in and determines the root. */
-    FtpSession(Settings settings) throws FileServerException {
+    FtpSession(Settings settings, TimeLimits limits) throws FileServerException {
         this.settings = settings;
+        this.limits = limits;
+        sockets = new SessionSockets(limits);
         ftp = settings.scheme == Settings.Scheme.FTPS ? secureClient() : new FTPClient();
         configure();
         try {
@@ -89,12 +94,28 @@ final class FtpSession {
 
     /** The line ends of the server's system. */
     LineEnds lineEnds() throws FileServerException {
-        if (lineEnds == null) {
+        return LineEnds.ofSystem(system());
+    }
+
+    /** The names in the working directory, with their kinds; a name may be null. */
+    FTPFile[] list(boolean hidden) throws FileServerException {
+        boolean hasMlsd = ask(client -> client.hasFeature("MLST"));
+        String system = hasMlsd ? null : ListingSystem.named(system());
+        FTPFile[] files = ask(client -> {
+            client.setListHiddenFiles(hidden);
+            return hasMlsd ? client.mlistDir() : client.initiateListParsing(system, null).getFiles();
+        });
+        require(FTPReply.isPositiveCompletion(replyCode()));
+        return files;
+    }
+
+    private String system() throws FileServerException {
+        if (system == null) {
             boolean known = ask(client -> FTPReply.isPositiveCompletion(client.syst()));
             // After the reply code.
-            lineEnds = known ? LineEnds.ofSystem(ftp.getReplyString().substring(3)) : LineEnds.UNKNOWN;
+            system = known ? ftp.getReplyString().substring(3) : "";
         }
-        return lineEnds;
+        return system;
     }
 
     /** Sends a command and fails on a negative reply. */
@@ -102,9 +123,14 @@ final class FtpSession {
         require(ask(command));
     }
 
-    /** The same for a command that transfers a file, whose size is not limited. */
+    /** The same for a command that fetches a file, whose size and time are not limited. */
     void orderFile(Command<Boolean> command) throws FileServerException {
-        require(ask(Long.MAX_VALUE, command));
+        limits.beginFile();
+        try {
+            require(ask(Long.MAX_VALUE, command));
+        } finally {
+            limits.endFile();
+        }
     }
 
     /** Sends a command to which the reply may be negative. Without a reply, the session ends. */
@@ -114,6 +140,7 @@ final class FtpSession {
 
     private <T> T ask(long longestAnswer, Command<T> command) throws FileServerException {
         sockets.allow(longestAnswer);
+        limits.ask();
         try {
             return command.run(ftp);
         } catch (IOException e) {
@@ -122,6 +149,9 @@ final class FtpSession {
         } catch (RuntimeException e) {
             // The library's parsers throw these for malformed replies.
             drop();
+            if (e.getCause() instanceof BrokenConnectionException) {
+                throw (BrokenConnectionException) e.getCause();
+            }
             throw new BrokenConnectionException("malformed reply of the server: " + masked(e.toString()));
         }
     }
@@ -154,6 +184,7 @@ final class FtpSession {
     private void configure() {
         ftp.setSocketFactory(sockets);
         ftp.setServerSocketFactory(sockets.serverSockets());
+        ftp.setParserFactory(new ListingSystem(limits));
         ftp.setConnectTimeout((int) settings.connectTimeout.toMillis());
         ftp.setDefaultTimeout((int) settings.connectTimeout.toMillis());
         ftp.setDataTimeout(settings.timeout);
@@ -247,6 +278,6 @@ final class FtpSession {
 
     /** Sanitises external text for a message: a server may echo the password in a reply. */
     private String masked(String text) {
-        return settings.masked(text.replaceAll("\\p{Cntrl}+", " ")).trim();
+        return Masking.masked(text.replaceAll("\\p{Cntrl}+", " ")).trim();
     }
 }

@@ -19,16 +19,23 @@ final class FtpTransport implements Transport {
     private static final Pattern OWN_ENTRY = Pattern.compile("^(\\S*;)?type=[cp]dir;", Pattern.CASE_INSENSITIVE);
 
     private final Settings settings;
+    private final TimeLimits limits;
     private FtpSession session;
 
     FtpTransport(Settings settings) {
         this.settings = settings;
+        this.limits = new TimeLimits(settings);
+    }
+
+    @Override
+    public void beginAttempt() {
+        limits.begin();
     }
 
     @Override
     public void connect() throws FileServerException {
         if (session == null || !session.isOpen()) {
-            session = new FtpSession(settings);
+            session = new FtpSession(settings, limits);
         }
     }
 
@@ -88,13 +95,8 @@ final class FtpTransport implements Transport {
         // Changes the working directory, since servers may interpret an argument of LIST as an option or a
         // pattern.
         session.order(ftp -> ftp.changeWorkingDirectory(name));
-        FTPFile[] files = session.ask(ftp -> {
-            ftp.setListHiddenFiles(hidden);
-            return ftp.hasFeature("MLST") ? ftp.mlistDir() : ftp.listFiles();
-        });
-        session.require(FTPReply.isPositiveCompletion(session.replyCode()));
         SortedMap<String, Kind> names = new TreeMap<>();
-        for (FTPFile file : files) {
+        for (FTPFile file : session.list(hidden)) {
             if (file != null && !isDirectoryItself(file)) {
                 names.put(file.getName(), kindOf(file));
             }
@@ -113,7 +115,8 @@ final class FtpTransport implements Transport {
     public void send(LocalSource source, TransferMode mode, RemotePath target) throws FileServerException {
         String name = session.path(target);
         session.useMode(mode);
-        try (StallGuard guard = new StallGuard(settings.timeout, session::drop)) {
+        limits.beginFile();
+        try (StallGuard guard = new StallGuard(limits, session::drop)) {
             try {
                 boolean stored = session.ask(ftp -> {
                     ftp.setCopyStreamListener(guard);
@@ -129,6 +132,8 @@ final class FtpTransport implements Transport {
             } catch (BrokenConnectionException e) {
                 throw guard.reason() == null ? e : guard.reason();
             }
+        } finally {
+            limits.endFile();
         }
     }
 

@@ -67,6 +67,15 @@ final class LocalFiles {
         return names;
     }
 
+    /** The bytes that can be written to a directory's disk. */
+    static long room(Path directory) throws FileServerException {
+        try {
+            return Files.getFileStore(directory).getUsableSpace();
+        } catch (IOException e) {
+            throw failure(e);
+        }
+    }
+
     /** Converts an exception to one with a readable reason. */
     static FileServerException failure(IOException e) {
         return e instanceof FileServerException ? (FileServerException) e : new FileServerException(reason(e), e);

@@ -15,17 +15,27 @@ import java.util.Set;
  */
 final class LocalTarget extends OutputStream {
     private final FileChannel channel;
-    private final long limit;
+    private final Limit limit;
     private final Progress progress;
     private long count;
+
+    /** The number of bytes that may be written, and the failure of one more. */
+    static final class Limit {
+        final long bytes;
+        final FileServerException failure;
+
+        Limit(long bytes, FileServerException failure) {
+            this.bytes = bytes;
+            this.failure = failure;
+        }
+    }
 
     /**
      * Creates or truncates the file. A symlink is refused.
      *
-     * @param limit the maximum number of bytes, or {@link Transport#UNKNOWN_SIZE}
      * @param progress is told how many bytes have arrived
      */
-    static LocalTarget create(Path file, long limit, Progress progress) throws FileServerException {
+    static LocalTarget create(Path file, Limit limit, Progress progress) throws FileServerException {
         try {
             return new LocalTarget(FileChannel.open(file, Set.of(StandardOpenOption.CREATE, StandardOpenOption.WRITE,
                     StandardOpenOption.TRUNCATE_EXISTING, LinkOption.NOFOLLOW_LINKS)), limit, progress);
@@ -34,7 +44,7 @@ final class LocalTarget extends OutputStream {
         }
     }
 
-    private LocalTarget(FileChannel channel, long limit, Progress progress) {
+    private LocalTarget(FileChannel channel, Limit limit, Progress progress) {
         this.channel = channel;
         this.limit = limit;
         this.progress = progress;
@@ -53,8 +63,8 @@ final class LocalTarget extends OutputStream {
     @Override
     public void write(byte[] bytes, int offset, int length) throws IOException {
         count += length;
-        if (limit != Transport.UNKNOWN_SIZE && count > limit) {
-            throw new BrokenConnectionException("more than the announced " + limit + " bytes arrived");
+        if (count > limit.bytes) {
+            throw limit.failure;
         }
         try {
             ByteBuffer buffer = ByteBuffer.wrap(bytes, offset, length);

@@ -26,7 +26,7 @@ final class Notices {
 
     /** Passes on a text of one line: control characters become blanks. */
     static void tell(String text) {
-        String line = printable(text);
+        String line = printable(Masking.maskedMessage(text));
         if (listener != null) {
             listener.notice(line);
             return;

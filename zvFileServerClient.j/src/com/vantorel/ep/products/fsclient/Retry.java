@@ -41,6 +41,7 @@ final class Retry {
         for (int retry = 1;; ++retry) {
             Notices.throwIfCancelled();
             try {
+                transport.beginAttempt();
                 transport.connect();
                 return operation.run();
             } catch (BrokenConnectionException e) {

@@ -12,11 +12,16 @@ import org.apache.commons.net.DefaultSocketFactory;
 
 /**
  * Creates and tracks the sockets of one FTP session, so that stalled ones can be closed from another thread,
- * and limits the number of bytes that a server can send as a reply.
+ * and limits the number of bytes that a server can send as a reply, and the time that it can take.
  */
 final class SessionSockets extends DefaultSocketFactory {
     private final Set<Socket> open = ConcurrentHashMap.newKeySet();
+    private final TimeLimits limits;
     private long allowance;
+
+    SessionSockets(TimeLimits limits) {
+        this.limits = limits;
+    }
 
     /** Sets the number of bytes that may be received from now on. */
     void allow(long bytes) {
@@ -110,6 +115,8 @@ final class SessionSockets extends DefaultSocketFactory {
         @Override
         public int read(byte[] bytes, int offset, int length) throws IOException {
             int count = in.read(bytes, offset, length);
+            limits.moved(count);
+            limits.check();
             allowance -= count;
             if (allowance < 0) {
                 throw new IOException("the server's answer does not end");

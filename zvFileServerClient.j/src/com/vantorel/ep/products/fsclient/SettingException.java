@@ -11,6 +11,6 @@ final class SettingException extends FileServerException {
     SettingException(Object file, String key, String reason) {
         super("'" + file + "', key '" + key + "': " + reason);
         this.key = key;
-        this.reason = reason;
+        this.reason = Masking.maskedMessage(reason);
     }
 }

@@ -18,10 +18,11 @@ final class Settings {
     private static final int FTP_PORT = 21;
     private static final int ONE_DAY = 24 * 60 * 60;
     private static final long MEBIBYTE = 1 << 20;
-    private static final int LARGEST_RESUME_FROM = 1_000_000;
+    /** In MiB. */
+    private static final int LARGEST_FILE = 1_000_000;
+    private static final int FASTEST_SLOWEST_RATE = 1_000_000;
     /** In place of one that cannot be used. */
     private static final String HARMLESS_URL = "ftp://localhost";
-    private static final String MASK = "********";
 
     /** The URL schemes. */
     enum Scheme { FILE, FTP, FTPS }
@@ -40,10 +41,15 @@ final class Settings {
     final String password;
     final Duration connectTimeout;
     final Duration timeout;
+    /** In bytes a second. */
+    final long slowestRate;
+    final Duration operationTimeout;
     final int retries;
     final Duration retryDelay;
     /** The size in bytes above which an upload that was cut off is continued. */
     final long resumeFrom;
+    /** The size in bytes of the largest file that is fetched. */
+    final long largestFile;
     final boolean passive;
     final Charset encoding;
     final boolean implicit;
@@ -114,16 +120,23 @@ final class Settings {
             port = uri.getPort() >= 0 ? uri.getPort() : usualPort;
             serverPath = file.word("url", uri.getPath().isEmpty() ? "" : uri.getPath().substring(1));
         }
+        encoding = encoding(file);
         user = file.word("user", file.confidential("user").trim());
         userIsSecret = Secrets.isReference(file.text("user"));
         password = password(file);
+        Masking.add(password, encoding);
+        if (userIsSecret) {
+            Masking.add(user, encoding);
+        }
         connectTimeout = seconds(file, "connect-timeout", 1);
         timeout = seconds(file, "timeout", 1);
+        slowestRate = file.number("slowest-rate", FASTEST_SLOWEST_RATE);
+        operationTimeout = seconds(file, "operation-timeout", 1);
         retries = file.number("retries", 1000);
         retryDelay = seconds(file, "retry-delay", 0);
-        resumeFrom = file.number("resume-from", LARGEST_RESUME_FROM) * MEBIBYTE;
+        resumeFrom = file.number("resume-from", LARGEST_FILE) * MEBIBYTE;
+        largestFile = file.number("largest-file", LARGEST_FILE) * MEBIBYTE;
         passive = file.flag("passive");
-        encoding = encoding(file);
         protocols = file.words("ftps-protocols", "TLSv1.2", "TLSv1.3");
         certificates = certificates(file);
         checkHost = file.flag("ftps-check-host");
@@ -131,26 +144,14 @@ final class Settings {
 
     /** The user for a message. */
     String shownUser() {
-        return userIsSecret ? MASK : user;
-    }
-
-    /** A text without the password, and without the user if that is a secret. */
-    String masked(String text) {
-        String masked = masked(text, password);
-        return userIsSecret ? masked(masked, user) : masked;
-    }
-
-    /** Blanks at the ends of a secret get lost in replies. */
-    private static String masked(String text, String secret) {
-        String core = secret.strip();
-        return core.isEmpty() ? text : text.replace(secret, MASK).replace(core, MASK);
+        return userIsSecret ? Masking.MASK : user;
     }
 
     private static URI uri(PropertyFile file, String url) throws FileServerException {
         if (url.isEmpty()) {
             throw file.failure("url", "it is missing");
         }
-        if (url.matches("(?i)ftps?:.*@.*")) {
+        if (url.indexOf('@') >= 0 && !url.matches("(?i)file:/(//.*|[^/].*)?")) {
             throw file.failure("url",
                     "an account belongs in the keys user and password, and an @ in the path is written %40");
         }

@@ -1,7 +1,5 @@
 package com.vantorel.ep.products.fsclient;
 
-import java.time.Duration;
-import java.util.concurrent.TimeUnit;
 import org.apache.commons.net.io.CopyStreamAdapter;
 
 /**
@@ -15,15 +13,15 @@ final class StallGuard extends CopyStreamAdapter implements AutoCloseable {
     /** In a millisecond. */
     private static final long NANOSECONDS = 1_000_000;
 
-    private final long limit;
+    private final TimeLimits limits;
     private final Runnable closeConnection;
     private final Thread thread = new Thread(this::watch, "file-server stall guard");
-    private volatile long lastProgress = System.nanoTime();
     private volatile FileServerException reason;
 
     /** Starts the watchdog, which runs until it is closed. */
-    StallGuard(Duration limit, Runnable closeConnection) {
-        this.limit = limit.toNanos();
+    StallGuard(TimeLimits limits, Runnable closeConnection) {
+        this.limits = limits;
+        limits.ask();
         this.closeConnection = closeConnection;
         thread.setDaemon(true);
         thread.start();
@@ -36,7 +34,7 @@ final class StallGuard extends CopyStreamAdapter implements AutoCloseable {
 
     @Override
     public void bytesTransferred(long total, int count, long size) {
-        lastProgress = System.nanoTime();
+        limits.moved(count);
     }
 
     /** Ends the watchdog, which asks and closes nothing afterwards. */
@@ -58,12 +56,11 @@ final class StallGuard extends CopyStreamAdapter implements AutoCloseable {
 
     private void watch() {
         try {
-            for (long left = limit; left > 0; left = limit - (System.nanoTime() - lastProgress)) {
+            for (long left = limits.left(); left > 0; left = limits.left()) {
                 Notices.throwIfCancelled();
                 Thread.sleep(Math.min(left / NANOSECONDS + 1, LONGEST_SLEEP));
             }
-            end(new BrokenConnectionException(
-                    "the server took nothing for " + TimeUnit.NANOSECONDS.toSeconds(limit) + " seconds"));
+            end(limits.takenTooLittle());
         } catch (CancelledException e) {
             end(e);
         } catch (InterruptedException e) {

@@ -16,6 +16,9 @@ interface Transport {
     /** The size of a file if the server does not report it. */
     long UNKNOWN_SIZE = -1;
 
+    /** An attempt of an operation begins, whose time is limited from now on. */
+    default void beginAttempt() {}
+
     /** Connects and logs in. Idempotent. */
     void connect() throws FileServerException;
 

@@ -177,6 +177,7 @@ final class Upload {
     /** Cleans up on the server, best effort: a failure does not change the outcome. */
     private void quietly(Step step) {
         try {
+            transport.beginAttempt();
             transport.connect();
             step.run();
         } catch (FileServerException e) {

@@ -121,7 +121,7 @@ public class BrokenTransferTest {
         Files.write(remote.resolve("large"), new byte[LARGE]);
         try (TestServer server = new TestServer(remote, "--fault=stop")) {
             FileServerClient client = server.client(home, "timeout=2", "connect-timeout=2");
-            refused("took nothing for 2 second", () -> client.put(localFile, "f"));
+            refused("took less than 100 bytes a second for 2 seconds", () -> client.put(localFile, "f"));
         }
         try (TestServer server = new TestServer(remote, "--fault=stop")) {
             FileServerClient client = server.client(home, "timeout=2", "connect-timeout=2");

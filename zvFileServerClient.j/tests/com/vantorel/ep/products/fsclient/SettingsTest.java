@@ -31,6 +31,8 @@ public class SettingsTest {
         assertEquals(30, settings.connectTimeout.getSeconds());
         assertEquals("3, 2", settings.retries + ", " + settings.retryDelay.getSeconds());
         assertEquals(16 << 20, settings.resumeFrom);
+        assertEquals("100, 600", settings.slowestRate + ", " + settings.operationTimeout.getSeconds());
+        assertEquals(100_000L << 20, settings.largestFile);
         assertEquals(StandardCharsets.UTF_8, settings.encoding);
         assertTrue(settings.passive && settings.checkHost && !settings.implicit);
         assertEquals("anonymous", read("url=ftp://h").user);
@@ -39,6 +41,7 @@ public class SettingsTest {
         assertEquals(System.getenv("PATH"), read("url=ftp://h\npassword-env=PATH").password);
         Path directory = read("url=file:///srv/my%20files").directory;
         assertEquals(folder.getRoot().toPath().getRoot().resolve("srv").resolve("my files"), directory);
+        assertTrue(read("url=file:///srv/a@b").directory.endsWith("a@b"));
     }
 
     @Test
@@ -56,6 +59,12 @@ public class SettingsTest {
                 {"url=ftp://h/a%0D%0ADELE%20b", "url", "control character"},
                 {"url=ftp://gate:Secret-7@h/", "url", "keys user and password"},
                 {"url=FTPS://gate:Secret-7/@h/", "url", "keys user and password"},
+                {"url=sftp://gate:Secret-7@h/", "url", "keys user and password"},
+                {"url=gate:Secret-7@h/x y", "url", "keys user and password"},
+                {"url=file://gate:Secret-7@h/srv", "url", "keys user and password"},
+                {"url=ftp://h\nslowest-rate=1000001", "slowest-rate", "from 0 to 1000000"},
+                {"url=ftp://h\noperation-timeout=0", "operation-timeout", "at least 1"},
+                {"url=ftp://h\nlargest-file=x", "largest-file", "whole number"},
                 {"url=ftp://h\nUser=x", "User", "no such key .*user"},
                 {"url=ftp://h\nuser=x\\r\\nDELE y", "user", "control character"},
                 {"url=ftp://h\npassword=Secret-7\\n", "password", "control character"},
@@ -103,7 +112,7 @@ public class SettingsTest {
             Settings settings = read("url=ftp://h\nuser=${secret:given}\npassword = ${secret:in-folder} ");
             assertEquals("Secret-7,Secret 8 ", settings.user + "," + settings.password);
             assertEquals("********", settings.shownUser());
-            assertEquals("no ********, no ********.", settings.masked("no Secret-7, no Secret 8."));
+            assertEquals("no ********, no ********.", Masking.masked("no Secret-7, no Secret 8."));
             assertEquals(" Secret-7 ", read("url=ftp://h\npassword=${secret:given}").password);
             assertEquals("gate", read("url=ftp://h\nuser=gate").shownUser());
             assertEquals("${secret:x", read("url=ftp://h\npassword=${secret:x").password);
