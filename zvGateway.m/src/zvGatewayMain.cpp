@@ -41,9 +41,10 @@ and there may be
 All others travel with the event. A "\" before a "=" puts the "=" into the key. An argument that has no "=" or no
 key, or whose key was given before, ends the program.
 
-The values of LoginPassword and KPDMPasswd are never shown, but the system shows a command line to others. Secrets can
-come from --secrets, from --secrets-fd, and from the folder that the environment variable CREDENTIALS_DIRECTORY names:
-a file for each, whose name is the key. They become arguments of the event, and are never shown whatever their keys.
+The values of LoginPassword and KPDMPasswd, and of the keys that "secret-keys" in client-config.ini names, are never
+shown, but the system shows a command line to others. Secrets can come from --secrets, from --secrets-fd, and from the
+folder that the environment variable CREDENTIALS_DIRECTORY names: a file for each, whose name is the key. They become
+arguments of the event, and are never shown whatever their keys.
 
 The environment variable GATEWAY_HOME names the gateway's home, with
   config/client-config.ini  "local-server-url=..."
