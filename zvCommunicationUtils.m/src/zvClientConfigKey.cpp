@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <charconv>
 #include <memory>
+#include <regex>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -52,6 +53,12 @@ bool isNumber(std::string_view text, const zvClientConfigKey& key) {
     return error == std::errc() && rest == end && number >= key.least && number <= key.most;
 }
 
+// The owner needs all of them.
+bool areRights(const std::string& text) {
+    static const std::regex form("umask|0?7[0-7]{2}");
+    return std::regex_match(text, form);
+}
+
 }  // namespace
 
 const std::vector<zvClientConfigKey>& zvClientConfigKey::all() {
@@ -67,7 +74,9 @@ const std::vector<zvClientConfigKey>& zvClientConfigKey::all() {
         {"http-client-certificate", Form::file},
         {"http-client-key", Form::file},
         {"http-client-key-password-env", Form::passwordVariable},
-        {"event-timeout", Form::wholeNumber, 0, longestEvent}};
+        {"event-timeout", Form::wholeNumber, 0, longestEvent},
+        {"secret-keys", Form::names},
+        {"shadow-mode", Form::rights}};
     return keys;
 }
 
@@ -80,6 +89,11 @@ const zvClientConfigKey* zvClientConfigKey::find(const zvString& name) {
 zvString zvClientConfigKey::faultOf(const zvString& value) const {
     if (form == Form::url) {
         return faultOfUrl(value);
+    }
+    if (form == Form::rights) {
+        return areRights(zvUtf8::encode(value))
+                   ? zvString()
+                   : zvTextBuilder::concat("\"", value, "\" is neither \"umask\" nor from 700 to 777");
     }
     if ((form != Form::wholeNumber && form != Form::number) || isNumber(zvUtf8::encode(value), *this)) {
         return {};

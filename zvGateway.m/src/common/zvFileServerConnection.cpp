@@ -7,6 +7,7 @@
 #include "zvDirFileUtils.h"
 #include "zvFSClient.h"
 #include "zvProcess.h"
+#include "zvProcessEnd.h"
 
 namespace {
 
@@ -17,16 +18,21 @@ constexpr const char* javaOptions[] = {"-XX:+IgnoreUnrecognizedVMOptions", "-XX:
 
 bool isSet(const char* variable) { return !zvCommonUtils::getEnvironmentalVariable(variable).empty(); }
 
-// The delivered Java client, unless the site has one of its own on CLASSPATH.
-void offerClient() {
+// The delivered Java client, unless the site has one of its own on CLASSPATH. Returns why there is none: Java
+// would take classes from the folder that the program was started in, whoever put them there.
+zvString offerClient() {
     if (isSet("CLASSPATH")) {
-        return;
+        return {};
     }
     const std::string jar = findDeliveredFile("../" ZV_DATA_FOLDER "/zvFileServerClient.jar",
                                               "../zvFileServerClient.j/zvFileServerClient.jar");
-    if (!jar.empty()) {
-        zvProcess::setEnvironment("CLASSPATH", jar.c_str());
+    if (jar.empty()) {
+        return "there is no file server client: zvFileServerClient.jar is missing where the program is "
+               "installed, "
+               "and CLASSPATH names no other one";
     }
+    zvProcess::setEnvironment("CLASSPATH", jar.c_str());
+    return {};
 }
 
 // The exception with where Java was looked for, which is in its result's additional information.
@@ -46,19 +52,24 @@ void close() {
 
 }  // namespace
 
-void zvFileServerConnection::prepareJava() {
+zvString zvFileServerConnection::prepareJava() {
     static bool isPrepared = false;
     if (isPrepared) {
-        return;
+        return {};
+    }
+    const zvString refusal = offerClient();
+    if (!refusal.empty()) {
+        return refusal;
     }
     isPrepared = true;
-    offerClient();
+    zvFSClient::setJavaEndObserver(zvProcessEnd::notify);
     // These variables reach the machine, too, and may contradict.
     if (!isSet("JAVA_TOOL_OPTIONS") && !isSet("_JAVA_OPTIONS")) {
         for (const char* const option : javaOptions) {
             zvFSClient::addJavaOption(option);
         }
     }
+    return {};
 }
 
 zvString zvFileServerConnection::reasonOf(const zvException& exception) {

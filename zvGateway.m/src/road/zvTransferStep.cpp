@@ -145,7 +145,10 @@ void zvTransferStep::makeDirectory() {
 }
 
 zvStepOutcome zvTransferStep::send(const zvString& configuration) {
-    zvFileServerConnection::prepareJava();
+    const zvString refusal = zvFileServerConnection::prepareJava();
+    if (!refusal.empty()) {
+        throw zvException(refusal);
+    }
     m_event.session.secrets().forEach(
         [](const zvString& name, const zvString& value) { zvFSClient::setSecret(name, value); });
     m_signals.emplace();
