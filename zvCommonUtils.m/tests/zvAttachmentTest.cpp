@@ -139,6 +139,24 @@ TEST_F(zvAttachmentParserTest, WithoutAttachmentsTheListIsUnchanged) {
     EXPECT_EQ(Lines{}, zvRecordingLogger::lines("error"));
 }
 
+TEST_F(zvAttachmentParserTest, ReadsNoOtherFile) {
+    m_folder.write("secrets.properties", "password=hush");
+    const std::string path =
+        m_folder.write("list.xml", "<!DOCTYPE AttachmentList [<!ENTITY x SYSTEM 'secrets.properties'>]>" +
+                                       listOf("<Attachment><FilePath>&x;</FilePath></Attachment>"));
+    zvAttachmentList list;
+    EXPECT_EQ("Error in opening attachments file [" + path + "]",
+              messageThrownBy([&] { zvAttachmentParser().parse(&list, path.c_str(), true); }));
+    EXPECT_TRUE(list.empty());
+    for (const std::string& line : zvRecordingLogger::lines()) {
+        EXPECT_EQ(line.find("hush"), std::string::npos) << line;
+    }
+    EXPECT_EQ(
+        "XML document refused: it has the external entity \"secrets.properties\", and no other file is "
+        "read for it: put the text into the document itself",
+        zvRecordingLogger::lines("error").front());
+}
+
 TEST_F(zvAttachmentParserTest, ThrowsForInvalidFiles) {
     const struct {
         const char* input;

@@ -1,3 +1,7 @@
+#include <ctime>
+#include <iterator>
+#include <map>
+#include <random>
 #include <string>
 
 #include "zvReferenceCtr.h"
@@ -56,6 +60,53 @@ TEST(zvStringToStringMapTest, IndicesFollowTheKeys) {
     copy.forEach(
         [&walked](const zvString& key, const zvString& value) { walked += key + "=" + value + ";"; });
     EXPECT_EQ(walked, "=none;B=upper;a=lower;");
+}
+
+// Up, down and at random, with a change of the map now and then: the entry that was found last may have
+// moved.
+TEST(zvStringToStringMapTest, IndicesStayTrueInAnyOrderOfAccess) {
+    zvStringToStringMap map;
+    std::map<std::string, std::string> expected;
+    std::minstd_rand random(7);
+    for (int step = 0; step < 20'000; ++step) {
+        const std::string key = std::to_string(random() % 500);
+        if (step % 97 == 0) {
+            map.setValue(key.c_str(), std::to_string(step).c_str());
+            expected[key] = std::to_string(step);
+        } else if (step % 89 == 0 && map.add(key.c_str(), "added")) {
+            expected.emplace(key, "added");
+        } else if (step % 7'001 == 0) {
+            const zvStringToStringMap copy(map);
+            map.clear();
+            map.copy(copy);
+        }
+        const int size = map.size();
+        const int index = step % 3 == 0   ? step % size
+                          : step % 3 == 1 ? size - 1 - step % size
+                                          : static_cast<int>(random() % 500) % size;
+        const auto entry = std::next(expected.begin(), index);
+        ASSERT_EQ(narrow(map.getKey(index)), entry->first) << step;
+        ASSERT_EQ(narrow(map.getValue(index)), entry->second) << step;
+    }
+}
+
+TEST(zvStringToStringMapTest, AHundredThousandEntriesAreWalkedByIndex) {
+    constexpr int count = 100'000;
+    zvStringToStringMap map;
+    zvStringToAttrMap attributes;
+    for (int i = 0; i < count; ++i) {
+        const zvString key = std::to_string(count + i).c_str();
+        map.add(key, key);
+        attributes.addAttr(key, zvAttribute(key, zvValue(i)));
+    }
+    const std::clock_t start = std::clock();
+    zvString name;
+    for (int i = 0; i < count; ++i) {
+        ASSERT_EQ(map.getKey(count - 1 - i), map.getValue(count - 1 - i));
+        ASSERT_TRUE(attributes.getAttrName(i, name));
+    }
+    EXPECT_LT(static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC, 2.0) << "it took minutes";
+    EXPECT_EQ(name, std::to_string(count * 2 - 1).c_str());
 }
 
 TEST(zvStringToAttrMapTest, HoldsAttributesByName) {

@@ -87,7 +87,7 @@ zvResult zvCfgMgrXmlParser::parse(const zvString& source, bool isFile) {
 }
 
 zvResult zvCfgMgrXmlParser::parseDocument(const zvString& source, bool isFile) {
-    m_pParser = std::make_unique<zvXMLParser>(m_pFindings);
+    m_pParser = std::make_unique<zvXMLParser>(m_pFindings, zvXMLOptions::withoutExternalEntities());
     if (!m_pParser->loadXMLFromString(source, isFile)) {
         return refuse(notLoadable, "Configuration file : \"", source, "\" not found!");
     }

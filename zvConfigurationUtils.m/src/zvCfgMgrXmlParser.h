@@ -9,7 +9,7 @@
 #include "zvXMLParser.h"
 
 /// Reads a configuration file into the configuration manager, once per process and before any lookup. Further
-/// parses add to it.
+/// parses add to it. A file with an external entity is refused.
 class ZV_EXPORT zvCfgMgrXmlParser : public zvCoreObjectCfg {
 public:
     using InvalidRule = zvCfgObjectXmlParser::InvalidRule;

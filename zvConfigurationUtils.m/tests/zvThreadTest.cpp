@@ -2,6 +2,7 @@
 // ThreadSanitizer detects data races; without it only the results are checked.
 #include <array>
 #include <thread>
+#include <utility>
 
 #include "zvAttachmentList.h"
 #include "zvAttachmentParser.h"
@@ -88,20 +89,37 @@ bool lookupsHold(const zvCfgConfigManager& manager) {
            manager.getDefaultViewInCollection("Engineering")->getLocalName() == "Design";
 }
 
+// Threads that only read one map may use it together, by name and by index.
+bool entriesHold(const zvStringToStringMap& map, int round) {
+    for (int i = 0; i < map.size(); ++i) {
+        const int index = (i * 7 + round) % map.size();
+        if (map.getKey(index) != zvString(100 + index) || map.getValue(index) != zvString(index) ||
+            map.getValue(zvString(100 + index)) != zvString(index)) {
+            return false;
+        }
+    }
+    return true;
+}
+
 using zvThreadTest = zvConfigurationTest;
 
 TEST_F(zvThreadTest, ThreadsWithTheirOwnObjectsDoNotRace) {
     ASSERT_TRUE(zvCfgMgrXmlParser().parse(ZV_SAMPLE_CONFIGURATION, true).isOk());
     const zvCfgConfigManager& shared = manager();
+    zvStringToStringMap map;
+    for (int i = 0; i < 100; ++i) {
+        map.add(100 + i, i);
+    }
     std::array<int, threads> good{};
     std::array<std::thread, threads> running;
     for (std::size_t i = 0; i < threads; ++i) {
         const std::string own = "thread" + std::to_string(i);
         const std::string path = m_folder.write(own + ".ini", "own=" + own + "\n");
-        running[i] = std::thread([&shared, &count = good[i], own, path] {
+        running[i] = std::thread([&shared, &map = std::as_const(map), &count = good[i], own, path] {
             for (int round = 0; round < rounds; ++round) {
                 const bool holds = textsHold(own) && datesHold(round) && conditionsHold(own) &&
-                                   documentsHold(own) && filesHold(path, own) && lookupsHold(shared);
+                                   documentsHold(own) && filesHold(path, own) && lookupsHold(shared) &&
+                                   entriesHold(map, round);
                 count += holds ? 1 : 0;
             }
         });

@@ -53,6 +53,13 @@ struct CloseFile {
 using File = std::unique_ptr<std::FILE, CloseFile>;
 /// Opens a file for reading as text; null for a directory and on failure.
 File openForReading(const char* path);
+/// Opens a directory, so that what is opened below it later is below this one, whatever its name leads to by
+/// then; refusedHandle on failure.
+Handle openDirectory(const std::filesystem::path& path);
+/// Opens a regular file below an open directory for reading, byte for byte. `path` is relative, without ".."
+/// and without links: one that is put there meanwhile leads to nothing outside the directory. Null for
+/// anything else.
+File openBelow(Handle directory, const std::filesystem::path& path);
 /// Deletes one file; refuses a directory.
 bool removeFile(const char* path);
 /// Runs "rmdir /s/q" with `arguments`, which are appended as they are: a blank, then paths separated by

@@ -13,6 +13,9 @@ constexpr bool isAccessMode(int mode) { return (mode & ~readAndWrite) == 0; }
 
 constexpr bool isTellable(zvInt64 seconds) { return seconds >= 0 && seconds <= lastSecond; }
 
+/// What openBelow() does on a POSIX system whose kernel cannot open a path below a directory in one step.
+File openStepByStep(Handle directory, const std::filesystem::path& path);
+
 }  // namespace zvPlatform
 
 #endif

@@ -2,7 +2,12 @@
 #include <fcntl.h>
 #include <langinfo.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
+
+#if __has_include(<linux/openat2.h>)
+#include <linux/openat2.h>
+#endif
 
 #include <algorithm>
 #include <cerrno>
@@ -12,6 +17,7 @@
 #include <cstring>
 #include <cwchar>
 #include <filesystem>
+#include <iterator>
 #include <system_error>
 #include <thread>
 #include <utility>
@@ -36,6 +42,39 @@ bool succeeded(bool success) {
 
 constexpr mode_t directoryMode = 0777;
 constexpr mode_t fileMode = 0666;
+
+// Descriptor 0 is valid, handle 0 is not.
+Handle handleOf(int descriptor) { return descriptor < 0 ? refusedHandle : Handle{descriptor} + 1; }
+int descriptorOf(Handle handle) { return handle == refusedHandle ? -1 : static_cast<int>(handle - 1); }
+
+// A pipe in the place of a file is not waited for.
+constexpr int forReading = O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
+
+// Null for anything but a regular file, which is closed.
+File regularFile(int descriptor) {
+    struct stat status {};
+    const bool isRegular = ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
+    File file(isRegular ? ::fdopen(descriptor, "rb") : nullptr);
+    if (file == nullptr && descriptor >= 0) {
+        ::close(descriptor);
+    }
+    return file;
+}
+
+// Fails with ENOSYS or EPERM, the latter in containers, where the kernel cannot do it in one step.
+int openBeneath(int directory, const std::string& path) {
+#if defined(SYS_openat2) && defined(RESOLVE_BENEATH)
+    struct open_how how {};
+    how.flags = forReading;
+    how.resolve = RESOLVE_BENEATH | RESOLVE_NO_SYMLINKS;
+    return static_cast<int>(::syscall(SYS_openat2, directory, path.c_str(), &how, sizeof(how)));
+#else
+    static_cast<void>(directory);
+    static_cast<void>(path);
+    errno = ENOSYS;
+    return -1;
+#endif
+}
 
 void turnSeparators(std::string& path) {
     std::size_t at = zvTextCodec::nextSeparator(path, 0);
@@ -131,12 +170,12 @@ Handle createFile(const wchar16* path) {
     const std::string native = nativePath(path);
     const int descriptor =
         native.empty() ? -1 : ::open(native.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, fileMode);
-    // Descriptor 0 is valid, handle 0 is not.
-    return succeeded(descriptor >= 0) ? static_cast<Handle>(descriptor) + 1 : refusedHandle;
+    succeeded(descriptor >= 0);
+    return handleOf(descriptor);
 }
 
 bool closeHandle(Handle handle) {
-    return handle != refusedHandle && succeeded(::close(static_cast<int>(handle - 1)) == 0);
+    return handle != refusedHandle && succeeded(::close(descriptorOf(handle)) == 0);
 }
 
 bool isAccessible(const char* path, int mode) { return accessError(path, mode) == 0; }
@@ -154,6 +193,30 @@ File openForReading(const char* path) {
     const bool isDirectory =
         file != nullptr && ::fstat(::fileno(file.get()), &status) == 0 && S_ISDIR(status.st_mode);
     return isDirectory ? nullptr : std::move(file);
+}
+
+Handle openDirectory(const std::filesystem::path& path) {
+    return handleOf(::open(path.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+}
+
+File openStepByStep(Handle directory, const std::filesystem::path& path) {
+    int at = descriptorOf(directory);
+    for (auto name = path.begin(); name != path.end() && at >= 0; ++name) {
+        const int flags = std::next(name) == path.end() ? forReading : O_PATH | O_DIRECTORY | O_CLOEXEC;
+        const bool isBelow = !name->empty() && *name != ".." && !name->is_absolute();
+        const int next = isBelow ? ::openat(at, name->c_str(), flags | O_NOFOLLOW) : -1;
+        if (name != path.begin()) {
+            ::close(at);
+        }
+        at = next;
+    }
+    return path.empty() ? nullptr : regularFile(at);
+}
+
+File openBelow(Handle directory, const std::filesystem::path& path) {
+    const int descriptor = openBeneath(descriptorOf(directory), path.string());
+    const bool isUnknown = descriptor < 0 && (errno == ENOSYS || errno == EPERM);
+    return isUnknown ? openStepByStep(directory, path) : regularFile(descriptor);
 }
 
 bool removeFile(const char* path) { return ::unlink(nativePath(path).c_str()) == 0; }

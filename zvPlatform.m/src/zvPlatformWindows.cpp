@@ -1,3 +1,4 @@
+#include <fcntl.h>
 #include <io.h>
 #include <process.h>
 #include <windows.h>
@@ -29,6 +30,28 @@ bool succeeded(bool success) {
 }
 
 const wchar_t* wide(const wchar16* text) { return reinterpret_cast<const wchar_t*>(text); }
+
+constexpr DWORD shared = FILE_SHARE_READ | FILE_SHARE_WRITE;
+
+Handle handleOf(HANDLE handle) {
+    return handle == INVALID_HANDLE_VALUE ? refusedHandle : reinterpret_cast<Handle>(handle);
+}
+
+// Where what is open really is, all links followed; empty on failure.
+std::wstring placeOf(HANDLE handle) {
+    std::wstring place(::GetFinalPathNameByHandleW(handle, nullptr, 0, FILE_NAME_NORMALIZED), L'\0');
+    const DWORD length = ::GetFinalPathNameByHandleW(handle, place.data(), static_cast<DWORD>(place.size()),
+                                                     FILE_NAME_NORMALIZED);
+    place.resize(length < place.size() ? length : 0);
+    return place;
+}
+
+bool isRegularFile(HANDLE handle) {
+    BY_HANDLE_FILE_INFORMATION facts = {};
+    constexpr DWORD others = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
+    return ::GetFileType(handle) == FILE_TYPE_DISK && ::GetFileInformationByHandle(handle, &facts) != 0 &&
+           (facts.dwFileAttributes & others) == 0;
+}
 
 }  // namespace
 
@@ -65,9 +88,10 @@ bool createDirectory(const wchar16* path) { return succeeded(::CreateDirectoryW(
 bool wasNameTaken() { return lastFailure == ERROR_ALREADY_EXISTS; }
 
 Handle createFile(const wchar16* path) {
-    const HANDLE handle = ::CreateFileW(wide(path), FILE_ALL_ACCESS, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                                        nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
-    return succeeded(handle != INVALID_HANDLE_VALUE) ? reinterpret_cast<Handle>(handle) : refusedHandle;
+    const HANDLE handle = ::CreateFileW(wide(path), FILE_ALL_ACCESS, shared, nullptr, CREATE_NEW,
+                                        FILE_ATTRIBUTE_NORMAL, nullptr);
+    succeeded(handle != INVALID_HANDLE_VALUE);
+    return handleOf(handle);
 }
 
 bool closeHandle(Handle handle) {
@@ -84,6 +108,36 @@ unsigned long accessError(const char* path, int mode) {
 }
 
 File openForReading(const char* path) { return File(std::fopen(path, "r")); }
+
+Handle openDirectory(const std::filesystem::path& path) {
+    return handleOf(::CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES, shared, nullptr, OPEN_EXISTING,
+                                  FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+}
+
+// The system follows links on the way; where it came to is looked at before anything is read.
+File openBelow(Handle directory, const std::filesystem::path& path) {
+    const std::wstring folder = placeOf(reinterpret_cast<HANDLE>(directory)) + L'\\';
+    const std::wstring wanted = folder + std::filesystem::path(path).make_preferred().native();
+    const HANDLE handle = ::CreateFileW(wanted.c_str(), GENERIC_READ, shared, nullptr, OPEN_EXISTING,
+                                        FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    if (handle == INVALID_HANDLE_VALUE) {
+        return nullptr;
+    }
+    const bool isBelow =
+        path.is_relative() && isRegularFile(handle) && placeOf(handle).compare(0, folder.size(), folder) == 0;
+    const int descriptor =
+        isBelow ? ::_open_osfhandle(reinterpret_cast<std::intptr_t>(handle), _O_RDONLY | _O_BINARY) : -1;
+    if (descriptor < 0) {
+        ::CloseHandle(handle);
+        return nullptr;
+    }
+    return File(::_fdopen(descriptor, "rb"));
+}
+
+// The one way that there is here.
+File openStepByStep(Handle directory, const std::filesystem::path& path) {
+    return openBelow(directory, path);
+}
 
 bool removeFile(const char* path) { return std::remove(path) == 0; }
 

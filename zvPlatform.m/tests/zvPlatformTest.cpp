@@ -1,10 +1,14 @@
 #include "zvPlatform.h"
 
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 
+#include "zvPlatformCommon.h"
 #include "zvString.h"
 #include "zvTestSupport.h"
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -19,6 +23,52 @@ TEST(zvPlatformTest, TranslatesPathSeparators) {
     EXPECT_TRUE(zvPlatform::isAccessible(path.c_str(), 6));
     EXPECT_TRUE(zvPlatform::removeFile(path.c_str()));
     EXPECT_FALSE(zvPlatform::isAccessible(path.c_str(), 0));
+}
+
+// What is opened by `open`, below a directory and with links around it.
+void checkOpening(zvPlatform::File (*open)(zvPlatform::Handle, const fs::path&)) {
+    const zvTemporaryFolder folder;
+    const fs::path inside = folder.path() / "inside";
+    const fs::path outside = folder.path() / "outside";
+    folder.write("outside/file", "outside");
+    folder.write("inside/file", "a\r\nb");
+    folder.write("inside/sub/file", "sub");
+    if (!onWindows) {
+        fs::create_symlink("file", inside / "link");
+        fs::create_symlink(outside / "file", inside / "linkOut");
+        fs::create_directory_symlink(outside, inside / "folderOut");
+        fs::create_directory_symlink("sub", inside / "folderIn");
+    }
+    const zvPlatform::Handle directory = zvPlatform::openDirectory(inside);
+    const auto content = [directory, open](const fs::path& path) {
+        char text[16] = {};
+        const zvPlatform::File file = open(directory, path);
+        return file == nullptr ? std::string("refused")
+                               : std::string(text, std::fread(text, 1, sizeof(text), file.get()));
+    };
+    EXPECT_EQ(content("file"), "a\r\nb");
+    EXPECT_EQ(content("sub/file"), "sub");
+    for (const char* const path :
+         {"missing", "sub", "missing/file", "file/file", "../outside/file", "sub/../../outside/file", "link",
+          "linkOut", "folderOut/file", "folderIn/file", ".", "..", ""}) {
+        EXPECT_EQ(content(path), "refused") << path;
+    }
+    EXPECT_EQ(content(outside / "file"), "refused");
+    if (!onWindows) {
+        fs::rename(inside, folder.path() / "moved");
+        fs::create_directory_symlink("outside", inside);
+        EXPECT_EQ(content("file"), "a\r\nb") << "the directory is the one that was opened";
+    }
+    EXPECT_TRUE(zvPlatform::closeHandle(directory));
+    EXPECT_EQ(zvPlatform::openDirectory(inside / "missing"), zvPlatform::refusedHandle);
+    EXPECT_EQ(open(zvPlatform::refusedHandle, "file"), nullptr);
+}
+
+TEST(zvPlatformTest, NothingOutsideAnOpenDirectoryIsOpened) {
+    checkOpening(zvPlatform::openBelow);
+    if constexpr (!onWindows) {
+        checkOpening(zvPlatform::openStepByStep);
+    }
 }
 
 TEST(zvPlatformTest, TheLastErrorSurvivesLaterCalls) {

@@ -4,41 +4,42 @@
 #include <filesystem>
 #include <optional>
 #include <system_error>
+#include <utility>
 #include <xercesc/dom/DOM.hpp>
-#include <xercesc/framework/MemBufInputSource.hpp>
+#include <xercesc/util/BinMemInputStream.hpp>
 #include <xercesc/util/OutOfMemoryException.hpp>
+#include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLException.hpp>
 #include <xercesc/util/XMLUni.hpp>
 
 #include "zvDOMErrorHandler.h"
 #include "zvLogSource.h"
 #include "zvPlatform.h"
-#include "zvXMLFileSource.h"
 #include "zvXMLGuardedParser.h"
 #include "zvXMLLocation.h"
 #include "zvXMLMemory.h"
 #include "zvXMLPositions.h"
+#include "zvXMLSource.h"
 #include "zvXMLText.h"
 
 namespace fs = std::filesystem;
 
+using xercesc::BinInputStream;
+using xercesc::BinMemInputStream;
 using xercesc::DOMDocument;
 using xercesc::DOMException;
 using xercesc::DOMImplementation;
 using xercesc::DOMImplementationRegistry;
 using xercesc::DOMNode;
-using xercesc::InputSource;
-using xercesc::MemBufInputSource;
 using xercesc::OutOfMemoryException;
 using xercesc::XMLException;
+using xercesc::XMLPlatformUtils;
 using xercesc::XMLUni;
 using zvXMLText::toString;
 
 namespace {
 
 constexpr zvLogSource logger("zvXMLUtils.m/src/zvDOMLoader");
-
-constexpr const char* textSystemId = "taag";
 
 struct File {
     fs::path path;
@@ -74,12 +75,14 @@ File fileAt(const char* location) {
 class zvDOMLoader::Tree {
 public:
     explicit Tree(DOMDocument* created) : m_pDocument(created) {}
-    Tree(const fs::path& folder, std::uintmax_t sourceBytes, zvFindingSink* findings)
+    // `sourceSize` is in bytes or, of a text that is decoded, in characters: what they take is the same.
+    Tree(const fs::path& folder, std::uintmax_t sourceSize, const zvXMLOptions& options,
+         zvFindingSink* findings)
         : m_pFindings(findings),
           m_pPositions(findings == nullptr ? nullptr : std::make_unique<zvXMLPositions>()),
-          m_pParser(std::make_unique<zvXMLGuardedParser>(m_memory, folder, m_pPositions.get())),
+          m_pParser(std::make_unique<zvXMLGuardedParser>(m_memory, folder, options, m_pPositions.get())),
           m_pDocument(nullptr) {
-        m_memory.allowFor(sourceBytes);
+        m_memory.allowFor(sourceSize);
     }
     Tree(const Tree&) = delete;
     Tree& operator=(const Tree&) = delete;
@@ -90,7 +93,10 @@ public:
         }
     }
 
-    zvResult parse(InputSource& source) {
+    // `encoding` is null for the one that the document declares.
+    zvResult parse(const zvString& systemId, std::unique_ptr<BinInputStream> stream, const XMLCh* encoding) {
+        zvXMLSource source(systemId, std::move(stream), *m_pParser, &m_memory);
+        source.setEncoding(encoding);
         zvDOMErrorHandler handler(m_pFindings);
         m_pParser->setParameter(XMLUni::fgDOMErrorHandler, &handler);
         m_pDocument = m_pParser->parseSource(source);
@@ -111,30 +117,21 @@ private:
     DOMDocument* m_pDocument;
 };
 
-zvDOMLoader::zvDOMLoader(zvFindingSink* findings) : m_pFindings(findings), m_result(0) {}
+zvDOMLoader::zvDOMLoader(zvFindingSink* findings, const zvXMLOptions& options)
+    : m_pFindings(findings), m_options(options), m_result(0) {}
 zvDOMLoader::~zvDOMLoader() = default;
 
 bool zvDOMLoader::parse(const char* source, bool isFile) {
-    return guarded([&] {
-        if (isFile) {
-            return parseFile(source);
-        }
-        const std::size_t length = std::strlen(source);
-        m_pTree = std::make_unique<Tree>(fs::path(), length, m_pFindings);
-        MemBufInputSource input(reinterpret_cast<const XMLByte*>(source), length, textSystemId);
-        return parseSource(input);
-    });
+    return guarded(
+        [&] { return isFile ? parseFile(source) : parseMemory(source, std::strlen(source), nullptr); });
 }
 
 bool zvDOMLoader::parseText(const zvString& text) {
     constexpr wchar16 byteOrderMark = 0xFEFF;
     return guarded([&] {
         const int start = text[0] == byteOrderMark ? 1 : 0;
-        const std::size_t bytes = static_cast<std::size_t>(text.size() - start) * sizeof(wchar16);
-        m_pTree = std::make_unique<Tree>(fs::path(), bytes, m_pFindings);
-        MemBufInputSource input(reinterpret_cast<const XMLByte*>(text.data() + start), bytes, textSystemId);
-        input.setEncoding(XMLUni::fgXMLChEncodingString);
-        return parseSource(input);
+        return parseMemory(text.data() + start, static_cast<std::size_t>(text.size() - start),
+                           XMLUni::fgXMLChEncodingString);
     });
 }
 
@@ -144,13 +141,22 @@ bool zvDOMLoader::parseFile(const char* location) {
     if (path.empty()) {
         logger.raise("XML document refused: \"", location, "\" is not a name in this locale");
     }
-    m_pTree = std::make_unique<Tree>(file.folder, file.size, m_pFindings);
-    zvXMLFileSource input(zvXMLChars(path).get());
-    return parseSource(input);
+    m_pTree = std::make_unique<Tree>(file.folder, file.size, m_options, m_pFindings);
+    return parseStream(path, zvXMLSource::streamOf(path, XMLPlatformUtils::fgMemoryManager), nullptr);
 }
 
-bool zvDOMLoader::parseSource(InputSource& source) {
-    m_result = m_pTree->parse(source);
+template <typename Character>
+bool zvDOMLoader::parseMemory(const Character* text, std::size_t length, const XMLCh* encoding) {
+    m_pTree = std::make_unique<Tree>(fs::path(), length, m_options, m_pFindings);
+    auto stream =
+        std::make_unique<BinMemInputStream>(reinterpret_cast<const XMLByte*>(text),
+                                            length * sizeof(Character), BinMemInputStream::BufOpt_Reference);
+    return parseStream("taag", std::move(stream), encoding);
+}
+
+bool zvDOMLoader::parseStream(const zvString& systemId, std::unique_ptr<BinInputStream> stream,
+                              const XMLCh* encoding) {
+    m_result = m_pTree->parse(systemId, std::move(stream), encoding);
     return m_result.isOk() && m_pTree->document() != nullptr;
 }
 

@@ -8,11 +8,12 @@
 #include "zvFinding.h"
 #include "zvResult.h"
 #include "zvString.h"
+#include "zvXMLOptions.h"
 
 XERCES_CPP_NAMESPACE_BEGIN
+class BinInputStream;
 class DOMDocument;
 class DOMNode;
-class InputSource;
 XERCES_CPP_NAMESPACE_END
 
 /// Loads or creates a document and owns it, until the next one or its own end. A failure leaves no document.
@@ -21,8 +22,8 @@ XERCES_CPP_NAMESPACE_END
 class ZV_EXPORT zvDOMLoader : public zvCoreObject {
 public:
     /// Also reports why a document does not come out whole to `findings`, which may be null and must outlive
-    /// the loader. Positions are kept for a loader with findings only.
-    explicit zvDOMLoader(zvFindingSink* findings = nullptr);
+    /// the loader. `options` say what is accepted. Positions are kept for a loader with findings only.
+    explicit zvDOMLoader(zvFindingSink* findings = nullptr, const zvXMLOptions& options = {});
     zvDOMLoader(const zvDOMLoader&) = delete;
     zvDOMLoader& operator=(const zvDOMLoader&) = delete;
     ~zvDOMLoader() override;
@@ -51,10 +52,14 @@ private:
     template <typename Parse>
     bool guarded(Parse parse);
     bool parseFile(const char* location);
-    bool parseSource(xercesc::InputSource& source);
+    template <typename Character>
+    bool parseMemory(const Character* text, std::size_t length, const XMLCh* encoding);
+    bool parseStream(const zvString& systemId, std::unique_ptr<xercesc::BinInputStream> stream,
+                     const XMLCh* encoding);
     void report(const zvString& text) const;
 
     zvFindingSink* m_pFindings;
+    zvXMLOptions m_options;
     zvResult m_result;
     std::unique_ptr<Tree> m_pTree;
 };

@@ -33,7 +33,13 @@ std::uintmax_t raised(std::uintmax_t base, std::uintmax_t perByte, std::uintmax_
 const zvXMLMemory::Bytes zvXMLMemory::forAnySource = {64 * megabyte, 2'000 * megabyte};
 const zvXMLMemory::Bytes zvXMLMemory::forSourceByte = {128, 256};
 
-zvXMLMemory::zvXMLMemory() : m_used{}, m_limits(forAnySource), m_bRefused(false), m_pBlocks(nullptr) {}
+zvXMLMemory::zvXMLMemory()
+    : m_used{},
+      m_limits(forAnySource),
+      m_sourceBytes(0),
+      m_allocations(0),
+      m_bRefused(false),
+      m_pBlocks(nullptr) {}
 
 zvXMLMemory::~zvXMLMemory() {
     while (m_pBlocks != nullptr) {
@@ -42,6 +48,7 @@ zvXMLMemory::~zvXMLMemory() {
 }
 
 void zvXMLMemory::allowFor(std::uintmax_t sourceBytes) {
+    m_sourceBytes = raised(m_sourceBytes, 1, sourceBytes);
     m_limits = {raised(m_limits.held, forSourceByte.held, sourceBytes),
                 raised(m_limits.handedOut, forSourceByte.handedOut, sourceBytes)};
 }
@@ -75,6 +82,7 @@ zvXMLMemory::Block* zvXMLMemory::take(XMLSize_t size) {
     }
     void* const memory = XMLPlatformUtils::fgMemoryManager->allocate(sizeof(Block) + size);
     m_used = used;
+    ++m_allocations;
     return new (memory) Block{nullptr, m_pBlocks, size};
 }
 

@@ -19,6 +19,10 @@ public:
 
     /// Raises the limits for `sourceBytes` more bytes of source.
     void allowFor(std::uintmax_t sourceBytes);
+    /// The bytes of source that it was raised for.
+    std::uintmax_t sourceBytes() const { return m_sourceBytes; }
+    /// How often memory was asked for.
+    std::uintmax_t allocations() const { return m_allocations; }
     /// Removes the limits, after the parse: the document belongs to the program.
     void lift();
 
@@ -41,6 +45,8 @@ private:
 
     Bytes m_used;
     Bytes m_limits;
+    std::uintmax_t m_sourceBytes;
+    std::uintmax_t m_allocations;
     bool m_bRefused;
     Block* m_pBlocks;
 };

@@ -51,8 +51,9 @@ bool hasNarrowForm(const zvString& text) {
 
 zvXMLParser::zvXMLParser() : zvXMLParser(static_cast<zvFindingSink*>(nullptr)) {}
 
-zvXMLParser::zvXMLParser(zvFindingSink* findings) : m_pCurrentNode(nullptr), m_pRootNode(nullptr) {
-    init(findings);
+zvXMLParser::zvXMLParser(zvFindingSink* findings, const zvXMLOptions& options)
+    : m_pCurrentNode(nullptr), m_pRootNode(nullptr) {
+    init(findings, options);
 }
 
 zvXMLParser::zvXMLParser(const zvString& source, bool isFile) : zvXMLParser() {
@@ -67,8 +68,8 @@ zvXMLParser::~zvXMLParser() {
     }
 }
 
-void zvXMLParser::init(zvFindingSink* findings) {
-    m_pLoader = std::make_unique<zvDOMLoader>(findings);
+void zvXMLParser::init(zvFindingSink* findings, const zvXMLOptions& options) {
+    m_pLoader = std::make_unique<zvDOMLoader>(findings, options);
     try {
         const std::lock_guard<std::mutex> guard(platformCount);
         XMLPlatformUtils::Initialize();

@@ -11,6 +11,7 @@
 #include "zvString.h"
 #include "zvStringList.h"
 #include "zvXERCESDOMNODEList.h"
+#include "zvXMLOptions.h"
 
 class zvDOMLoader;
 
@@ -21,17 +22,17 @@ class zvDOMLoader;
 /// loads or creates another document. Names are case-sensitive and include the prefix.
 ///
 /// Documents may be hostile. External entities and document type definitions are read only for a document
-/// loaded from a file, and only from files in or below its folder. A refused document, and one that takes far
-/// more memory than its size suggests, is logged as an error and fails the load. A document is validated
-/// against its own declarations.
+/// loaded from a file, only from files in or below its folder, and not at all if the options say so. A
+/// refused document, and one that takes far more memory than its size suggests, is logged as an error and
+/// fails the load. A document is validated against its own declarations.
 ///
 /// Parsers may be created and destroyed on any thread: the XML platform is reference-counted.
 class ZV_EXPORT zvXMLParser : public zvCoreObject {
 public:
     zvXMLParser();
     /// Also reports what is wrong with the documents that it loads, and why one cannot be written, to
-    /// `findings`, which may be null and must outlive the parser.
-    explicit zvXMLParser(zvFindingSink* findings);
+    /// `findings`, which may be null and must outlive the parser. `options` say what is accepted.
+    explicit zvXMLParser(zvFindingSink* findings, const zvXMLOptions& options = {});
     /// Loads as loadXMLFromString does; getRootElement() tells whether that succeeded.
     zvXMLParser(const zvString& source, bool isFile);
     zvXMLParser(const zvXMLParser&) = delete;
@@ -148,7 +149,7 @@ public:
     bool writeTreeToString(zvString& out, const zvString& encoding);
 
 private:
-    void init(zvFindingSink* findings);
+    void init(zvFindingSink* findings, const zvXMLOptions& options);
     template <typename Make>
     bool replaceDocument(Make make);
     bool validateDOMDocument();

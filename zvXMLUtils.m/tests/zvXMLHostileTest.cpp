@@ -4,34 +4,14 @@
 #include <memory>
 #include <xercesc/dom/DOM.hpp>
 
-#include "zvRecordingLogger.h"
-#include "zvTestSupport.h"
 #include "zvXERCESDOMNODEList.h"
-#include "zvXMLParser.h"
+#include "zvXMLHostileTest.h"
 
 namespace {
 
-using Lines = std::vector<std::string>;
 using List = std::unique_ptr<zvXERCESDOMNODEList>;
 
 constexpr int many = 100'000;
-constexpr std::chrono::seconds bearable(20);  // generous, for sanitizers on a busy machine
-
-std::string repeated(const std::string& text, int times) {
-    std::string all;
-    for (int i = 0; i < times; ++i) {
-        all += text;
-    }
-    return all;
-}
-
-std::string numbered(const std::string& before, const std::string& after, int times) {
-    std::string all;
-    for (int i = 0; i < times; ++i) {
-        all.append(before).append(std::to_string(i)).append(after);
-    }
-    return all;
-}
 
 // Nested entities, each of which contains the one before it `fold` times.
 std::string nested(const std::string& head, const std::string& innermost, const std::string& reference,
@@ -49,30 +29,6 @@ std::string largeModels(int count) {
     const std::string model = numbered("n", ",", 999) + "n";
     return numbered("<!ELEMENT w", " (" + model + ")>", count);
 }
-
-std::string document(const std::string& declarations, const std::string& content) {
-    return "<!DOCTYPE r [<!ELEMENT r ANY><!ATTLIST r a CDATA #IMPLIED>" + declarations + "]>" + content;
-}
-
-class zvXMLHostileTest : public zvLoggedTest {
-protected:
-    // Loads the document; returns the start of the only error in the log or, on success, its text.
-    static std::string outcome(const std::string& source, bool isFile = false) {
-        zvRecordingLogger::reset();
-        zvXMLParser parser;
-        const auto start = std::chrono::steady_clock::now();
-        const bool loaded = parser.loadXMLFromString(source.c_str(), isFile);
-        EXPECT_LT(std::chrono::steady_clock::now() - start, bearable);
-        EXPECT_EQ(loaded, parser.getCurrentNode() != nullptr);
-        if (loaded) {
-            zvString text;
-            parser.getMemberValue(text);
-            return "loaded " + narrow(text);
-        }
-        const Lines errors = zvRecordingLogger::lines("error");
-        return errors.size() == 1 ? errors[0] : std::to_string(errors.size()) + " errors";
-    }
-};
 
 TEST_F(zvXMLHostileTest, RefusesWhatExplodes) {
     constexpr const char* tooMuch =
@@ -106,13 +62,13 @@ TEST_F(zvXMLHostileTest, RefusesWhatExplodes) {
          "XML document refused: too large or too ambiguous a content model for element 'w10'"},
         {"an endless entity", document("<!ENTITY e '&e;'>", "<r>&e;</r>"),
          "XML document refused: recursive entity expansion"},
-        {"a wide content model", document("<!ELEMENT w (" + repeated("a,", many) + "a)>", "<r><w/></r>"),
+        {"a wide content model", document("<!ELEMENT w (" + repeated("a,", 5'000) + "a)>", "<r><w/></r>"),
          tooComplex},
         {"an ambiguous content model",
          document("<!ELEMENT a EMPTY><!ELEMENT w ((a|r)*,a" + repeated(",(a|r)", 24) + ")>",
                   "<r><w><a/></w></r>"),
          tooComplex},
-        {"attributes", "<r" + numbered(" a", "=''", many) + "/>",
+        {"attributes", "<r" + numbered(" a", "=''", 11'000) + "/>",
          "XML document refused: too many attributes for element 'r'"},
         {"declared attributes", document("<!ATTLIST r" + numbered(" b", " CDATA ''", many) + ">", "<r/>"),
          "XML document refused: too many attributes declared for element 'r'"},

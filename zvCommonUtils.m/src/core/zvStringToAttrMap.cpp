@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "zvKeptString.h"
+#include "zvMapCursor.h"
 #include "zvMapIndex.h"
 
 class zvStringToAttrMapImpl {
@@ -23,9 +24,12 @@ public:
     void swap(zvStringToAttrMapImpl& other) noexcept {
         m_attributes.swap(other.m_attributes);
         m_slots.swap(other.m_slots);
+        m_cursor.forget();
+        other.m_cursor.forget();
     }
 
-    const Attributes& all() const { return m_attributes; }
+    int size() const { return static_cast<int>(m_attributes.size()); }
+    const Attributes::value_type* entryAt(int i) const { return m_cursor.entryAt(m_attributes, i); }
 
     zvAttribute* find(const zvString& key) {
         if (m_slots.empty()) {
@@ -44,6 +48,7 @@ public:
             makeSlots(std::max(fewestSlots, m_slots.size() * 2));
         }
         settle(*m_attributes.emplace(key, attribute).first);
+        m_cursor.forget();
     }
 
 private:
@@ -75,6 +80,7 @@ private:
     }
 
     Attributes m_attributes;
+    zvMapCursor<Attributes> m_cursor;
     // A hash cache over the tree. A slot holds the first entry whose hash selects it, so that an empty slot
     // means a missing key. A collision falls back to the tree, so that keys crafted to collide cost no more
     // than without the cache.
@@ -122,7 +128,7 @@ bool zvStringToAttrMap::getAttr(const zvString& key, zvAttribute& out) const {
 }
 
 bool zvStringToAttrMap::getAttr(int i, zvAttribute& out) const {
-    const auto* const entry = zvMapEntryAt(m_pImpl->all(), i);
+    const auto* const entry = m_pImpl->entryAt(i);
     if (entry != nullptr) {
         out = entry->second;
     }
@@ -130,11 +136,11 @@ bool zvStringToAttrMap::getAttr(int i, zvAttribute& out) const {
 }
 
 bool zvStringToAttrMap::getAttrName(int i, zvString& out) const {
-    const auto* const entry = zvMapEntryAt(m_pImpl->all(), i);
+    const auto* const entry = m_pImpl->entryAt(i);
     if (entry != nullptr) {
         out = entry->first;
     }
     return entry != nullptr;
 }
 
-int zvStringToAttrMap::size() const { return static_cast<int>(m_pImpl->all().size()); }
+int zvStringToAttrMap::size() const { return m_pImpl->size(); }

@@ -6,7 +6,7 @@
 class zvStringToAttrMapImpl;
 
 /// An ordered map from string to attribute, with unique keys. Indices follow the order of the keys; access by
-/// index is linear.
+/// index walks from where it last was, so that a loop over all indices is linear.
 class ZV_EXPORT zvStringToAttrMap {
 public:
     zvStringToAttrMap();

@@ -5,9 +5,10 @@
 #include <map>
 
 #include "zvKeptString.h"
+#include "zvMapCursor.h"
 
 /// An ordered map from string to string, with unique keys. Indices follow the order of the keys; access by
-/// index is linear.
+/// index walks from where it last was, so that a loop over all indices is linear.
 class ZV_EXPORT zvStringToStringMap {
 public:
     zvStringToStringMap();
@@ -42,7 +43,10 @@ public:
     void copy(const zvStringToStringMap& other);
 
 private:
-    std::map<zvKeptString, zvKeptString, std::less<>> m_map;
+    using Map = std::map<zvKeptString, zvKeptString, std::less<>>;
+
+    Map m_map;
+    zvMapCursor<Map> m_cursor;
 };
 
 #endif

@@ -17,8 +17,9 @@ constexpr char skipped[] = "an attachment without a FilePath is left out";
 
 }  // namespace
 
-zvAttachmentParser::zvAttachmentParser() = default;
-zvAttachmentParser::zvAttachmentParser(zvFindingSink* findings) : zvXMLParser(findings) {}
+zvAttachmentParser::zvAttachmentParser() : zvAttachmentParser(nullptr) {}
+zvAttachmentParser::zvAttachmentParser(zvFindingSink* findings)
+    : zvXMLParser(findings, zvXMLOptions::withoutExternalEntities()) {}
 zvAttachmentParser::~zvAttachmentParser() = default;
 
 zvResult zvAttachmentParser::parse(zvAttachmentList* list, const zvString& input, bool isFile) {

@@ -18,7 +18,7 @@ class zvAttachmentList;
 ///     </AttachmentList>
 ///
 /// A missing mode or ToBeDeleted takes its default, and an attachment without a path is skipped, each with a
-/// warning. Other elements are ignored.
+/// warning. Other elements are ignored. A document with an external entity is refused.
 class ZV_EXPORT zvAttachmentParser : public zvXMLParser {
 public:
     zvAttachmentParser();

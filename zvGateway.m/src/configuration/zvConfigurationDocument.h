@@ -26,7 +26,7 @@ private:
     void warn(std::string_view kind, const zvString& owner, const zvString& attribute, const zvString& text);
 
     zvFindingList m_ofDocument;  // known from the reading; with a sink the parser keeps positions
-    zvXMLParser m_parser{&m_ofDocument};
+    zvXMLParser m_parser{&m_ofDocument, zvXMLOptions::withoutExternalEntities()};
     std::vector<zvFinding> m_findings;
 };
 
