@@ -46,17 +46,6 @@ int lastIn(const zvString& text, wchar16 character, int begin, int end) {
 
 bool isEndOfAuthority(wchar16 c) { return c == u'/' || c == u'?' || c == u'#'; }
 
-// Whether the host, which ends at `end`, is followed by what is no port: a "/" in a password, for one.
-bool hasOddPort(const zvString& text, int begin, int end) {
-    const int colon = lastIn(text, u':', begin, end);
-    for (int i = colon + 1; colon >= 0 && text[begin] != u'[' && i < end; ++i) {
-        if (text[i] < u'0' || text[i] > u'9') {
-            return true;
-        }
-    }
-    return false;
-}
-
 Account findAccount(const zvString& text) {
     const int slashes = text.find("//");
     // Without a scheme, in a line of a properties file.
@@ -66,7 +55,8 @@ Account findAccount(const zvString& text) {
         ++end;
     }
     int at = lastIn(text, u'@', begin, end);
-    if (at < 0 && begin < end && hasOddPort(text, begin, end)) {
+    if (at < 0 && begin < end && text[begin] != u'[' && lastIn(text, u':', begin, end) >= 0) {
+        // What looks like a port may be the beginning of a password with a "/" in it.
         at = lastIn(text, u'@', end, text.size());
     }
     const bool isAccount = slashes >= 0 || lastIn(text, u':', begin, at) >= 0;
