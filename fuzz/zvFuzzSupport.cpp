@@ -5,6 +5,7 @@
 #include <fstream>
 
 #include "zvCharString.h"
+#include "zvFuzzClock.h"
 #include "zvLogger.h"
 #include "zvLoggerLibrary.h"
 #include "zvPlatform.h"
@@ -112,6 +113,6 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    zvFuzzOne({reinterpret_cast<const char*>(data), size});
+    zvFuzzClock::run({reinterpret_cast<const char*>(data), size});
     return 0;
 }
