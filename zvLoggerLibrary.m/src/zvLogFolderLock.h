@@ -20,7 +20,7 @@ public:
 
     /// Lockable by std::unique_lock with std::try_to_lock. Waits five seconds at most for another process,
     /// and after that not at all until the lock is free again. False for a lock that another one holds.
-    bool try_lock();
+    bool try_lock();  // NOLINT(readability-identifier-naming): as std::unique_lock has it
     void unlock();
 
     const std::string& path() const { return m_path; }

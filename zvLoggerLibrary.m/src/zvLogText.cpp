@@ -2,13 +2,11 @@
 
 #include <log4cxx/helpers/transcoder.h>
 
-#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <string>
 
 #include "zvControlCharacter.h"
-#include "zvTextCodec.h"
 
 using log4cxx::LogString;
 using log4cxx::helpers::Transcoder;
@@ -17,7 +15,17 @@ namespace {
 
 constexpr char lineFeed = '\n';
 
-bool isPlain(char c) { return c == '\t' || !zvIsControlCharacter(static_cast<unsigned char>(c)); }
+// Nearly every text is: the same in every encoding, and nothing to escape. No early exit, so that the
+// compiler can vectorise the loop.
+bool isPlain(std::string_view text) {
+    unsigned char odd = 0;
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        const bool isOdd = (byte < ' ' && byte != '\t') || byte >= 0x7F;
+        odd |= static_cast<unsigned char>(isOdd);
+    }
+    return odd == 0;
+}
 
 void append(LogString& text, std::string_view ascii) { text.append(ascii.begin(), ascii.end()); }
 
@@ -45,10 +53,8 @@ LogString escaped(const LogString& text, bool keepsLines) {
     return result;
 }
 
-// Nearly every line is ASCII, which is the same in every encoding, and log4cxx's decoder is slow.
 LogString safe(std::string_view text, bool keepsLines) {
-    const bool isAscii = zvTextCodec::isAscii(text.data(), text.size());
-    if (isAscii && std::all_of(text.begin(), text.end(), isPlain)) {
+    if (isPlain(text)) {
         return {text.begin(), text.end()};
     }
     LogString decoded;

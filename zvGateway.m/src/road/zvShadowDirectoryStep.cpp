@@ -68,6 +68,10 @@ zvStepOutcome zvShadowDirectoryStep::run() {
         zvConsole::fact("directory", zvConsole::printablePath(m_event.directory()));
         beginAttempt(given);
     }
+    // Once there is a record, which then has the failure.
+    for (const char* const key : fileKeys) {
+        requireOwnKind(m_event.file(key), fs::file_type::regular, "it is no regular file");
+    }
     if (!fault.empty()) {
         zvConsole::fact("warning", fault);
     }
@@ -157,6 +161,5 @@ void zvShadowDirectoryStep::requireFiles(const std::string& reason) const {
         if (!fs::exists(statusOf(file))) {
             throw failure(file, reason);
         }
-        requireOwnKind(file, fs::file_type::regular, "it is no regular file");
     }
 }
