@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "zvAuthoringCommands.h"
 #include "zvCharString.h"
 #include "zvCheckCommand.h"
 #include "zvCommonUtils.h"
@@ -165,6 +166,8 @@ int runProgram(int argc, char** argv) {
     declareShow(program, showing);
     zvOperationCommands operation;
     operation.declare(program);
+    zvAuthoringCommands authoring;
+    authoring.declare(program);
     program.allow_extras();  // after the subcommands, which would inherit it
 
     try {
@@ -188,9 +191,10 @@ int runProgram(int argc, char** argv) {
         return finish(checking.run());
     }
     goWithoutHome();
-    return finish(eval.parsed()                     ? evaluation.run()
-                  : program.got_subcommand("check") ? checking.run()
-                                                    : showing.run());
+    return finish(eval.parsed()                               ? evaluation.run()
+                  : zvAuthoringCommands::wasAskedFor(program) ? authoring.run(program)
+                  : program.got_subcommand("check")           ? checking.run()
+                                                              : showing.run());
 }
 
 }  // namespace
