@@ -63,6 +63,7 @@ Exit codes
   8  the transfer of the event's files
   9  the post to the local server
   10 some events of batch or resume
+  11 some cases of test
 
 The last line on standard error, and in the log, is what became of the event.)";
 
