@@ -3,8 +3,8 @@
 #include <yaml.h>
 
 #include <algorithm>
+#include <iterator>
 #include <new>
-#include <set>
 #include <utility>
 
 #include "zvConsole.h"
@@ -139,16 +139,24 @@ private:
     }
 
     static void requireKeys(const zvYamlNode& map) {
-        std::set<zvString> keys;
+        std::vector<const zvYamlNode*> keys;
+        keys.reserve(map.items.size() / 2);
         for (std::size_t i = 0; i < map.items.size(); i += 2) {
-            const zvYamlNode& key = map.items[i];
-            if (key.kind != zvYamlNode::Kind::text) {
-                throw zvCaseFault{key.position, "a key has to be a text"};
+            keys.push_back(&map.items[i]);
+            if (keys.back()->kind != zvYamlNode::Kind::text) {
+                throw zvCaseFault{keys.back()->position, "a key has to be a text"};
             }
-            if (!keys.insert(key.text).second) {
-                throw zvCaseFault{key.position,
-                                  "the key \"" + zvConsole::printable(key.text) + "\" stands here already"};
-            }
+        }
+        std::stable_sort(keys.begin(), keys.end(), [](const zvYamlNode* left, const zvYamlNode* right) {
+            return left->text < right->text;
+        });
+        const auto twice = std::adjacent_find(
+            keys.begin(), keys.end(),
+            [](const zvYamlNode* left, const zvYamlNode* right) { return left->text == right->text; });
+        if (twice != keys.end()) {
+            const zvYamlNode& second = **std::next(twice);
+            throw zvCaseFault{second.position,
+                              "the key \"" + zvConsole::printable(second.text) + "\" stands here already"};
         }
     }
 
