@@ -67,7 +67,9 @@ private:
 
 class Reader {
 public:
-    explicit Reader(const std::string& document) : m_events(document) {}
+    Reader(const std::string& document, const zvString& key,
+           const std::function<void(const zvYamlNode&)>& visit)
+        : m_events(document), m_key(key), m_visit(visit) {}
 
     zvYamlNode read() {
         m_events.next();  // the beginning of the stream
@@ -134,8 +136,26 @@ private:
 
     void readItems(zvYamlNode& node, yaml_event_type_t end, int depth) {
         for (const yaml_event_t* event = &m_events.next(); event->type != end; event = &m_events.next()) {
-            node.items.push_back(nodeOf(*event, depth + 1));
+            const bool isValue = node.items.size() % 2 != 0;
+            if (depth == 1 && isValue && event->type == YAML_SEQUENCE_START_EVENT &&
+                node.items.back().text == m_key) {
+                node.items.push_back(visitItems(*event, depth + 1));
+            } else {
+                node.items.push_back(nodeOf(*event, depth + 1));
+            }
         }
+    }
+
+    zvYamlNode visitItems(const yaml_event_t& begin, int depth) {
+        zvYamlNode list;
+        list.kind = zvYamlNode::Kind::list;
+        list.position = positionOf(begin.start_mark);
+        requirePlain(list, begin.data.sequence_start.anchor, begin.data.sequence_start.tag);
+        for (const yaml_event_t* event = &m_events.next(); event->type != YAML_SEQUENCE_END_EVENT;
+             event = &m_events.next()) {
+            m_visit(nodeOf(*event, depth + 1));
+        }
+        return list;
     }
 
     static void requireKeys(const zvYamlNode& map) {
@@ -161,8 +181,13 @@ private:
     }
 
     Events m_events;
+    const zvString& m_key;
+    const std::function<void(const zvYamlNode&)>& m_visit;
 };
 
 }  // namespace
 
-zvYamlNode zvYamlReader::read(const std::string& document) { return Reader(document).read(); }
+zvYamlNode zvYamlReader::read(const std::string& document, const zvString& key,
+                              const std::function<void(const zvYamlNode&)>& visit) {
+    return Reader(document, key, visit).read();
+}
