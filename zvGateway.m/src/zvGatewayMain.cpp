@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "zvAuthoringCommands.h"
 #include "zvCharString.h"
 #include "zvCheckCommand.h"
 #include "zvCommonUtils.h"
@@ -65,6 +66,7 @@ Exit codes
   8  the transfer of the event's files
   9  the post to the local server
   10 some events of batch or resume
+  11 some cases of test
 
 The last line on standard error, and in the log, is what became of the event.)";
 
@@ -170,6 +172,8 @@ int runProgram(int argc, char** argv) {
     declareShow(program, showing);
     zvOperationCommands operation;
     operation.declare(program);
+    zvAuthoringCommands authoring;
+    authoring.declare(program);
     program.allow_extras();  // after the subcommands, which would inherit it
 
     try {
@@ -193,9 +197,10 @@ int runProgram(int argc, char** argv) {
         return finish(checking.run());
     }
     goWithoutHome();
-    return finish(eval.parsed()                     ? evaluation.run()
-                  : program.got_subcommand("check") ? checking.run()
-                                                    : showing.run());
+    return finish(eval.parsed()                               ? evaluation.run()
+                  : zvAuthoringCommands::wasAskedFor(program) ? authoring.run(program)
+                  : program.got_subcommand("check")           ? checking.run()
+                                                              : showing.run());
 }
 
 }  // namespace

@@ -19,8 +19,11 @@ public:
     /// The remote system's name; empty when the file has none.
     const zvString& pdmSystemName() const { return m_strPdmSystemName; }
     const zvFindingList& findings() const { return m_findings; }
+    /// Throws the zvProgramFailure of a file that was not read to its end.
+    void requireComplete() const;
 
 private:
+    std::string m_file;
     zvFindingList m_findings;
     bool m_bComplete = false;
     zvString m_strPdmSystemName;
