@@ -16,7 +16,9 @@ enum class zvExitCode {
     fileTransfer = 8,
     post = 9,
     /// Not all events of a command that takes several arrived.
-    events = 10
+    events = 10,
+    /// Two configurations differ.
+    differences = 12
 };
 
 /// Thrown by a step of the road that could not do its job. The texts are printable.

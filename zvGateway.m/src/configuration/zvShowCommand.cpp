@@ -10,22 +10,9 @@
 #include "zvConsole.h"
 #include "zvReplacedFile.h"
 
-namespace {
-
-zvProgramFailure incomplete(const zvConfigurationReading& reading, const std::string& file) {
-    const std::string broken = reading.findings().brokenDocument();
-    const std::string error = broken.empty() ? reading.findings().lastError() : broken;
-    return {zvExitCode::configuration, "configuration", zvConsole::printable(file.c_str()),
-            error.empty() ? "it is not read to its end" : error};
-}
-
-}  // namespace
-
 zvExitCode zvShowCommand::run() const {
     const zvConfigurationReading reading(file, zvConfigurationReading::InvalidRule::endsTheParse);
-    if (!reading.isComplete()) {
-        throw incomplete(reading, file);
-    }
+    reading.requireComplete();
     const zvCfgConfigManager& configuration = *zvCfgConfigManager::getCfgConfigManager();
     const std::string system = zvConsole::printable(reading.pdmSystemName());
     if (page.empty()) {
