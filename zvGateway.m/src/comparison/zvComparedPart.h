@@ -14,6 +14,8 @@ struct zvComparedPart {
     struct Property {
         std::string_view name;  // the configuration file's word
         zvString value;
+
+        bool operator==(const Property& other) const { return name == other.name && value == other.value; }
     };
 
     /// What a person calls it, as in `attribute "rev"`.

@@ -76,6 +76,9 @@ private:
     }
 
     void compareProperties(const zvComparedPart& before, const zvComparedPart& after, const zvString& path) {
+        if (before.properties == after.properties) {
+            return;
+        }
         for (const zvComparedPart::Property& property : after.properties) {
             const zvString* const was = before.find(property.name);
             if (was == nullptr ? !property.value.empty() : *was != property.value) {

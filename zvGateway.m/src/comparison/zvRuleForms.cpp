@@ -19,6 +19,10 @@ const char* nameOf(zvCndConditionTypeEnum type) {
     return type == zvCndConditionAnd ? "AND" : type == zvCndConditionOr ? "OR" : "NOT";
 }
 
+zvDataTypeEnum typeNamed(const zvString& word) {
+    return zvDataTypeWords::typeOf(std::u16string(word.data(), word.data() + word.size()));
+}
+
 bool isNot(const zvCndCondition& condition) { return condition->getConditionType() == zvCndConditionNot; }
 
 // Two negations are none.
@@ -73,10 +77,8 @@ bool zvRuleForms::Form::operator<(const Form& other) const {
     return std::tie(type, text, children) < std::tie(other.type, other.text, other.children);
 }
 
-zvRuleForms::zvRuleForms(const zvComparedPart& before, const zvComparedPart& after) {
-    addTypes(before);
-    addTypes(after);
-}
+zvRuleForms::zvRuleForms(const zvComparedPart& before, const zvComparedPart& after)
+    : m_before(before), m_after(after) {}
 
 // A rule names attributes as either system does.
 void zvRuleForms::addTypes(const zvComparedPart& object) {
@@ -85,8 +87,7 @@ void zvRuleForms::addTypes(const zvComparedPart& object) {
         if (word == nullptr) {
             continue;
         }
-        const std::u16string text(word->data(), word->data() + word->size());
-        const zvDataTypeEnum known = zvDataTypeWords::typeOf(text);
+        const zvDataTypeEnum known = typeNamed(*word);
         const zvDataTypeEnum type = known == zvDataTypeNone ? zvDataTypeString : known;
         for (const char* const name : {"LocalName", "RemoteName"}) {
             const auto [entry, isNew] = m_types.try_emplace(*part.find(name), type);
@@ -151,24 +152,28 @@ int zvRuleForms::numberOf(Form form, bool canFail) {
     return entry->second;
 }
 
-zvDataTypeEnum zvRuleForms::typeOf(const zvCndCondition& comparison, bool isLeft, bool& isKnown) const {
-    const zvCndComparisonCondition both = zvCndConditionFactory::getComparisonCondition(comparison);
-    const zvCndOperand operand = isLeft ? both->getLHSOperand() : both->getRHSOperand();
+zvDataTypeEnum zvRuleForms::typeOf(const zvCndOperand& operand) {
     if (operand.getValueType() != zvOperandVariable) {
         return zvDataTypeString;
     }
-    const auto found = m_types.find(operand.getValue().getStrValue());
-    const zvDataTypeEnum type = found == m_types.end() ? zvDataTypeString : found->second;
-    isKnown = isKnown && type != zvDataTypeNone;
-    return type;
+    if (m_types.empty()) {
+        addTypes(m_before);
+        addTypes(m_after);
+    }
+    const auto found = m_types.find(operand.value().getStrValue());
+    return found == m_types.end() ? zvDataTypeString : found->second;
 }
 
-bool zvRuleForms::canFail(const zvCndCondition& comparison) const {
-    bool isKnown = true;
-    const zvDataTypeEnum left = typeOf(comparison, true, isKnown);
-    const zvDataTypeEnum right = typeOf(comparison, false, isKnown);
-    return !isKnown || isWithoutConversion(left, right) ||
-           (left == zvDataTypeBoolean && isOrdering(comparison->getConditionType()));
+bool zvRuleForms::canFail(const zvCndCondition& comparison) {
+    const zvCndComparisonCondition operands = zvCndConditionFactory::getComparisonCondition(comparison);
+    const bool isOrdered = isOrdering(comparison->getConditionType());
+    if (!isOrdered && operands->getRHSOperand().getValueType() != zvOperandVariable) {
+        return false;  // a constant is a text, which has a form of every type
+    }
+    const zvDataTypeEnum left = typeOf(operands->getLHSOperand());
+    const zvDataTypeEnum right = typeOf(operands->getRHSOperand());
+    return left == zvDataTypeNone || right == zvDataTypeNone || isWithoutConversion(left, right) ||
+           (left == zvDataTypeBoolean && isOrdered);
 }
 
 std::vector<zvTreeLine> zvRuleForms::lines(int form) const {

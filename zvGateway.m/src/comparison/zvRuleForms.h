@@ -7,15 +7,15 @@
 
 #include "zvAlignedLine.h"
 #include "zvCndCondition.h"
+#include "zvCndOperand.h"
 #include "zvComparedPart.h"
-#include "zvValue.h"
 
 /// What rules mean, whatever their blanks and brackets: rules of the same meaning have the same form. The
 /// order of the parts of AND and OR belongs to it only where one of them can fail, since what fails first
 /// decides then.
 class zvRuleForms {
 public:
-    /// Takes the types of the attributes of both objects whose rules are compared.
+    /// Takes the types of the attributes of both objects whose rules are compared; they must outlive this.
     zvRuleForms(const zvComparedPart& before, const zvComparedPart& after);
 
     /// The number of the rule's form; equal parts of rules have equal numbers. The rule is not null.
@@ -34,12 +34,14 @@ private:
     struct Visit;
 
     void addTypes(const zvComparedPart& object);
-    zvDataTypeEnum typeOf(const zvCndCondition& comparison, bool isLeft, bool& isKnown) const;
-    bool canFail(const zvCndCondition& comparison) const;
+    zvDataTypeEnum typeOf(const zvCndOperand& operand);
+    bool canFail(const zvCndCondition& comparison);
     int finish(Visit& visit);
     int numberOf(Form form, bool canFail);
 
-    // None for a name that has several.
+    const zvComparedPart& m_before;
+    const zvComparedPart& m_after;
+    // By name, once they are asked for; none for a name that has several.
     std::map<zvString, zvDataTypeEnum> m_types;
     std::map<Form, int> m_numbers;
     std::vector<const Form*> m_forms;
