@@ -34,7 +34,9 @@ public:
             const int other = matching.oldOf(i);
             const zvComparedPart* const was =
                 other == zvPartMatching::none ? nullptr : &old.parts[static_cast<std::size_t>(other)];
-            compare(was, &now.parts[i], below(path, now.parts[i]));
+            if (was == nullptr || !isPlainlyEqual(*was, now.parts[i])) {
+                compare(was, &now.parts[i], below(path, now.parts[i]));
+            }
         }
         for (std::size_t i = 0; i < old.parts.size(); ++i) {
             if (matching.newOf(i) == zvPartMatching::none) {
@@ -45,6 +47,11 @@ public:
     }
 
 private:
+    // Most parts: nothing has to be made of their names.
+    static bool isPlainlyEqual(const zvComparedPart& before, const zvComparedPart& after) {
+        return before.parts.empty() && after.parts.empty() && before.properties == after.properties;
+    }
+
     static zvString below(const zvString& path, const zvComparedPart& part) {
         return path.empty() ? part.title() : path + ", " + part.title();
     }
