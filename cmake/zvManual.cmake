@@ -54,6 +54,8 @@ zv_add_manual_page(zvgateway-home 5 operating.md "the files of the folder that G
     SECTIONS ${home_sections} SEE_ALSO zvgateway\(1\) zvgateway-configuration\(5\))
 zv_add_manual_page(zvgateway-configuration 5 configuration.md "the mapping between the two systems"
     SEE_ALSO zvgateway\(1\) zvgateway-home\(5\) zvgateway-conditions\(7\))
+zv_add_manual_page(zvgateway-authoring 7 authoring.md "cases of a configuration, and why an object is mapped as it is"
+    SEE_ALSO zvgateway\(1\) zvgateway-configuration\(5\) zvgateway-conditions\(7\))
 zv_add_manual_page(zvgateway-conditions 7 conditions.md "the language of mapping rules"
     SEE_ALSO zvgateway\(1\) zvgateway-configuration\(5\))
 zv_add_manual_page(zvgateway-packages 7 packages.md "Debian packages of the gateway, and spools of batch files"

@@ -2,7 +2,8 @@
 -- Metadata: name (the line under NAME), seealso, and, where a page has not all of its document, either sections or
 -- left_out: titles of level 2, with "|" between them. With program, what its --help says comes first.
 local folder = PANDOC_SCRIPT_FILE:match("^(.*)/")
-local pages = {["configuration.md"] = "zvgateway-configuration(5)", ["conditions.md"] = "zvgateway-conditions(7)",
+local pages = {["configuration.md"] = "zvgateway-configuration(5)", ["authoring.md"] = "zvgateway-authoring(7)",
+               ["conditions.md"] = "zvgateway-conditions(7)",
                ["operating.md"] = "zvgateway(1)", ["packages.md"] = "zvgateway-packages(7)"}
 
 local function text(meta)

@@ -5,11 +5,12 @@
 #include <string>
 #include <vector>
 
+#include "zvAuthoringCommands.h"
 #include "zvCharString.h"
 #include "zvCheckCommand.h"
 #include "zvCommonUtils.h"
+#include "zvComparisonCommand.h"
 #include "zvConsole.h"
-#include "zvDiffCommand.h"
 #include "zvEvaluateCommand.h"
 #include "zvEventRoad.h"
 #include "zvException.h"
@@ -63,6 +64,7 @@ Exit codes
   8  the transfer of the event's files
   9  the post to the local server
   10 some events of batch or resume
+  11 some cases of test
   12 two configurations that "diff" compares differ
 
 The last line on standard error, and in the log, is what became of the event.)";
@@ -127,22 +129,6 @@ void declareShow(CLI::App& program, zvShowCommand& command) {
         "Exit code 6 for a configuration that is not read to its end, 2 for a page that cannot be written.");
 }
 
-constexpr char diffFooter[] =
-    R"(Prints what differs in meaning: "+" for what was added, "-" for what was removed, "~" for what has changed.
-A mapping rule is compared as a tree, whatever its blanks and brackets. The order of parts counts only where it decides:
-of candidates, which are tried in turn, of transitions, and of the parts of a rule that can fail.
-Exit code 0 if nothing differs, 12 if something does, 6 for a configuration that is not read to its end, 2 for a page
-that cannot be written.)";
-
-void declareDiff(CLI::App& program, zvDiffCommand& command) {
-    CLI::App& diff = *program.add_subcommand("diff", "Says what differs between two configurations");
-    diff.add_option("old", command.before, "The configuration file that is in use")->required();
-    diff.add_option("new", command.after, "The configuration file that takes its place")->required();
-    diff.add_flag("--json", command.asJson, "One JSON document on standard output");
-    diff.add_option("--html", command.page, "Writes a page, with both side by side, instead");
-    diff.footer(diffFooter);
-}
-
 void declareRoad(CLI::App& program, zvRoadOptions& options) {
     program.add_flag("--dry-run", options.isDryRun, "Does everything but the transfer and the post");
     program.add_flag("--json", options.asJson,
@@ -181,10 +167,12 @@ int runProgram(int argc, char** argv) {
     checking.declare(program);
     zvShowCommand showing;
     declareShow(program, showing);
-    zvDiffCommand difference;
-    declareDiff(program, difference);
+    zvComparisonCommand comparison;
+    comparison.declare(program);
     zvOperationCommands operation;
     operation.declare(program);
+    zvAuthoringCommands authoring;
+    authoring.declare(program);
     program.allow_extras();  // after the subcommands, which would inherit it
 
     try {
@@ -208,10 +196,11 @@ int runProgram(int argc, char** argv) {
         return finish(checking.run());
     }
     goWithoutHome();
-    return finish(eval.parsed()                     ? evaluation.run()
-                  : program.got_subcommand("check") ? checking.run()
-                  : program.got_subcommand("diff")  ? difference.run()
-                                                    : showing.run());
+    return finish(eval.parsed()                               ? evaluation.run()
+                  : zvAuthoringCommands::wasAskedFor(program) ? authoring.run(program)
+                  : program.got_subcommand("check")           ? checking.run()
+                  : program.got_subcommand("diff")            ? comparison.run()
+                                                              : showing.run());
 }
 
 }  // namespace

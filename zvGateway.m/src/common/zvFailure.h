@@ -17,6 +17,8 @@ enum class zvExitCode {
     post = 9,
     /// Not all events of a command that takes several arrived.
     events = 10,
+    /// Cases of `test` failed.
+    cases = 11,
     /// Two configurations differ.
     differences = 12
 };

@@ -57,7 +57,7 @@ std::vector<zvDifferenceGroup> zvCandidateOrder::changes(const Objects& before, 
                 continue;
             }
             zvDifference order;
-            order.property = "order";
+            order.property = zvDifference::order;
             order.before = listOf(before, found->second, system.otherType);
             order.after = listOf(after, places, system.otherType);
             zvDifferenceGroup group;

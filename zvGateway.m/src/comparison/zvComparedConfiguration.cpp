@@ -62,7 +62,8 @@ zvComparedPart viewPart(const zvCfgView& view) {
 
 }  // namespace
 
-zvComparedConfiguration::zvComparedConfiguration(const std::string& file) {
+zvComparedConfiguration::zvComparedConfiguration(const std::string& file,
+                                                 const std::function<void()>& whileRead) {
     zvCfgConfigManager::destroyCfgConfigManager();
     const zvConfigurationReading reading(file, zvConfigurationReading::InvalidRule::endsTheParse);
     reading.requireComplete();
@@ -77,6 +78,9 @@ zvComparedConfiguration::zvComparedConfiguration(const std::string& file) {
     addCollections(configuration);
     for (int i = 0; i < configuration.numLifecycles(); ++i) {
         addLifecycle(*configuration.getLifecycleAt(i));
+    }
+    if (whileRead) {
+        whileRead();
     }
     zvCfgConfigManager::destroyCfgConfigManager();
 }

@@ -1,6 +1,7 @@
 #ifndef ZV_COMPARED_CONFIGURATION_H
 #define ZV_COMPARED_CONFIGURATION_H
 
+#include <functional>
 #include <set>
 #include <string>
 #include <vector>
@@ -11,9 +12,9 @@
 /// A copy of what a configuration file says: the library has one configuration at a time.
 class zvComparedConfiguration {
 public:
-    /// Reads the file, and leaves the library without a configuration. Throws the zvProgramFailure of a file
-    /// that is not read to its end.
-    explicit zvComparedConfiguration(const std::string& file);
+    /// Reads the file, and leaves the library without a configuration; calls `whileRead`, if it is not empty,
+    /// while the library has it. Throws the zvProgramFailure of a file that is not read to its end.
+    explicit zvComparedConfiguration(const std::string& file, const std::function<void()>& whileRead = {});
     zvComparedConfiguration(const zvComparedConfiguration&) = delete;
     zvComparedConfiguration& operator=(const zvComparedConfiguration&) = delete;
 

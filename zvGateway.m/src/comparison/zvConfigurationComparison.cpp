@@ -62,6 +62,27 @@ void zvConfigurationComparison::compareLifecycles(const Parts& before, const Par
     add(std::move(section));
 }
 
+void zvConfigurationComparison::addOutcomes(const std::vector<zvCaseOutcome>& before,
+                                            const std::vector<zvCaseOutcome>& after) {
+    zvDifferenceSection section{"cases", "Cases", {}};
+    for (std::size_t i = 0; i < after.size(); ++i) {
+        if (before[i].text == after[i].text) {
+            continue;
+        }
+        zvDifference outcome;
+        outcome.property = zvDifference::outcome;
+        outcome.before = before[i].text.c_str();
+        outcome.after = after[i].text.c_str();
+        zvDifferenceGroup group;
+        group.title = after[i].title.c_str();
+        group.placeBefore.line = before[i].line;
+        group.placeAfter.line = after[i].line;
+        group.differences.push_back(outcome);
+        section.groups.push_back(group);
+    }
+    add(std::move(section));
+}
+
 void zvConfigurationComparison::add(zvDifferenceSection section) {
     if (!section.groups.empty()) {
         m_sections.push_back(std::move(section));

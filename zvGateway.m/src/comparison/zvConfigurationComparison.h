@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <vector>
 
+#include "zvCaseOutcome.h"
 #include "zvComparedConfiguration.h"
 #include "zvDifference.h"
 #include "zvPartMatching.h"
@@ -12,6 +13,9 @@
 class zvConfigurationComparison {
 public:
     zvConfigurationComparison(const zvComparedConfiguration& before, const zvComparedConfiguration& after);
+
+    /// Takes the cases, the same in both lists, whose outcome is another one.
+    void addOutcomes(const std::vector<zvCaseOutcome>& before, const std::vector<zvCaseOutcome>& after);
 
     /// In the order of the new configuration, with what was removed at the end; sections without a difference
     /// are left out.

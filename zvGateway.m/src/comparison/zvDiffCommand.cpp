@@ -12,9 +12,14 @@
 
 zvExitCode zvDiffCommand::run() const {
     refuseToReplaceInput();
-    const zvComparedConfiguration old(before);
-    const zvComparedConfiguration now(after);
-    const zvConfigurationComparison comparison(old, now);
+    std::vector<zvCaseOutcome> outcomes[2];
+    const auto runningFor = [this](std::vector<zvCaseOutcome>& result) {
+        return [this, &result] { result = runCases ? runCases() : std::vector<zvCaseOutcome>(); };
+    };
+    const zvComparedConfiguration old(before, runningFor(outcomes[0]));
+    const zvComparedConfiguration now(after, runningFor(outcomes[1]));
+    zvConfigurationComparison comparison(old, now);
+    comparison.addOutcomes(outcomes[0], outcomes[1]);
     const zvExitCode code = comparison.count() == 0 ? zvExitCode::success : zvExitCode::differences;
     if (!page.empty()) {
         zvReplacedFile::write(page, zvDifferencePage::of(comparison, before, after));

@@ -11,6 +11,12 @@ enum class zvChange { added, removed, changed };
 
 /// One thing that differs between two configurations.
 struct zvDifference {
+    /// Properties whose values are more than one text, and which are no words of the configuration file.
+    static constexpr char order[] = "order";
+    static constexpr char orderOfTransitions[] = "order of transitions";
+    static constexpr char waysTo[] = "ways to";
+    static constexpr char outcome[] = "outcome";
+
     zvChange change = zvChange::changed;
     /// The part, as in `attribute "rev"`; empty for the group itself.
     zvString part;

@@ -47,8 +47,10 @@ std::string treeOf(const std::vector<zvAlignedLine>& rule) {
 
 std::string valuesOf(const zvDifference& difference) {
     const auto value = [](const zvString& text) { return text.empty() ? "none" : quoted(text); };
-    // Lists have quotes of their own.
-    const bool isList = difference.property == "order" || difference.property == "order of transitions";
+    // They have quotes of their own.
+    const bool isList = difference.property == zvDifference::order ||
+                        difference.property == zvDifference::orderOfTransitions ||
+                        difference.property == zvDifference::outcome;
     return isList ? printable(difference.before) + " -> " + printable(difference.after)
                   : value(difference.before) + " -> " + value(difference.after);
 }
@@ -78,8 +80,9 @@ std::string lineOf(const zvDifference& difference) {
         return signedLine(sign, 4, part + (isBoth ? ": " : "") + printable(description));
     }
     const std::string head = part + (part.empty() ? "" : ": ");
-    return property == "ways to" ? signedLine(sign, 4, part + ": leads" + waysOf(difference))
-                                 : signedLine(sign, 4, head + property + ": " + valuesOf(difference));
+    return difference.property == zvDifference::waysTo
+               ? signedLine(sign, 4, part + ": leads" + waysOf(difference))
+               : signedLine(sign, 4, head + property + ": " + valuesOf(difference));
 }
 
 }  // namespace

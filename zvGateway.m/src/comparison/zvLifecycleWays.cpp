@@ -71,7 +71,7 @@ std::vector<zvDifference> zvLifecycleWays::changes(const zvComparedPart& before,
         const Names is = now.reachedFrom(nameOf(state));
         zvDifference ways;
         ways.part = state.title();
-        ways.property = "ways to";
+        ways.property = zvDifference::waysTo;
         ways.before = missing(was, is, now);
         ways.after = missing(is, was, old);
         ways.placeAfter = state.position;

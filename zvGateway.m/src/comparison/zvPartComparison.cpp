@@ -150,7 +150,7 @@ private:
             }
         }
         if (isMoved) {
-            addProperty(before, after, path, "order of transitions", was, is);
+            addProperty(before, after, path, zvDifference::orderOfTransitions, was, is);
         }
     }
 

@@ -2,7 +2,7 @@
 #define ZV_MAPPING_STEP_H
 
 #include "zvGatewayEvent.h"
-#include "zvObjectMapping.h"
+#include "zvMappingTrial.h"
 
 /// The step that maps the event's object into the event's data file, and shows the way between two of its
 /// lifecycle states.
@@ -20,17 +20,15 @@ public:
     zvStepOutcome run() const;
 
 private:
-    bool isLocal() const { return !m_strLocalType.empty(); }
-    const zvCfgObjectList& candidates() const;
-    zvObjectMapping mapObject() const;
+    zvMappingTrial mapObject() const;
     std::string describeObject(const zvObjectMapping& mapping, const zvCfgObject& object) const;
-    void checkValues(const zvObjectMapping& mapping) const;
+    void show(const zvMappingTrial& trial) const;
+    void refuse(const zvMappingTrial& trial) const;
     zvObjectMapping::Values attributeValues() const;
     void showTransition(const zvCfgObject& object) const;
 
     const zvGatewayEvent& m_event;
-    zvString m_strLocalType;
-    zvString m_strRemoteType;
+    zvIncomingObject m_object;
 };
 
 #endif

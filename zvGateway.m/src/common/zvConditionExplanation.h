@@ -15,11 +15,6 @@ public:
     /// Throws the zvException of a comparison that cannot be made.
     zvConditionExplanation(const zvCndCondition& condition, const zvCndContext& context);
 
-    bool outcome() const;
-    /// One line for each part, children below their parents in the order of evaluation.
-    std::vector<std::string> lines() const;
-
-private:
     struct Node {
         zvCndCondition condition;
         std::size_t depth;
@@ -27,11 +22,17 @@ private:
         std::optional<bool> outcome;
     };
 
+    bool outcome() const;
+    /// Every part, parents before their children in the order of evaluation.
+    const std::vector<Node>& nodes() const { return m_nodes; }
+    /// One line for each part, children below their parents in the order of evaluation.
+    std::vector<std::string> lines() const;
+
+private:
     void evaluate(const zvCndCondition& condition);
     std::string describe(const Node& node) const;
 
     const zvCndContext& m_context;
-    // Parents before their children.
     std::vector<Node> m_nodes;
 };
 

@@ -38,6 +38,8 @@ public:
     const std::vector<const zvCfgObject*>& passedOver() const { return m_passedOver; }
     /// The value that the object has under this name; null if it has none.
     const zvString* findValue(const zvString& name) const;
+    /// What a mapping rule of this object compares.
+    zvCndContext contextFor(const zvCfgObject& object) const;
 
     /// The attribute's name in the system that the object comes from, and in the other one; empty if it has
     /// none there.
@@ -52,7 +54,6 @@ public:
 
 private:
     bool applies(const zvCfgObject& object) const;
-    zvCndContext contextFor(const zvCfgObject& object) const;
     void carry(const zvCfgObject& object);
 
     Direction m_direction;

@@ -1,0 +1,95 @@
+#include "zvCaseFile.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "zvCaseReader.h"
+#include "zvCharString.h"
+#include "zvConsole.h"
+#include "zvFailure.h"
+#include "zvNativePath.h"
+#include "zvProcess.h"
+#include "zvYamlReader.h"
+
+namespace {
+
+constexpr int standardInput = 0;
+constexpr std::size_t longest = 256'000'000;
+
+std::string contentOf(const std::string& name) {
+    std::error_code error;
+    std::string content;
+    const std::filesystem::path file = toNativePath(name.c_str());
+    if (name != "-" && std::filesystem::exists(file, error) &&
+        !std::filesystem::is_regular_file(file, error)) {
+        throw zvProgramFailure{zvExitCode::usage, "cases", zvConsole::printable(name.c_str()),
+                               "it is no regular file"};
+    }
+    const int descriptor = name == "-" ? standardInput : zvProcess::openForReading(file, error);
+    if (descriptor >= 0) {
+        error = zvProcess::readToEnd(descriptor, longest, content);
+    }
+    if (error) {
+        throw zvProgramFailure{zvExitCode::usage, "cases", zvConsole::printable(name.c_str()),
+                               error.message()};
+    }
+    return content;
+}
+
+// A relative name is meant from the folder of the file that has it.
+std::string besideOf(const std::string& name, const zvString& configuration) {
+    const std::filesystem::path path = toNativePath(configuration);
+    return configuration.empty() ? "" : (toNativePath(name.c_str()).parent_path() / path).string();
+}
+
+void readDocument(const zvYamlNode& document, zvCaseFile& file) {
+    if (document.kind != zvYamlNode::Kind::map) {
+        file.faults.add(document.position, "the file has to begin with \"configuration:\" or \"cases:\"");
+        return;
+    }
+    const zvCaseKeys keys(document, {"configuration", "cases"}, file.faults);
+    file.configuration = besideOf(file.name, keys.text("configuration"));
+    if (!keys.has("cases")) {
+        keys.fault("cases", "is missing");
+    }
+    if (const zvYamlNode* const cases = keys.list("cases")) {
+        file.cases.reserve(cases->items.size());
+        for (const zvYamlNode& item : cases->items) {
+            file.cases.push_back(zvCaseReader::read(item, file.faults));
+        }
+    }
+}
+
+}  // namespace
+
+zvCaseFile zvCaseFile::read(const std::string& name) {
+    zvCaseFile file;
+    file.name = name;
+    try {
+        readDocument(zvYamlReader::read(contentOf(name)), file);
+    } catch (const zvCaseFault& fault) {
+        file.faults.add(fault.position, fault.text);
+    }
+    return file;
+}
+
+// Nothing is run then.
+void zvCaseFile::requireFaultless() const {
+    if (faults.areNone()) {
+        return;
+    }
+    const std::string shown = name == "-" ? "standard input" : zvConsole::printable(name.c_str());
+    std::string text;
+    for (const zvCaseFault& fault : faults.first()) {
+        const std::string column =
+            fault.position.column > 0 ? std::to_string(fault.position.column) + ":" : "";
+        text +=
+            shown + ":" + std::to_string(fault.position.line) + ":" + column + " error: " + fault.text + "\n";
+    }
+    zvConsole::note(text.substr(0, text.size() - 1));
+    throw zvProgramFailure{zvExitCode::usage, "cases", shown,
+                           zvConsole::counted(static_cast<std::ptrdiff_t>(faults.count()), "fault") +
+                               ", no case was run; first in line " +
+                               std::to_string(faults.first().front().position.line) + ": " +
+                               faults.first().front().text};
+}
