@@ -16,6 +16,7 @@
 #include "zvBenchmarkSubjects.h"
 #include "zvCfgConfigManager.h"
 #include "zvCfgMgrXmlParser.h"
+#include "zvConfigurationComparison.h"
 #include "zvMappedTypes.h"
 
 namespace {
@@ -23,7 +24,8 @@ namespace {
 constexpr int objectCount = 5000;
 constexpr int attributesOfAnObject = 20;
 
-void writeConfiguration(const std::string& path) {
+// `other` makes one of a different rule and data type in every object.
+void writeConfiguration(const std::string& path, bool other) {
     static constexpr const char* types[] = {"String", "Integer", "Float", "Boolean"};
     std::ofstream out(path);
     out << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<CustomizationConfig>\n  <ObjectConfig>\n";
@@ -39,10 +41,11 @@ void writeConfiguration(const std::string& path) {
             if (k % 4 == 0) {
                 out << " DefaultValue=\"" << k << "\"";
             }
-            out << " DataType=\"" << types[k % 4] << "\"/>\n";
+            const int type = other && k == 7 ? k + 1 : k;
+            out << " DataType=\"" << types[type % 4] << "\"/>\n";
         }
-        out << "      <MappingRule>{state} = 'RELEASED' AND ({rev} &gt; '2' OR {number} = '" << i
-            << "')</MappingRule>\n    </Object>\n";
+        out << "      <MappingRule>{state} = 'RELEASED' AND ({rev} &gt;" << (other ? "=" : "")
+            << " '2' OR {number} = '" << i << "')</MappingRule>\n    </Object>\n";
     }
     out << "  </ObjectConfig>\n</CustomizationConfig>\n";
 }
@@ -52,6 +55,12 @@ int loadOurs(const zvString& path) {
     const int count = zvCfgConfigManager::getCfgConfigManager()->numObjects();
     zvCfgConfigManager::destroyCfgConfigManager();
     return count;
+}
+
+std::size_t compareOurs(const std::string& before, const std::string& after) {
+    const zvComparedConfiguration old(before);
+    const zvComparedConfiguration now(after);
+    return zvConfigurationComparison(old, now).count();
 }
 
 xercesc::DOMDocument* parseXerces(xercesc::XercesDOMParser& parser, const std::string& path) {
@@ -168,7 +177,9 @@ int runCases(const std::string& path) {
 void zvConfigurationBenchmark() {
     xercesc::XMLPlatformUtils::Initialize();
     const std::string path = zvBenchmarkFiles::path("configuration.xml");
-    writeConfiguration(path);
+    writeConfiguration(path, false);
+    const std::string changed = zvBenchmarkFiles::path("changed-configuration.xml");
+    writeConfiguration(changed, true);
     for (const std::size_t count : {std::size_t(loadOurs(path.c_str())), loadXerces(path), loadPoco(path)}) {
         zvBenchmarkRequire(count == objectCount, "Somebody did not load every object");
     }
@@ -192,4 +203,8 @@ void zvConfigurationBenchmark() {
             }
             return count;
         });
+    zvBenchmarkRequire(compareOurs(path, changed) == 2 * objectCount, "Not every difference was found");
+    zvBenchmarkRow("compare two configurations of 5,000 objects x 20 attributes, two changes in each object")
+        .ours([path, changed] { return compareOurs(path, changed); })
+        .peer("loading one of them", "3.0", [path = zvString(path.c_str())] { return loadOurs(path); });
 }

@@ -36,6 +36,14 @@ public:
     /// The index of the state with this local name, or else with this remote name; -1 if there is none.
     int getStateIndex(const zvString& name) const;
 
+    /// Calls `visit(remoteName, state)` for each name that getStateByRemoteName() knows, ordered by name.
+    template <typename Visit>
+    void forEachRemoteName(Visit visit) const {
+        for (const auto& [name, place] : m_byRemoteName) {
+            visit(name, static_cast<const zvCfgLcmState&>(*m_states.at(place)));
+        }
+    }
+
     /// Replaces the content of `paths` with the simple paths between two states, shortest first and otherwise
     /// in the order of the transitions. States are given by local or remote name.
     ///

@@ -17,9 +17,9 @@ Warnings
   a name that is another attribute's already; an extension without a transfer mode
   an object that is not reached from its local, or its remote, type alone; an object without types
   an extension that is neither imported nor exported, or differs from another one in case only
-  "Import" or "Export" that is neither "True" nor "False"; a file object without extensions
+  "Import" or "Export" that is neither "True" nor "False", an "Index" that is no number; a file object without extensions
   a lifecycle that is empty, or has a state to which no way leads from the first one
-  a view collection without a view; an element that is not known where it stands
+  a view collection without a view; an element or an attribute that is not known where it stands
 Exit code 6 for errors, and with --strict for warnings.
 
 Without a file, or with --home, it is the gateway home that is looked at, which GATEWAY_HOME names: the files of its

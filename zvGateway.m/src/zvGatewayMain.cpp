@@ -9,6 +9,7 @@
 #include "zvCharString.h"
 #include "zvCheckCommand.h"
 #include "zvCommonUtils.h"
+#include "zvComparisonCommand.h"
 #include "zvConsole.h"
 #include "zvEvaluateCommand.h"
 #include "zvEventRoad.h"
@@ -67,6 +68,7 @@ Exit codes
   9  the post to the local server
   10 some events of batch or resume
   11 some cases of test
+  12 two configurations that "diff" compares differ
 
 The last line on standard error, and in the log, is what became of the event.)";
 
@@ -170,6 +172,8 @@ int runProgram(int argc, char** argv) {
     checking.declare(program);
     zvShowCommand showing;
     declareShow(program, showing);
+    zvComparisonCommand comparison;
+    comparison.declare(program);
     zvOperationCommands operation;
     operation.declare(program);
     zvAuthoringCommands authoring;
@@ -200,6 +204,7 @@ int runProgram(int argc, char** argv) {
     return finish(eval.parsed()                               ? evaluation.run()
                   : zvAuthoringCommands::wasAskedFor(program) ? authoring.run(program)
                   : program.got_subcommand("check")           ? checking.run()
+                  : program.got_subcommand("diff")            ? comparison.run()
                                                               : showing.run());
 }
 

@@ -70,3 +70,24 @@ zvCaseFile zvCaseFile::read(const std::string& name) {
     }
     return file;
 }
+
+// Nothing is run then.
+void zvCaseFile::requireFaultless() const {
+    if (faults.areNone()) {
+        return;
+    }
+    const std::string shown = name == "-" ? "standard input" : zvConsole::printable(name.c_str());
+    std::string text;
+    for (const zvCaseFault& fault : faults.first()) {
+        const std::string column =
+            fault.position.column > 0 ? std::to_string(fault.position.column) + ":" : "";
+        text +=
+            shown + ":" + std::to_string(fault.position.line) + ":" + column + " error: " + fault.text + "\n";
+    }
+    zvConsole::note(text.substr(0, text.size() - 1));
+    throw zvProgramFailure{zvExitCode::usage, "cases", shown,
+                           zvConsole::counted(static_cast<std::ptrdiff_t>(faults.count()), "fault") +
+                               ", no case was run; first in line " +
+                               std::to_string(faults.first().front().position.line) + ": " +
+                               faults.first().front().text};
+}

@@ -19,6 +19,8 @@ struct zvCaseFile {
     /// Reads the file; what is wrong with its content becomes faults. Throws the zvProgramFailure of a file
     /// that cannot be opened.
     static zvCaseFile read(const std::string& name);
+    /// Throws the zvProgramFailure of a file with faults, once each of them is told with its place.
+    void requireFaultless() const;
 };
 
 #endif

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "zvConfigurationXsd.h"
 #include "zvConsole.h"
 #include "zvNativePath.h"
 #include "zvNewCasesYaml.h"
@@ -25,6 +26,7 @@ struct NewFile {
 constexpr NewFile files[] = {
     {"config/client-config.ini", zvNewClientConfigIni, "where events are posted"},
     {"config/customization-config.xml", zvNewConfigurationXml, "the mapping between the two systems"},
+    {"config/zvgateway-configuration.xsd", zvConfigurationXsd, "what editors know of it"},
     {"config/customization-cases.yaml", zvNewCasesYaml, "what has to become of objects"},
     {"config/log4cxx.xml", zvNewLogXml, "what is logged, and where"},
     {"config/optional/fileserver.properties", zvNewFileServerProperties,

@@ -6,28 +6,6 @@
 #include "zvConfigurationReading.h"
 #include "zvConsole.h"
 
-namespace {
-
-// A file whose content is refused: each fault with its place, and that nothing was run.
-[[noreturn]] void refuse(const zvCaseFile& file) {
-    const std::string name = file.name == "-" ? "standard input" : zvConsole::printable(file.name.c_str());
-    std::string text;
-    for (const zvCaseFault& fault : file.faults.first()) {
-        const std::string column =
-            fault.position.column > 0 ? std::to_string(fault.position.column) + ":" : "";
-        text +=
-            name + ":" + std::to_string(fault.position.line) + ":" + column + " error: " + fault.text + "\n";
-    }
-    zvConsole::note(text.substr(0, text.size() - 1));
-    throw zvProgramFailure{zvExitCode::usage, "cases", name,
-                           zvConsole::counted(static_cast<std::ptrdiff_t>(file.faults.count()), "fault") +
-                               ", no case was run; first in line " +
-                               std::to_string(file.faults.first().front().position.line) + ": " +
-                               file.faults.first().front().text};
-}
-
-}  // namespace
-
 zvExitCode zvTestCommand::run() const {
     const std::vector<zvCaseFile> read = readFiles();
     zvTestReport report(asJson, showsGaps);
@@ -54,9 +32,7 @@ std::vector<zvCaseFile> zvTestCommand::readFiles() const {
     for (const std::string& name : files) {
         read.push_back(zvCaseFile::read(name));
         zvCaseFile& file = read.back();
-        if (!file.faults.areNone()) {
-            refuse(file);
-        }
+        file.requireFaultless();
         if (!configuration.empty()) {
             file.configuration = configuration;
         }

@@ -17,11 +17,18 @@ zvConfigurationReading::zvConfigurationReading(const std::string& file, InvalidR
 }
 
 void zvConfigurationReading::requireComplete() const {
-    if (!m_bComplete) {
-        const std::string broken = m_findings.brokenDocument();
-        const std::string error = broken.empty() ? m_findings.lastError() : broken;
-        throw zvProgramFailure{zvExitCode::configuration, "configuration",
-                               zvConsole::printable(m_file.c_str()),
-                               error.empty() ? "it is not read to its end" : error};
+    if (m_bComplete) {
+        return;
     }
+    std::string place = zvConsole::printable(m_file.c_str());
+    std::string reason = "it is not read to its end";
+    if (const zvFinding* const finding = m_findings.decisive()) {
+        if (finding->position.line > 0) {
+            place +=
+                ':' + std::to_string(finding->position.line) + ':' + std::to_string(finding->position.column);
+        }
+        reason = zvConsole::printable(finding->object.empty() ? finding->text
+                                                              : finding->object + ": " + finding->text);
+    }
+    throw zvProgramFailure{zvExitCode::configuration, "configuration", place, reason};
 }

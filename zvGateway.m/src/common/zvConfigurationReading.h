@@ -16,11 +16,11 @@ public:
 
     /// Whether the file was read to its end.
     bool isComplete() const { return m_bComplete; }
+    /// Throws the zvProgramFailure of one that was not, with the place in it.
+    void requireComplete() const;
     /// The remote system's name; empty when the file has none.
     const zvString& pdmSystemName() const { return m_strPdmSystemName; }
     const zvFindingList& findings() const { return m_findings; }
-    /// Throws the zvProgramFailure of a file that was not read to its end.
-    void requireComplete() const;
 
 private:
     std::string m_file;

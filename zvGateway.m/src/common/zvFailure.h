@@ -18,7 +18,9 @@ enum class zvExitCode {
     /// Not all events of a command that takes several arrived.
     events = 10,
     /// Cases of `test` failed.
-    cases = 11
+    cases = 11,
+    /// Two configurations differ.
+    differences = 12
 };
 
 /// Thrown by a step of the road that could not do its job. The texts are printable.

@@ -16,20 +16,24 @@ std::string textOf(const zvFinding& finding) {
     return place + object + (object.empty() ? "" : ": ") + zvConsole::printable(finding.text);
 }
 
+bool isError(const zvFinding& finding) { return finding.severity == zvFinding::Severity::error; }
+bool isBreak(const zvFinding& finding) { return finding.kind == zvFindingKind::notWellFormed; }
+
 template <class Predicate>
-std::string lastOf(const std::vector<zvFinding>& findings, Predicate predicate) {
+const zvFinding* lastOf(const std::vector<zvFinding>& findings, Predicate predicate) {
     const auto found = std::find_if(findings.rbegin(), findings.rend(), predicate);
-    return found == findings.rend() ? "" : textOf(*found);
+    return found == findings.rend() ? nullptr : &*found;
 }
+
+std::string textOf(const zvFinding* finding) { return finding == nullptr ? "" : textOf(*finding); }
 
 }  // namespace
 
-std::string zvFindingList::lastError() const {
-    return lastOf(m_findings,
-                  [](const zvFinding& finding) { return finding.severity == zvFinding::Severity::error; });
-}
+std::string zvFindingList::lastError() const { return textOf(lastOf(m_findings, isError)); }
 
-std::string zvFindingList::brokenDocument() const {
-    return lastOf(m_findings,
-                  [](const zvFinding& finding) { return finding.kind == zvFindingKind::notWellFormed; });
+std::string zvFindingList::brokenDocument() const { return textOf(lastOf(m_findings, isBreak)); }
+
+const zvFinding* zvFindingList::decisive() const {
+    const zvFinding* const broken = lastOf(m_findings, isBreak);
+    return broken != nullptr ? broken : lastOf(m_findings, isError);
 }

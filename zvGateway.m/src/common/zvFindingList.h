@@ -18,6 +18,10 @@ public:
     /// event must not lose the rest of its files or of its configuration that way. Empty for a whole one.
     std::string brokenDocument() const;
 
+    /// The finding that keeps a document from being read to its end: where it is broken, or else the last
+    /// error. Null without one.
+    const zvFinding* decisive() const;
+
 private:
     std::vector<zvFinding> m_findings;
 };

@@ -66,6 +66,8 @@ std::string styleElement(const char* style) { return std::string("<style>\n") + 
 
 namespace zvPage {
 
+const char* const script = zvPageJs;
+
 std::string escaped(const zvString& text) {
     std::string result;
     for (const char character : zvUtf8::encode(text)) {
@@ -99,11 +101,11 @@ std::string begin(const Frame& frame) {
            "<output id=\"found\" for=\"search\"></output>\n</div></div>\n<main>\n";
 }
 
-std::string end() {
+std::string end(const char* pageScript) {
     return std::string(
                "<p id=\"nothing\" class=\"nothing\" role=\"status\" hidden><strong>Nothing found</strong>") +
            "Nothing here has all words of &ldquo;<b></b>&rdquo;. <kbd>Esc</kbd> clears the search.</p>\n" +
-           "</main>\n<script>\n" + zvPageJs + "</script>\n</body>\n</html>\n";
+           "</main>\n<script>\n" + pageScript + "</script>\n</body>\n</html>\n";
 }
 
 std::string openSection(const Section& section, int count) {

@@ -33,6 +33,9 @@ struct Frame {
     const char* styleHash = "";
 };
 
+/// The script of every page. A page's own is embedded after it.
+extern const char* const script;
+
 /// The text as content of an element, and as a quoted attribute.
 std::string escaped(const zvString& text);
 /// "local -> remote" with an arrow.
@@ -41,7 +44,8 @@ std::string arrow(const zvString& local, const zvString& remote);
 std::string badge(const char* word);
 
 std::string begin(const Frame& frame);
-std::string end();
+/// The script is that of begin()'s page: the common one, or with the page's own after it.
+std::string end(const char* pageScript = script);
 
 std::string openSection(const Section& section, int count);
 std::string closeSection();

@@ -14,6 +14,7 @@ constexpr std::string_view unknownDataType = "unknown-data-type";
 constexpr std::string_view unusedExtension = "unused-extension";
 constexpr std::string_view caseVariant = "case-variant";
 constexpr std::string_view unreachableState = "unreachable-state";
+constexpr std::string_view unknownAttribute = "unknown-attribute";
 constexpr std::string_view unknownElement = "unknown-element";
 constexpr std::string_view unknownWord = "unknown-word";
 

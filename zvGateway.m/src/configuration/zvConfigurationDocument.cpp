@@ -1,8 +1,11 @@
 #include "zvConfigurationDocument.h"
 
+#include <algorithm>
+
 #include "zvCfgDescription.h"
 #include "zvCfgFile.h"
 #include "zvCheckKind.h"
+#include "zvNearestName.h"
 
 namespace {
 
@@ -43,6 +46,47 @@ bool isRead(const zvString& parent, const zvString& tag) {
     return false;
 }
 
+using Names = std::vector<zvString>;
+
+struct Element {
+    const char* tag;
+    Names attributes;
+};
+
+// The attributes that are read. All those of an Attribute are kept.
+const Element elements[] = {
+    {"CustomizationConfig", {"PdmSystemName"}},
+    {"Object", {"OOTBType", "LocalCustType", "RemoteCustType"}},
+    {"FileObject", {"OOTBType", "LocalCustType", "RemoteCustType"}},
+    {"Extn", {"Name", "Import", "Export", "TransferMode"}},
+    {"Lifecycle", {"ObjectType"}},
+    {"LcmState", {"Name", "Index", "Key"}},
+    {"OutgoingTransition", {"Type", "ToState"}},
+    {"MapEntry", {"LocalName", "RemoteName"}},
+    {"ViewCollection", {"Name"}},
+    {"View", {"LocalName", "RemoteName", "Index"}},
+};
+
+const Names& attributesOf(const zvString& tag) {
+    static const Names none;
+    const auto* const found = std::find_if(std::begin(elements), std::end(elements),
+                                           [&tag](const Element& element) { return element.tag == tag; });
+    return found == std::end(elements) ? none : found->attributes;
+}
+
+// What says where the schema is, and the like.
+bool isForEditors(const zvString& attribute) { return attribute.find(":") >= 0 || "xmlns" == attribute; }
+
+bool isWholeNumber(const zvString& text) {
+    constexpr int mostDigits = 10;
+    const int begin = text[0] == u'+' || text[0] == u'-' ? 1 : 0;
+    const int digits = text.size() - begin;
+    const auto* const first = text.data() + begin;
+    return digits > 0 && digits <= mostDigits && std::all_of(first, first + digits, [](auto character) {
+               return character >= u'0' && character <= u'9';
+           });
+}
+
 struct Need {
     const char* tag;
     const char* child;
@@ -81,6 +125,7 @@ void zvConfigurationDocument::readElement(const zvString& tag, const zvString& o
     if ("Extn" == tag) {
         checkExtension(owner);
     }
+    checkAttributes(tag, owner);
     const Need* const need = needOf(tag);
     bool isMet = need == nullptr;
     zvString child;
@@ -128,6 +173,29 @@ void zvConfigurationDocument::checkExtension(const zvString& owner) {
         if (m_parser.getAttribute(direction, word) && "True" != word && "False" != word) {
             warn(zvCheckKind::unknownWord, owner, attributeValue("Name"),
                  zvString(direction) + " \"" + word + "\" counts as \"False\": only \"True\" allows");
+        }
+    }
+}
+
+void zvConfigurationDocument::checkAttributes(const zvString& tag, const zvString& owner) {
+    if ("Attribute" == tag) {
+        return;
+    }
+    const zvString index = attributeValue("Index");
+    if (!index.empty() && !isWholeNumber(index)) {
+        warn(zvCheckKind::unknownWord, owner, zvString(), "Index \"" + index + "\" is no whole number");
+    }
+    const Names& known = attributesOf(tag);
+    zvStringList names;
+    zvStringList values;
+    m_parser.getAttributes(names, values);
+    for (int i = 0; i < names.numStrings(); ++i) {
+        const zvString name = names.getString(i);
+        if (!isForEditors(name) && std::find(known.begin(), known.end(), name) == known.end()) {
+            const std::string suggestion = zvNearestName::suggestion(name, known);
+            warn(zvCheckKind::unknownAttribute, owner, zvString(),
+                 "the attribute \"" + name + "\" is unknown in \"" + tag + "\" and not read" +
+                     suggestion.c_str());
         }
     }
 }

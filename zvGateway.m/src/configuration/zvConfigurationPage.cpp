@@ -2,6 +2,9 @@
 
 #include "zvConfigurationNames.h"
 #include "zvConfigurationPageCss.h"
+#include "zvConfigurationPageJs.h"
+#include "zvRuleData.h"
+#include "zvUtf8Text.h"
 
 using zvPage::escaped;
 
@@ -30,12 +33,42 @@ std::string ruleOf(const zvCfgObject& object) {
     return result + "</dl>\n";
 }
 
+std::string tool(const char* id, const char* name) {
+    return std::string("<details data-tool=\"") + id + "\"><summary>" + name + "</summary></details>\n";
+}
+
+// What the page's script makes when it is opened.
+std::string toolsOf(const zvCfgObject& object) {
+    const zvCndCondition rule = object.getMappingRule();
+    if (rule.IsNull()) {
+        return "<div class=\"tools\">" + tool("directions", "Both directions") + "</div>\n";
+    }
+    return "<div class=\"tools\" data-rule=\"" + escaped(fromUtf8(zvRuleData::of(rule))) + "\">" +
+           tool("tree", "Tree of the rule") + tool("try", "Try the rule") +
+           tool("directions", "Both directions") + "</div>\n";
+}
+
+// Of a name that the other system alone has.
+std::string nameCell(const zvString& name, const zvString& other, const char* system) {
+    return name.empty() && !other.empty() ? zvPage::badge(system) : escaped(name);
+}
+
+int numOneSided(const zvCfgObject& object) {
+    int count = 0;
+    for (int i = 0; i < object.numAttributes(); ++i) {
+        const zvCfgAttribute& attribute = *object.getAttribute(i);
+        count += attribute.localName().empty() != attribute.remoteName().empty() ? 1 : 0;
+    }
+    return count;
+}
+
 std::string attributeRow(const zvCfgAttribute& attribute) {
     std::string more;
     attribute.optionalAttributes().forEach([&more](const zvString& name, const zvString& value) {
         more += (more.empty() ? "" : ", ") + escaped(name) + " = " + escaped(value);
     });
-    return zvPage::row({escaped(attribute.localName()), escaped(attribute.remoteName()),
+    return zvPage::row({nameCell(attribute.localName(), attribute.remoteName(), "remote only"),
+                        nameCell(attribute.remoteName(), attribute.localName(), "local only"),
                         escaped(attribute.keyName()), zvConfigurationNames::dataType(attribute.getDataType()),
                         escaped(attribute.getDefaultValue()), more});
 }
@@ -87,7 +120,7 @@ zvConfigurationPage::zvConfigurationPage(const zvCfgConfigManager& configuration
     addFiles(configuration);
     addViews(configuration);
     addLifecycles(configuration, picture);
-    m_html += zvPage::end();
+    m_html += zvPage::end(zvConfigurationPageJs);
 }
 
 void zvConfigurationPage::addObjects(const zvCfgConfigManager& configuration) {
@@ -108,9 +141,12 @@ void zvConfigurationPage::addObject(const zvCfgObject& object) {
     if (dynamic_cast<const zvCfgFile*>(&object) != nullptr) {
         more += ' ' + zvPage::badge("file");
     }
+    if (const int count = numOneSided(object); count > 0) {
+        more += " <span class=\"soft\">" + std::to_string(count) + " in one system only</span>";
+    }
     m_html += zvPage::openGroup(m_anchors.add("object", {local, remote}), zvPage::arrow(local, remote), more,
-                                object.numAttributes() + 1) +
-              ruleOf(object);
+                                object.numAttributes() + 2) +
+              ruleOf(object) + toolsOf(object);
     if (object.numAttributes() > 0) {
         m_html += zvPage::openTable("attributes", "Attributes of " + local + " to " + remote,
                                     {"Local name", "Remote name", "Key", "Type", "Default", "Further"});
