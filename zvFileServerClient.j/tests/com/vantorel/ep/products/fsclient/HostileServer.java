@@ -35,7 +35,7 @@ final class HostileServer implements AutoCloseable {
 
     /**
      * @param answers by the commands: <code>COMMAND=text</code>. "welcome" is the first one, "data" the content of
-     *     listings and files. {@code %PASS%} becomes the password. One that ends in "..." is repeated for ever, a
+     *     listings and files. {@code %PASS%} becomes the password, {@code %END%} the end of the connection. One that ends in "..." is repeated for ever, a
      *     byte every 20 ms; STOR=... takes a file so slowly
      */
     HostileServer(String... answers) throws IOException {
@@ -140,9 +140,12 @@ final class HostileServer implements AutoCloseable {
     }
 
     private void say(OutputStream out, String text) throws IOException {
-        String answer = text.replace("%PASS%", password);
+        String answer = text.replace("%PASS%", password).replace("%END%", "");
         if (!answer.trim().endsWith("...")) {
             out.write(answer.getBytes(encoding));
+            if (text.contains("%END%")) {
+                out.close();
+            }
             return;
         }
         byte[] bytes = answer.trim().replace("...", "\r\n").getBytes(encoding);

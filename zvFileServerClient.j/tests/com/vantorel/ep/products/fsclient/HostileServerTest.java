@@ -18,6 +18,7 @@ import java.nio.charset.StandardCharsets;
 import java.nio.file.Files;
 import java.nio.file.Path;
 import java.util.Arrays;
+import java.util.Random;
 import org.apache.commons.net.ftp.FTPFile;
 import org.apache.commons.net.ftp.FTPFileEntryParserImpl;
 import org.junit.Before;
@@ -207,6 +208,36 @@ public class HostileServerTest {
                     assertEquals(answer + Arrays.toString(p) + told, p[2] == null, told.toString().contains(secret));
                     assertFalse(told.toString(), told.toString().contains("Secret 7"));
                 }
+            }
+        }
+    }
+
+    /** The seed is the same each time. */
+    @Test(timeout = 100_000)
+    public void whateverItAnswersIsAFailureWithoutSecrets() throws IOException {
+        String[] commands = {"welcome", "USER", "PASS", "FEAT", "PWD", "CWD", "SYST", "TYPE", "PASV", "LIST", "SIZE", "MLST",
+                "MLSD", "RETR", "data"};
+        String[] pieces = {"2", "20", "220 ", "150", "227 ", "213", "257 ", "550", "530-", "331", "-", " ", "\"", "(", ",", "\r\n",
+                "\n", "\r", "%PASS%", "%PASS%", "a", "9999999999999999999", "|||", "type=file;size=", ";", "../", "/",
+                UNIX_LINE, "\u0000", "\u001b[31m", "\u00ff\u00f4", "\u00e9", "MLST", "REST STREAM", "UTF8"};
+        Random random = new Random(7);
+        for (int round = 0; round < 150; ++round) {
+            String command = commands[random.nextInt(commands.length)];
+            StringBuilder answer = new StringBuilder();
+            for (int i = random.nextInt(12); i >= 0; --i) {
+                answer.append(pieces[random.nextInt(pieces.length)]);
+            }
+            try (HostileServer server = new HostileServer(command + "=" + answer + "%END%")) {
+                server.encoding = StandardCharsets.ISO_8859_1;
+                FileServerClient client = server.client(home, "timeout=1");
+                client.exists("f");
+                client.list("");
+                client.get("f", local.resolve("f").toString());
+            } catch (FileServerException e) {
+                StringWriter told = new StringWriter();
+                e.printStackTrace(new PrintWriter(told, true));
+                assertFalse(round + ": " + told, told.toString().contains("Secret-7"));
+                assertFalse(round + ": " + told, e.getMessage().chars().anyMatch(Character::isISOControl));
             }
         }
     }
