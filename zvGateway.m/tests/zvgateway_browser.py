@@ -178,6 +178,27 @@ CONTRAST = """(() => {
 CLOCK = """window.answers = []; addEventListener('keydown', event => requestAnimationFrame(() =>
     setTimeout(() => answers.push(performance.now() - event.timeStamp))), true)"""
 
+# What of another one's script and style the page would run: an element of each, and an attribute.
+FOREIGN = """(() => {
+    const done = [];
+    window.foreign = what => done.push(what);
+    const add = (name, text) => {
+        const element = document.createElement(name);
+        element.textContent = text;
+        document.body.append(element);
+        return element;
+    };
+    const elements = [add('script', "foreign('script')"), add('style', 'body { outline: 3px solid red }')];
+    document.body.setAttribute('onclick', "foreign('attribute')");
+    document.body.click();
+    if (getComputedStyle(document.body).outlineWidth === '3px' && getComputedStyle(document.body).outlineStyle === 'solid') {
+        done.push('style');
+    }
+    elements.forEach(element => element.remove());
+    document.body.removeAttribute('onclick');
+    return done;
+})()"""
+
 checks = failures = 0
 
 

@@ -57,7 +57,7 @@ zvString zvFileServerConnection::prepareJava() {
     if (isPrepared) {
         return {};
     }
-    const zvString refusal = offerClient();
+    zvString refusal = offerClient();
     if (!refusal.empty()) {
         return refusal;
     }
