@@ -139,7 +139,7 @@ private:
 
     void explain() {
         for (const auto& [name, text] : zvMappingReport(m_trial).candidates()) {
-            m_result.evaluation.push_back(name.empty() ? "  " + text : name + " " + text);
+            m_result.evaluation.emplace_back(name.empty() ? " " : name).append(" ").append(text);
         }
     }
 

@@ -22,7 +22,7 @@ public:
     void note(const zvCfgFileExtension& extension) { m_extensions.insert(&extension); }
 
     struct Count {
-        const char* what;
+        const char* what = "";
         std::size_t reached = 0;
         std::size_t total = 0;
     };

@@ -11,7 +11,7 @@ namespace {
 
 // A text that an XML file can hold.
 zvString toXml(const std::string& printable) {
-    const zvString text(printable.c_str());
+    zvString text(printable.c_str());
     if (zvXMLParser::isXMLText(text)) {
         return text;
     }
