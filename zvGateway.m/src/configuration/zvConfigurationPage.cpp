@@ -21,16 +21,10 @@ constexpr char legend[] = R"(<figcaption>
 )";
 
 std::string ruleOf(const zvCfgObject& object) {
-    const zvConfigurationNames::Rule rule = zvConfigurationNames::rule(object);
-    if (rule.written.empty()) {
-        return "";
-    }
-    std::string result =
-        "<dl class=\"rule\" data-row><dt>when\n</dt><dd><code>" + escaped(rule.written) + "</code></dd>";
-    if (!rule.read.empty()) {
-        result += "\n<dt>read as\n</dt><dd class=\"read\"><code>" + escaped(rule.read) + "</code></dd>";
-    }
-    return result + "</dl>\n";
+    const zvString written = zvConfigurationNames::rule(object).written;
+    return written.empty() ? ""
+                           : "<dl class=\"rule\" data-row><dt>when\n</dt><dd><code>" + escaped(written) +
+                                 "</code></dd></dl>\n";
 }
 
 std::string tool(const char* id, const char* name) {

@@ -199,10 +199,10 @@ function treeOf(rule, tell) {
     for (const attribute of attributes) {
       const source = attribute[sides[from]];
       const target = attribute[sides[to]];
-      const initial = attribute.initial && ' = ' + quoted(attribute.initial);
+      const initial = attribute.initial && quoted(attribute.initial);
       const line = !target ? source + ' is not sent'
-          : source ? source + ' \u2192 ' + target + (initial && ', else' + initial)
-          : target + (initial ? initial + ' always' : ' has no source');
+          : source ? source + ' \u2192 ' + target + (initial && ', else ' + initial)
+          : target + (initial ? ' = ' + initial + ' always' : ' has no source');
       if (source || target) list.append(element('li', line, target && (source || initial) ? {} : {class: 'no'}));
     }
     return part;
