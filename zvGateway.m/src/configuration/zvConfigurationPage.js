@@ -215,10 +215,6 @@ function treeOf(rule, tell) {
     tool.append(both);
   }
 
-  function showTree(tool, article) {
-    tool.append(element('pre', treeOf(ruleOf(article), () => '')));
-  }
-
   // The rule's attributes by name, in the order of the rule, with the types that the object gives them.
   function variablesOf(rule, attributes) {
     const names = rule.flatMap(part => part.slice(1)).filter(operand => typeof operand === 'string' && operand[0] === '{');
@@ -265,9 +261,11 @@ function treeOf(rule, tell) {
     answerNow();
   }
 
-  const tools = {tree: showTree, directions: showDirections, try: showForm};
   document.addEventListener('toggle', ({target}) => {
-    const isNew = target.open && target.dataset.tool && target.children.length === 1;
-    if (isNew) tools[target.dataset.tool](target, target.closest('[data-group]'));
+    if (target.open && target.matches('.tools') && target.children.length === 1) {
+      const article = target.closest('[data-group]');
+      if (target.dataset.rule) showForm(target, article);
+      showDirections(target, article);
+    }
   }, true);
 }
