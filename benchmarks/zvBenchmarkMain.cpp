@@ -21,6 +21,7 @@ constexpr Subject subjects[] = {
     {"collections", zvCollectionsBenchmark},
     {"condition", zvConditionBenchmark},
     {"configuration", zvConfigurationBenchmark},
+    {"mapping", zvMappingBenchmark},
     {"xml", zvXMLBenchmark},
     {"silent-log", zvSilentLogBenchmark},
     {"log", zvLogBenchmark},

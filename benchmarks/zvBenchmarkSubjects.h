@@ -6,6 +6,7 @@ void zvTextBenchmark();
 void zvCollectionsBenchmark();
 void zvConditionBenchmark();
 void zvConfigurationBenchmark();
+void zvMappingBenchmark();
 void zvXMLBenchmark();
 void zvSilentLogBenchmark();
 void zvLogBenchmark();

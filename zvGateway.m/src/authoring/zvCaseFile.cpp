@@ -52,12 +52,7 @@ void readDocument(const zvYamlNode& document, zvCaseFile& file) {
     if (!keys.has("cases")) {
         keys.fault("cases", "is missing");
     }
-    if (const zvYamlNode* const cases = keys.list("cases")) {
-        file.cases.reserve(cases->items.size());
-        for (const zvYamlNode& item : cases->items) {
-            file.cases.push_back(zvCaseReader::read(item, file.faults));
-        }
-    }
+    static_cast<void>(keys.list("cases"));
 }
 
 }  // namespace
@@ -66,7 +61,10 @@ zvCaseFile zvCaseFile::read(const std::string& name) {
     zvCaseFile file;
     file.name = name;
     try {
-        readDocument(zvYamlReader::read(contentOf(name)), file);
+        const auto readCase = [&file](const zvYamlNode& node) {
+            file.cases.push_back(zvCaseReader::read(node, file.faults));
+        };
+        readDocument(zvYamlReader::read(contentOf(name), "cases", readCase), file);
     } catch (const zvCaseFault& fault) {
         file.faults.add(fault.position, fault.text);
     }

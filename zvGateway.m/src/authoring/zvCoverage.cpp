@@ -36,8 +36,7 @@ void zvCoverage::noteRule(const zvCfgObject& object, const zvObjectMapping& mapp
         return;
     }
     try {
-        const zvCndContext context = mapping.contextFor(object);
-        const zvConditionExplanation explanation(rule, context);
+        const zvConditionExplanation explanation(rule, mapping.contextFor(object));
         Trace& trace = traceOf(object);
         trace.outcomes.resize(explanation.nodes().size());
         for (std::size_t i = 0; i < explanation.nodes().size(); ++i) {

@@ -3,8 +3,8 @@
 #include <yaml.h>
 
 #include <algorithm>
+#include <iterator>
 #include <new>
-#include <set>
 #include <utility>
 
 #include "zvConsole.h"
@@ -67,7 +67,9 @@ private:
 
 class Reader {
 public:
-    explicit Reader(const std::string& document) : m_events(document) {}
+    Reader(const std::string& document, const zvString& key,
+           const std::function<void(const zvYamlNode&)>& visit)
+        : m_events(document), m_key(key), m_visit(visit) {}
 
     zvYamlNode read() {
         m_events.next();  // the beginning of the stream
@@ -134,27 +136,58 @@ private:
 
     void readItems(zvYamlNode& node, yaml_event_type_t end, int depth) {
         for (const yaml_event_t* event = &m_events.next(); event->type != end; event = &m_events.next()) {
-            node.items.push_back(nodeOf(*event, depth + 1));
+            const bool isValue = node.items.size() % 2 != 0;
+            if (depth == 1 && isValue && event->type == YAML_SEQUENCE_START_EVENT &&
+                node.items.back().text == m_key) {
+                node.items.push_back(visitItems(*event, depth + 1));
+            } else {
+                node.items.push_back(nodeOf(*event, depth + 1));
+            }
         }
     }
 
+    zvYamlNode visitItems(const yaml_event_t& begin, int depth) {
+        zvYamlNode list;
+        list.kind = zvYamlNode::Kind::list;
+        list.position = positionOf(begin.start_mark);
+        requirePlain(list, begin.data.sequence_start.anchor, begin.data.sequence_start.tag);
+        for (const yaml_event_t* event = &m_events.next(); event->type != YAML_SEQUENCE_END_EVENT;
+             event = &m_events.next()) {
+            m_visit(nodeOf(*event, depth + 1));
+        }
+        return list;
+    }
+
     static void requireKeys(const zvYamlNode& map) {
-        std::set<zvString> keys;
+        std::vector<const zvYamlNode*> keys;
+        keys.reserve(map.items.size() / 2);
         for (std::size_t i = 0; i < map.items.size(); i += 2) {
-            const zvYamlNode& key = map.items[i];
-            if (key.kind != zvYamlNode::Kind::text) {
-                throw zvCaseFault{key.position, "a key has to be a text"};
+            keys.push_back(&map.items[i]);
+            if (keys.back()->kind != zvYamlNode::Kind::text) {
+                throw zvCaseFault{keys.back()->position, "a key has to be a text"};
             }
-            if (!keys.insert(key.text).second) {
-                throw zvCaseFault{key.position,
-                                  "the key \"" + zvConsole::printable(key.text) + "\" stands here already"};
-            }
+        }
+        std::stable_sort(keys.begin(), keys.end(), [](const zvYamlNode* left, const zvYamlNode* right) {
+            return left->text < right->text;
+        });
+        const auto twice = std::adjacent_find(
+            keys.begin(), keys.end(),
+            [](const zvYamlNode* left, const zvYamlNode* right) { return left->text == right->text; });
+        if (twice != keys.end()) {
+            const zvYamlNode& second = **std::next(twice);
+            throw zvCaseFault{second.position,
+                              "the key \"" + zvConsole::printable(second.text) + "\" stands here already"};
         }
     }
 
     Events m_events;
+    const zvString& m_key;
+    const std::function<void(const zvYamlNode&)>& m_visit;
 };
 
 }  // namespace
 
-zvYamlNode zvYamlReader::read(const std::string& document) { return Reader(document).read(); }
+zvYamlNode zvYamlReader::read(const std::string& document, const zvString& key,
+                              const std::function<void(const zvYamlNode&)>& visit) {
+    return Reader(document, key, visit).read();
+}

@@ -31,8 +31,7 @@ void addCandidate(zvMappingReport::Facts& facts, const zvCfgObject& object, cons
         return;
     }
     try {
-        const zvCndContext context = mapping.contextFor(object);
-        const zvConditionExplanation explanation(rule, context);
+        const zvConditionExplanation explanation(rule, mapping.contextFor(object));
         facts.emplace_back("candidate", heading + (explanation.outcome() ? "taken, its mapping rule holds"
                                                                          : "its mapping rule does not hold"));
         for (const std::string& part : explanation.lines()) {

@@ -1,9 +1,35 @@
 #include "zvObjectMapping.h"
 
+#include <algorithm>
+#include <functional>
 #include <utility>
 
 #include "zvCfgAttribute.h"
 #include "zvTypedValue.h"
+
+namespace {
+
+// Whether the rules of both objects see the same attributes: objects of one type mostly do.
+bool areComparedAlike(const zvCfgObject& one, const zvCfgObject& other) {
+    const int count = one.numAttributes();
+    if (&one == &other) {
+        return true;
+    }
+    if (count != other.numAttributes()) {
+        return false;
+    }
+    for (int i = 0; i < count; ++i) {
+        const zvCfgAttribute& left = *one.getAttribute(i);
+        const zvCfgAttribute& right = *other.getAttribute(i);
+        if (left.getDataType() != right.getDataType() || left.localName() != right.localName() ||
+            left.remoteName() != right.remoteName()) {
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace
 
 zvObjectMapping::zvObjectMapping(Direction direction, Values values)
     : m_direction(direction), m_values(std::move(values)) {}
@@ -28,9 +54,17 @@ bool zvObjectMapping::applies(const zvCfgObject& object) const {
     return rule.IsNull() || rule->evaluate(contextFor(object));
 }
 
+const zvCndContext& zvObjectMapping::contextFor(const zvCfgObject& object) const {
+    if (m_pCompared == nullptr || !areComparedAlike(*m_pCompared, object)) {
+        m_context = zvCndContext();
+        fill(m_context, object);
+    }
+    m_pCompared = &object;
+    return m_context;
+}
+
 // A rule may name an attribute as either system does: it is written once for both directions.
-zvCndContext zvObjectMapping::contextFor(const zvCfgObject& object) const {
-    zvCndContext context;
+void zvObjectMapping::fill(zvCndContext& context, const zvCfgObject& object) const {
     const auto add = [&context](const zvString& name, const zvValue& value) {
         zvAttribute attribute(name, value);
         context.addAttribute(attribute);
@@ -44,13 +78,15 @@ zvCndContext zvObjectMapping::contextFor(const zvCfgObject& object) const {
         }
     }
     for (const auto& [name, value] : m_values) {
-        add(name, zvValue(value));
+        if (context.findValue(name) == nullptr) {
+            add(name, zvValue(value));
+        }
     }
-    return context;
 }
 
 void zvObjectMapping::carry(const zvCfgObject& object) {
-    Values left = m_values;
+    std::vector<const zvString*> carried;  // the values that have a place, by their addresses
+    m_attributes.reserve(static_cast<std::size_t>(object.numAttributes()));
     for (int i = 0; i < object.numAttributes(); ++i) {
         const zvCfgAttribute& attribute = *object.getAttribute(i);
         const zvString& from = sourceName(attribute);
@@ -59,12 +95,17 @@ void zvObjectMapping::carry(const zvCfgObject& object) {
         if (to.empty() || (given == nullptr && !attribute.isDefaultValueSpecified())) {
             continue;
         }
-        left.erase(from);
+        if (given != nullptr) {
+            carried.push_back(given);
+        }
         m_attributes.push_back({from, to, given == nullptr ? attribute.getDefaultValue() : *given,
                                 attribute.getDataType(), given == nullptr});
     }
-    for (const auto& [name, value] : left) {
-        m_unmapped.push_back(name);
+    std::sort(carried.begin(), carried.end(), std::less<>());
+    for (const auto& [name, value] : m_values) {
+        if (!std::binary_search(carried.begin(), carried.end(), &value, std::less<>())) {
+            m_unmapped.push_back(name);
+        }
     }
 }
 

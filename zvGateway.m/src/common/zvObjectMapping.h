@@ -38,8 +38,8 @@ public:
     const std::vector<const zvCfgObject*>& passedOver() const { return m_passedOver; }
     /// The value that the object has under this name; null if it has none.
     const zvString* findValue(const zvString& name) const;
-    /// What a mapping rule of this object compares.
-    zvCndContext contextFor(const zvCfgObject& object) const;
+    /// What a mapping rule of this object compares; valid until the next call.
+    const zvCndContext& contextFor(const zvCfgObject& object) const;
 
     /// The attribute's name in the system that the object comes from, and in the other one; empty if it has
     /// none there.
@@ -54,11 +54,15 @@ public:
 
 private:
     bool applies(const zvCfgObject& object) const;
+    void fill(zvCndContext& context, const zvCfgObject& object) const;
     void carry(const zvCfgObject& object);
 
     Direction m_direction;
     Values m_values;
     const zvCfgObject* m_pObject = nullptr;
+    // The object that contextFor() was asked for last, and its answer: that of most objects of the same type.
+    mutable const zvCfgObject* m_pCompared = nullptr;
+    mutable zvCndContext m_context;
     std::vector<const zvCfgObject*> m_passedOver;
     std::vector<Attribute> m_attributes;
     std::vector<zvString> m_unmapped;
