@@ -18,7 +18,7 @@ struct zvTreeLine {
 struct zvAlignedLine {
     enum class Side { both, before, after };
 
-    Side side;
+    Side side = Side::both;
     zvTreeLine line;
 };
 

@@ -43,8 +43,8 @@ struct zvDifferenceGroup {
 };
 
 struct zvDifferenceSection {
-    const char* id;
-    const char* name;
+    const char* id = "";
+    const char* name = "";
     std::vector<zvDifferenceGroup> groups;
 };
 

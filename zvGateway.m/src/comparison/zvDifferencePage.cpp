@@ -45,8 +45,12 @@ std::string rowOf(const zvDifference& difference) {
         return zvPage::row({what, difference.before.empty() ? "" : treeOf(difference.rule, Side::before),
                             difference.after.empty() ? "" : treeOf(difference.rule, Side::after)});
     }
-    return zvPage::row({what, marked(Side::before, escaped(difference.before)),
-                        marked(Side::after, escaped(difference.after))});
+    // A part without a description is told by its name.
+    const auto valueOf = [&difference](const zvString& value, zvChange whole) {
+        return escaped(value.empty() && difference.change == whole ? difference.part : value);
+    };
+    return zvPage::row({what, marked(Side::before, valueOf(difference.before, zvChange::removed)),
+                        marked(Side::after, valueOf(difference.after, zvChange::added))});
 }
 
 std::string linesOf(const zvDifferenceGroup& group) {

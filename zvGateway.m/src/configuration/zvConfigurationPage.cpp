@@ -21,31 +21,20 @@ constexpr char legend[] = R"(<figcaption>
 )";
 
 std::string ruleOf(const zvCfgObject& object) {
-    const zvConfigurationNames::Rule rule = zvConfigurationNames::rule(object);
-    if (rule.written.empty()) {
-        return "";
-    }
-    std::string result =
-        "<dl class=\"rule\" data-row><dt>when\n</dt><dd><code>" + escaped(rule.written) + "</code></dd>";
-    if (!rule.read.empty()) {
-        result += "\n<dt>read as\n</dt><dd class=\"read\"><code>" + escaped(rule.read) + "</code></dd>";
-    }
-    return result + "</dl>\n";
+    const zvString written = zvConfigurationNames::rule(object).written;
+    return written.empty() ? ""
+                           : "<dl class=\"rule\" data-row><dt>when\n</dt><dd><code>" + escaped(written) +
+                                 "</code></dd></dl>\n";
 }
 
-std::string tool(const char* id, const char* name) {
-    return std::string("<details data-tool=\"") + id + "\"><summary>" + name + "</summary></details>\n";
-}
-
-// What the page's script makes when it is opened.
+// What the page's script makes when it is opened: one element, since a page has thousands of objects.
 std::string toolsOf(const zvCfgObject& object) {
     const zvCndCondition rule = object.getMappingRule();
     if (rule.IsNull()) {
-        return "<div class=\"tools\">" + tool("directions", "Both directions") + "</div>\n";
+        return "<details class=\"tools\"><summary>Both directions</summary></details>\n";
     }
-    return "<div class=\"tools\" data-rule=\"" + escaped(fromUtf8(zvRuleData::of(rule))) + "\">" +
-           tool("tree", "Tree of the rule") + tool("try", "Try the rule") +
-           tool("directions", "Both directions") + "</div>\n";
+    return "<details class=\"tools\" data-rule=\"" + escaped(fromUtf8(zvRuleData::of(rule))) +
+           "\"><summary>Tree, trial and both directions</summary></details>\n";
 }
 
 // Of a name that the other system alone has.

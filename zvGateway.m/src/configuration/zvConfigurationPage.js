@@ -199,10 +199,10 @@ function treeOf(rule, tell) {
     for (const attribute of attributes) {
       const source = attribute[sides[from]];
       const target = attribute[sides[to]];
-      const initial = attribute.initial && ' = ' + quoted(attribute.initial);
+      const initial = attribute.initial && quoted(attribute.initial);
       const line = !target ? source + ' is not sent'
-          : source ? source + ' \u2192 ' + target + (initial && ', else' + initial)
-          : target + (initial ? initial + ' always' : ' has no source');
+          : source ? source + ' \u2192 ' + target + (initial && ', else ' + initial)
+          : target + (initial ? ' = ' + initial + ' always' : ' has no source');
       if (source || target) list.append(element('li', line, target && (source || initial) ? {} : {class: 'no'}));
     }
     return part;
@@ -213,10 +213,6 @@ function treeOf(rule, tell) {
     const both = element('div', '', {class: 'directions'});
     both.append(direction(article, attributes, 0, 1), direction(article, attributes, 1, 0));
     tool.append(both);
-  }
-
-  function showTree(tool, article) {
-    tool.append(element('pre', treeOf(ruleOf(article), () => '')));
   }
 
   // The rule's attributes by name, in the order of the rule, with the types that the object gives them.
@@ -265,9 +261,11 @@ function treeOf(rule, tell) {
     answerNow();
   }
 
-  const tools = {tree: showTree, directions: showDirections, try: showForm};
   document.addEventListener('toggle', ({target}) => {
-    const isNew = target.open && target.dataset.tool && target.children.length === 1;
-    if (isNew) tools[target.dataset.tool](target, target.closest('[data-group]'));
+    if (target.open && target.matches('.tools') && target.children.length === 1) {
+      const article = target.closest('[data-group]');
+      if (target.dataset.rule) showForm(target, article);
+      showDirections(target, article);
+    }
   }, true);
 }
