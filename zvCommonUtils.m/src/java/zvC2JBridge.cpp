@@ -202,7 +202,9 @@ bool zvC2JBridge::adoptMachine() {
 
 void zvC2JBridge::logVersion() const {
     const zvJniFrame frame(*getEnv());
-    zvString version = textOrNone([&] { return printedVersion(frame); });
+    // Java would look for the removed class in every jar.
+    const bool isRemoved = frame.env().GetVersion() >= JNI_VERSION_9;
+    zvString version = isRemoved ? zvString() : textOrNone([&] { return printedVersion(frame); });
     if (version.empty()) {
         version = textOrNone([&] { return versionFromProperties(frame); });
     }

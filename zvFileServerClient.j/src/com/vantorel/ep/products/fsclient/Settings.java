@@ -150,7 +150,7 @@ final class Settings {
         if (url.isEmpty()) {
             throw file.failure("url", "it is missing");
         }
-        if (url.matches("(?i)ftps?:.*@.*")) {
+        if (url.regionMatches(true, 0, "ftp", 0, 3) && url.indexOf('@') >= 0) {
             throw file.failure("url",
                     "an account belongs in the keys user and password, and an @ in the path is written %40");
         }
@@ -189,7 +189,7 @@ final class Settings {
             throw file.failure("url", "'" + uri + "' has a ? or # (write %3F or %23)");
         }
         // Only in a URL, an IPv6 address is in brackets.
-        return uri.getHost().replaceAll("[\\[\\]]", "");
+        return uri.getHost().replace("[", "").replace("]", "");
     }
 
     private static String password(PropertyFile file) throws FileServerException {
