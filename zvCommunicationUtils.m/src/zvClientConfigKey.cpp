@@ -62,7 +62,9 @@ const std::vector<zvClientConfigKey>& zvClientConfigKey::all() {
         {"http-ca-file", Form::certificates},
         {"http-client-certificate", Form::file},
         {"http-client-key", Form::file},
-        {"http-client-key-password-env", Form::passwordVariable}};
+        {"http-client-key-password-env", Form::passwordVariable},
+        {"java-options", Form::text},
+        {"java-archive", Form::choice}};
     return keys;
 }
 
@@ -75,6 +77,10 @@ const zvClientConfigKey* zvClientConfigKey::find(const zvString& name) {
 zvString zvClientConfigKey::faultOf(const zvString& value) const {
     if (form == Form::url) {
         return faultOfUrl(value);
+    }
+    if (form == Form::choice) {
+        const bool isChoice = value == "on" || value == "off";
+        return isChoice ? zvString() : zvTextBuilder::concat("\"", value, "\" is neither \"on\" nor \"off\"");
     }
     if ((form != Form::wholeNumber && form != Form::number) || isNumber(zvUtf8::encode(value), *this)) {
         return {};

@@ -16,6 +16,8 @@ struct ZV_EXPORT zvClientConfigKey {
         certificates,      ///< a PEM file of certificates
         file,              ///< any other file
         passwordVariable,  ///< the name of an environment variable
+        choice,            ///< "on" or "off"
+        text,              ///< anything
     };
 
     const char* name = nullptr;
@@ -29,7 +31,7 @@ struct ZV_EXPORT zvClientConfigKey {
     /// The key of that name; null for an unknown one.
     static const zvClientConfigKey* find(const zvString& name);
 
-    /// Why an URL or a number cannot be used, in a sentence; empty if it can, and for the other forms. A URL
+    /// Why an URL, a number or a choice cannot be used, in a sentence; empty if it can, and for the other forms. A URL
     /// is not quoted: it may hold a password.
     zvString faultOf(const zvString& value) const;
 };

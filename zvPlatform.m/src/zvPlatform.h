@@ -64,6 +64,8 @@ bool removeTree(const char* arguments);
 void* loadLibrary(const char* name);
 /// Null if `library` is null or has no such function.
 void* findFunction(void* library, const char* name);
+/// The path of the library file in which a function is, as it was loaded; empty if the system does not tell.
+std::string libraryOf(void* function);
 
 /// The value of an environment variable; empty if it is unset.
 std::string environment(const char* name);

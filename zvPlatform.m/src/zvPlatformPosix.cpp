@@ -185,6 +185,11 @@ void* findFunction(void* library, const char* name) {
     return library == nullptr ? nullptr : ::dlsym(library, name);
 }
 
+std::string libraryOf(void* function) {
+    Dl_info found{};
+    return function != nullptr && ::dladdr(function, &found) != 0 ? found.dli_fname : "";
+}
+
 std::string environment(const char* name) {
     const char* const value = std::getenv(name);
     return value == nullptr ? "" : value;

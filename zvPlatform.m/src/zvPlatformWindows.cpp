@@ -2,6 +2,7 @@
 #include <process.h>
 #include <windows.h>
 
+#include <array>
 #include <clocale>
 #include <cstdlib>
 #include <ctime>
@@ -95,6 +96,17 @@ void* findFunction(void* library, const char* name) {
     return library == nullptr
                ? nullptr
                : reinterpret_cast<void*>(::GetProcAddress(reinterpret_cast<HMODULE>(library), name));
+}
+
+std::string libraryOf(void* function) {
+    HMODULE library = nullptr;
+    std::array<char, MAX_PATH> path{};
+    const bool isFound =
+        ::GetModuleHandleExA(
+            GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+            reinterpret_cast<const char*>(function), &library) != 0 &&
+        ::GetModuleFileNameA(library, path.data(), static_cast<DWORD>(path.size())) < path.size();
+    return isFound ? path.data() : "";
 }
 
 std::string environment(const char* name) {

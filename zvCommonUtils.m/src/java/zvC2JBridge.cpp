@@ -111,6 +111,13 @@ zvC2JBridge* zvC2JBridge::getInstance() {
     return m_pBridge.get();
 }
 
+void zvC2JBridge::destroyInstance() {
+    if (m_pBridge != nullptr && !m_pBridge->m_bIsAdopted) {
+        m_pBridge->m_pMachine->DestroyJavaVM();
+        m_pBridge.reset();
+    }
+}
+
 JNIEnv* zvC2JBridge::getEnv() const {
     void* env = nullptr;
     if (m_pMachine->GetEnv(&env, jniVersion) == JNI_EDETACHED &&

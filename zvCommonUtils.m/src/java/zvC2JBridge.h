@@ -22,6 +22,9 @@ public:
     static zvC2JBridge* getInstance();
     /// Adds an option, as the `java` command has them, for a JVM that is started later; after the class path.
     static void addOption(const std::string& option) { m_options.push_back(option); }
+    /// Ends the JVM that was started, if any, once Java's own threads have ended: none can be started after
+    /// it.
+    static void destroyInstance();
     /// Where the last attempt to start a JVM looked for its library; empty before the first one.
     static zvString searchedPlaces() { return m_searchedPlaces.c_str(); }
 

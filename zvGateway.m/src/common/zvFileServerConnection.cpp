@@ -1,33 +1,10 @@
 #include "zvFileServerConnection.h"
 
-#include <string>
-
 #include "zvCommonUtils.h"
-#include "zvDeliveredFile.h"
 #include "zvDirFileUtils.h"
 #include "zvFSClient.h"
-#include "zvProcess.h"
 
 namespace {
-
-// A machine that runs for one event starts sooner with these, and one that runs for many does not grow with
-// each.
-constexpr const char* javaOptions[] = {"-XX:+IgnoreUnrecognizedVMOptions", "-XX:+UseSerialGC",
-                                       "-XX:TieredStopAtLevel=1", "-Xmn4m"};
-
-bool isSet(const char* variable) { return !zvCommonUtils::getEnvironmentalVariable(variable).empty(); }
-
-// The delivered Java client, unless the site has one of its own on CLASSPATH.
-void offerClient() {
-    if (isSet("CLASSPATH")) {
-        return;
-    }
-    const std::string jar = findDeliveredFile("../" ZV_DATA_FOLDER "/zvFileServerClient.jar",
-                                              "../zvFileServerClient.j/zvFileServerClient.jar");
-    if (!jar.empty()) {
-        zvProcess::setEnvironment("CLASSPATH", jar.c_str());
-    }
-}
 
 // The exception with where Java was looked for, which is in its result's additional information.
 zvException detailed(const zvException& exception) {
@@ -45,21 +22,6 @@ void close() {
 }
 
 }  // namespace
-
-void zvFileServerConnection::prepareJava() {
-    static bool isPrepared = false;
-    if (isPrepared) {
-        return;
-    }
-    isPrepared = true;
-    offerClient();
-    // These variables reach the machine, too, and may contradict.
-    if (!isSet("JAVA_TOOL_OPTIONS") && !isSet("_JAVA_OPTIONS")) {
-        for (const char* const option : javaOptions) {
-            zvFSClient::addJavaOption(option);
-        }
-    }
-}
 
 zvString zvFileServerConnection::reasonOf(const zvException& exception) {
     constexpr char package[] = "com/vantorel/ep/products/fsclient/";

@@ -12,6 +12,7 @@
 #include "zvHomeCheckKind.h"
 #include "zvHomeFile.h"
 #include "zvJavaMachine.h"
+#include "zvJavaStart.h"
 #include "zvNearestName.h"
 
 namespace {
@@ -41,7 +42,7 @@ zvFileServerCheck::zvFileServerCheck(const zvString& file, zvCheckReport& report
       m_bDelivered(zvCommonUtils::getEnvironmentalVariable("CLASSPATH").empty()) {}
 
 void zvFileServerCheck::run(bool isOffline) {
-    zvFileServerConnection::prepareJava();
+    zvJavaStart::prepare();
     const bool hasClient = findJava() && findClient();
     Faults faults = hasClient ? askClient() : Faults();
     const bool isValid = m_bAsked && faults.empty();

@@ -11,6 +11,7 @@
 #include "zvFSClientUtil.h"
 #include "zvFileServerConnection.h"
 #include "zvInterruption.h"
+#include "zvJavaStart.h"
 #include "zvNativePath.h"
 #include "zvProcess.h"
 #include "zvStringList.h"
@@ -144,7 +145,7 @@ void zvTransferStep::makeDirectory() {
 }
 
 zvStepOutcome zvTransferStep::send(const zvString& configuration) {
-    zvFileServerConnection::prepareJava();
+    zvJavaStart::prepare();
     m_event.session.secrets().forEach(
         [](const zvString& name, const zvString& value) { zvFSClient::setSecret(name, value); });
     m_signals.emplace();
