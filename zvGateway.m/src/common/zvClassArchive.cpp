@@ -25,6 +25,8 @@ constexpr std::chrono::hours lifetime(30 * 24);
 constexpr std::chrono::seconds longestMaking(30);
 constexpr char listSeparator = fs::path::preferred_separator == '/' ? ':' : ';';
 constexpr char suffix[] = ".jsa";
+constexpr char partSuffix[] = ".part";
+constexpr std::size_t largestArchive = std::size_t{1} << 28;
 
 fs::path variable(const char* name) {
     fs::path folder = toNativePath(zvCommonUtils::getEnvironmentalVariable(name));
@@ -44,6 +46,13 @@ fs::path cacheFolder() {
     return {};
 }
 
+std::string hashOf(const std::string& text) {
+    std::array<char, 17> digits{};
+    std::snprintf(digits.data(), digits.size(), "%016llx",
+                  static_cast<unsigned long long>(XXH3_64bits(text.data(), text.size())));
+    return digits.data();
+}
+
 // What an archive is good for: a change of any of it makes another one.
 std::string identity(const fs::path& library, const std::vector<std::string>& options) {
     const std::string classPath = toNativePath(zvCommonUtils::getEnvironmentalVariable("CLASSPATH")).string();
@@ -55,10 +64,7 @@ std::string identity(const fs::path& library, const std::vector<std::string>& op
     for (const std::string& option : options) {
         text += '\n' + option;
     }
-    std::array<char, 17> digits{};
-    std::snprintf(digits.data(), digits.size(), "%016llx",
-                  static_cast<unsigned long long>(XXH3_64bits(text.data(), text.size())));
-    return digits.data();
+    return hashOf(text);
 }
 
 bool isOld(const fs::path& file) {
@@ -67,14 +73,24 @@ bool isOld(const fs::path& file) {
     return error || fs::file_time_type::clock::now() - changed > lifetime;
 }
 
-bool isOwn(const fs::path& file) {
+// The content of a file that is this user's alone; false for another file.
+bool readOwn(const fs::path& file, std::string& content) {
     std::error_code error;
     const int descriptor = zvProcess::openForReading(file, error);
-    const bool isPrivate = descriptor >= 0 && zvProcess::isPrivate(descriptor);
-    if (descriptor >= 0) {
+    if (descriptor >= 0 && !zvProcess::isPrivate(descriptor)) {
         zvProcess::close(descriptor);
+        return false;
     }
-    return isPrivate;
+    return descriptor >= 0 && !zvProcess::readToEnd(descriptor, largestArchive, content);
+}
+
+std::vector<fs::path> filesOf(const fs::path& folder) {
+    std::error_code error;
+    std::vector<fs::path> files;
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+        files.push_back(entry->path());
+    }
+    return files;
 }
 
 }  // namespace
@@ -85,17 +101,24 @@ zvClassArchive::zvClassArchive(std::vector<std::string> javaOptions)
     if (m_folder.empty() || library.empty() || !zvProcess::makePrivateFolder(m_folder)) {
         return;
     }
-    m_file = m_folder / ("java-" + identity(library, m_javaOptions) + suffix);
-    m_state = look();
+    m_strPrefix = "java-" + identity(library, m_javaOptions) + "-";
+    m_state = State::missing;
+    for (const fs::path& file : filesOf(m_folder)) {
+        const State state = look(file);
+        if (state != State::missing) {
+            m_state = state;
+            m_file = file;
+        }
+    }
 }
 
-zvClassArchive::State zvClassArchive::look() const {
+zvClassArchive::State zvClassArchive::look(const fs::path& file) const {
+    std::string content;
     std::error_code error;
-    const auto status = fs::symlink_status(m_file, error);
-    if (!fs::is_regular_file(status) || isOld(m_file) || !isOwn(m_file)) {
-        return State::missing;
-    }
-    return fs::file_size(m_file, error) == 0 || error ? State::unmakable : State::usable;
+    const bool isWhole = file.filename().string().rfind(m_strPrefix, 0) == 0 &&
+                         fs::is_regular_file(fs::symlink_status(file, error)) && !isOld(file) &&
+                         readOwn(file, content) && file.filename() == m_strPrefix + hashOf(content) + suffix;
+    return !isWhole ? State::missing : content.empty() ? State::unmakable : State::usable;
 }
 
 // What Java has to say of an archive that does not fit is nobody's concern.
@@ -105,7 +128,7 @@ std::vector<std::string> zvClassArchive::options() const {
                                     : std::vector<std::string>();
 }
 
-std::string zvClassArchive::make() const {
+std::string zvClassArchive::make() {
     if (m_state == State::impossible) {
         return "there is no Java, or no folder for it that is this user's alone (XDG_CACHE_HOME, HOME)";
     }
@@ -121,9 +144,9 @@ std::string zvClassArchive::make() const {
     }
 }
 
-std::string zvClassArchive::makeLocked() const {
+std::string zvClassArchive::makeLocked() {
     tidy();
-    const fs::path part = m_file.string() + ".part";
+    const fs::path part = m_folder / (m_strPrefix + partSuffix);
     std::vector<std::string> arguments{"prepare-java", "--into", part.string(), "--"};
     arguments.insert(arguments.end(), m_javaOptions.begin(), m_javaOptions.end());
     const bool isEnded = zvProcess::run(zvProcess::programFile(), arguments, longestMaking);
@@ -137,15 +160,7 @@ std::string zvClassArchive::makeLocked() const {
         // An empty file, for who comes next.
         error = zvProcess::appendToFile(part, "", false);
     }
-    if (!error) {
-        fs::permissions(part, fs::perms::owner_read | fs::perms::owner_write, error);
-    }
-    if (!error && isMade) {
-        error = zvProcess::flushToDisk(part);
-    }
-    if (!error) {
-        fs::rename(part, m_file, error);
-    }
+    error = error ? error : keep(part);
     if (error) {
         std::error_code ignored;
         fs::remove(part, ignored);
@@ -154,17 +169,30 @@ std::string zvClassArchive::makeLocked() const {
     return isMade ? "" : "this Java makes no archive of classes; Java 13 and later do";
 }
 
-// What earlier makers have left, and what is out of date.
-void zvClassArchive::tidy() const {
+std::error_code zvClassArchive::keep(const fs::path& made) {
     std::error_code error;
-    std::vector<fs::path> files;
-    for (fs::directory_iterator entry(m_folder, error), end; !error && entry != end; entry.increment(error)) {
-        const fs::path extension = entry->path().extension();
-        if (extension == ".part" || (extension == suffix && isOld(entry->path()))) {
-            files.push_back(entry->path());
-        }
+    std::string content;
+    fs::permissions(made, fs::perms::owner_read | fs::perms::owner_write, error);
+    if (!error && !readOwn(made, content)) {
+        error = std::make_error_code(std::errc::io_error);
     }
-    for (const fs::path& file : files) {
-        fs::remove(file, error);
+    if (!error) {
+        error = zvProcess::flushToDisk(made);
+    }
+    m_file = m_folder / (m_strPrefix + hashOf(content) + suffix);
+    if (!error) {
+        fs::rename(made, m_file, error);
+    }
+    return error;
+}
+
+// What earlier makers have left, what is out of date, and what this archive replaces.
+void zvClassArchive::tidy() const {
+    for (const fs::path& file : filesOf(m_folder)) {
+        const bool isReplaced = file.filename().string().rfind(m_strPrefix, 0) == 0;
+        if (isReplaced || file.extension() == partSuffix || (file.extension() == suffix && isOld(file))) {
+            std::error_code ignored;
+            fs::remove(file, ignored);
+        }
     }
 }

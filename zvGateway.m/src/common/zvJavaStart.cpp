@@ -132,7 +132,7 @@ std::string zvJavaStart::makeArchive() {
         throw failure(
             "JAVA_TOOL_OPTIONS, _JAVA_OPTIONS or java-archive=off in client-config.ini rules it out");
     }
-    const zvClassArchive archive(choice.all());
+    zvClassArchive archive(choice.all());
     const std::string reason = archive.make();
     if (!reason.empty()) {
         throw failure(reason.c_str());
@@ -141,7 +141,13 @@ std::string zvJavaStart::makeArchive() {
 }
 
 void zvJavaStart::prepareArchive(const std::string& file, const std::vector<std::string>& options) {
-    add(options);
+    for (const std::string& option : options) {
+        // A log that the site wants is an event's, which a second machine would overwrite.
+        if (option.rfind("-Xlog", 0) != 0) {
+            zvFSClient::addJavaOption(option.c_str());
+        }
+    }
     zvFSClient::addJavaOption(("-XX:ArchiveClassesAtExit=" + file).c_str());
     zvFSClient::addJavaOption("-Xlog:disable");
+    zvFSClient::addJavaOption("-XX:+SuppressFatalErrorMessage");
 }
