@@ -12,5 +12,6 @@ void zvLogBenchmark();
 void zvHttpBenchmark();
 void zvJavaBenchmark();
 void zvEventBenchmark();
+void zvWholeEventBenchmark();
 
 #endif

@@ -152,6 +152,18 @@ TEST_F(zvC2JBridgeTest, StartsJavaWithTheOptionsOfTheProgram) {
     });
 }
 
+TEST_F(zvC2JBridgeTest, TellsThatJavaEndsTheProcess) {
+    const auto endByJava = [] {
+        zvFSClient::setJavaEndObserver([] {
+            std::fputs("told", stderr);
+            std::_Exit(7);
+        });
+        const zvJniFrame frame(*zvC2JBridge::getInstance()->getEnv());
+        frame.callStatic<void>("java.lang.System", "exit", "(I)V", jint{0});
+    };
+    EXPECT_EXIT(endByJava(), testing::ExitedWithCode(7), "told");
+}
+
 TEST_F(zvC2JBridgeTest, UsesAJavaThatRunsAlready) {
     const std::function<void()> starts[] = {startMachine,
                                             // The calling thread is not attached.

@@ -109,12 +109,14 @@ TEST_F(zvEventArgumentsTest, SecretsReachNoLogLine) {
 
 TEST_F(zvEventArgumentsTest, KeysCanBeAddedToTheSecrets) {
     zvSecrets::addKey("Pin");
+    zvSecrets::addKey("a=b");
     const Arguments arguments =
-        parse({"Pin=s3cret", "Pin=s3cret again", "Pinboard=shown", "Note=Pin is shown", "Pin\\=shown=1"});
+        parse({"Pin=s3cret", "Pin=s3cret again", "Pinboard=shown", "Note=Pin is shown", "Pin\\=shown=1",
+               "a\\=b=s3cret", "a=b=s3cret", "a\\\\=b=shown"});
     EXPECT_EQ(zvSecrets::maskedValue("Pin", arguments->getEventArgumentValue("Pin")), "********");
     const Lines info = zvRecordingLogger::lines("info");
-    const Lines expected = {"> Pin=********", "> Pin=********", "> Pinboard=shown", "> Note=Pin is shown",
-                            "> Pin\\=shown=1"};
+    const Lines expected = {"> Pin=********",  "> Pin=********", "> Pinboard=shown", "> Note=Pin is shown",
+                            "> Pin\\=shown=1", "> a=b=********", "> a=b=********",   "> a\\\\=b=shown"};
     EXPECT_EQ(Lines(info.begin() + 2, info.end()), expected);
     for (const std::string& text : zvRecordingLogger::lines()) {
         EXPECT_EQ(text.find("s3cret"), std::string::npos) << text;
@@ -174,6 +176,20 @@ TEST_F(zvEventArgumentsTest, EveryEventGetsADirectoryOfItsOwn) {
     }
     EXPECT_EQ(zvRecordingLogger::lines().front(),
               "debug: EventShadowDir successfully created: " + m_folder.path().string() + "\\" + name);
+}
+
+TEST_F(zvEventArgumentsTest, NamesThatAreTakenByLinksArePassedOver) {
+    if (onWindows) {
+        GTEST_SKIP() << "links need a right that tests do not have";
+    }
+    const zvInt64 now = zvPlatform::currentTime();
+    constexpr int taken = 30;
+    for (int i = 0; i < taken; ++i) {
+        std::filesystem::create_symlink("nowhere", m_folder.path() / std::to_string(now + i));
+    }
+    zvEventArguments event(zvEventMirror, "me");
+    EXPECT_TRUE(zvEventArguments::populateEventArguments(m_folder.path().string().c_str(), event).isOk());
+    EXPECT_EQ(event.getEventArgumentValue("EventShadowDir"), std::to_string(now + taken).c_str());
 }
 
 TEST_F(zvEventArgumentsTest, ARootThatCannotHoldDirectoriesIsRefused) {

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <charconv>
 #include <memory>
+#include <regex>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -50,6 +51,12 @@ bool isNumber(std::string_view text, const zvClientConfigKey& key) {
     return error == std::errc() && rest == end && number >= key.least && number <= key.most;
 }
 
+// The owner needs all of them.
+bool areRights(const std::string& text) {
+    static const std::regex form("umask|0?7[0-7]{2}");
+    return std::regex_match(text, form);
+}
+
 }  // namespace
 
 const std::vector<zvClientConfigKey>& zvClientConfigKey::all() {
@@ -64,7 +71,9 @@ const std::vector<zvClientConfigKey>& zvClientConfigKey::all() {
         {"http-client-key", Form::file},
         {"http-client-key-password-env", Form::passwordVariable},
         {"java-options", Form::text},
-        {"java-archive", Form::choice}};
+        {"java-archive", Form::choice},
+        {"secret-keys", Form::names},
+        {"shadow-mode", Form::rights}};
     return keys;
 }
 
@@ -81,6 +90,11 @@ zvString zvClientConfigKey::faultOf(const zvString& value) const {
     if (form == Form::choice) {
         const bool isChoice = value == "on" || value == "off";
         return isChoice ? zvString() : zvTextBuilder::concat("\"", value, "\" is neither \"on\" nor \"off\"");
+    }
+    if (form == Form::rights) {
+        return areRights(zvUtf8::encode(value))
+                   ? zvString()
+                   : zvTextBuilder::concat("\"", value, "\" is neither \"umask\" nor from 700 to 777");
     }
     if ((form != Form::wholeNumber && form != Form::number) || isNumber(zvUtf8::encode(value), *this)) {
         return {};

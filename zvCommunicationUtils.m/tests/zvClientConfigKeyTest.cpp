@@ -31,6 +31,13 @@ TEST(zvClientConfigKeyTest, AValueThatCannotBeUsedIsTold) {
         {"http-retry-delay", "60.1", "\"60.1\" is no number from 0 to 60"},
         {"http-retry-delay", "nan", "\"nan\" is no number from 0 to 60"},
         {"http-ca-file", "/nowhere", ""},
+        {"secret-keys", "ApiToken, Pin", ""},
+        {"shadow-mode", "umask", ""},
+        {"shadow-mode", "750", ""},
+        {"shadow-mode", "0777", ""},
+        {"shadow-mode", "644", "\"644\" is neither \"umask\" nor from 700 to 777"},
+        {"shadow-mode", "1777", "\"1777\" is neither \"umask\" nor from 700 to 777"},
+        {"shadow-mode", "778", "\"778\" is neither \"umask\" nor from 700 to 777"},
     };
     for (const auto& [name, value, fault] : cases) {
         const zvClientConfigKey* const key = zvClientConfigKey::find(name);

@@ -8,6 +8,7 @@
 #include "zvCndConditionBuilder.h"
 #include "zvCndOperator.h"
 #include "zvCndParsingLog.h"
+#include "zvSecrets.h"
 
 namespace zvCndConditionReader {
 
@@ -261,7 +262,7 @@ int operatorEnd(const zvString& text, int begin) {
 }
 
 Reading read(const zvString& text) {
-    logger.info("zvCndParsingUtils::createConditionStructure - ", text);
+    logger.info("zvCndParsingUtils::createConditionStructure - ", zvSecrets::maskedArgument(text));
     return Reader(text).read();
 }
 

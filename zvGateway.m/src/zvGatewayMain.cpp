@@ -13,6 +13,7 @@
 #include "zvEventRoad.h"
 #include "zvException.h"
 #include "zvFailure.h"
+#include "zvHomeSettings.h"
 #include "zvInterruption.h"
 #include "zvJavaStart.h"
 #include "zvOperationCommands.h"
@@ -23,6 +24,7 @@
 #include "zvSecretOptions.h"
 #include "zvSecrets.h"
 #include "zvShowCommand.h"
+#include "zvShownArguments.h"
 
 namespace {
 
@@ -41,9 +43,10 @@ and there may be
 All others travel with the event. A "\" before a "=" puts the "=" into the key. An argument that has no "=" or no
 key, or whose key was given before, ends the program.
 
-The values of LoginPassword and KPDMPasswd are never shown, but the system shows a command line to others. Secrets can
-come from --secrets, from --secrets-fd, and from the folder that the environment variable CREDENTIALS_DIRECTORY names:
-a file for each, whose name is the key. They become arguments of the event, and are never shown whatever their keys.
+The values of LoginPassword and KPDMPasswd, and of the keys that "secret-keys" in client-config.ini names, are never
+shown, but the system shows a command line to others. Secrets can come from --secrets, from --secrets-fd, and from the
+folder that the environment variable CREDENTIALS_DIRECTORY names: a file for each, whose name is the key. They become
+arguments of the event, and are never shown whatever their keys.
 
 The environment variable GATEWAY_HOME names the gateway's home, with
   config/client-config.ini  "local-server-url=..."
@@ -69,11 +72,13 @@ The last line on standard error, and in the log, is what became of the event.)";
 
 int fail(zvExitCode code, const std::string& message) {
     zvConsole::flush();
-    std::fprintf(stderr, "zvgateway: %s\n", message.c_str());
+    std::fprintf(stderr, "zvgateway: %s\n", zvShownArguments::masked(message).c_str());
     return static_cast<int>(code);
 }
 
-int fail(const zvProgramFailure& failure) {
+int fail(zvProgramFailure failure) {
+    failure.subject = zvShownArguments::masked(failure.subject);
+    failure.reason = zvShownArguments::masked(failure.reason);
     if (zvConsole::hasLeftStandardOutput() && !zvConsole::hasAnswered()) {
         zvRoadReport::printJson(failure);
     }
@@ -186,12 +191,12 @@ int runProgram(int argc, char** argv) {
     try {
         program.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        if (zvConsole::hasLeftStandardOutput() && error.get_exit_code() != 0) {
+        if (error.get_exit_code() != 0) {
             throw zvProgramFailure{zvExitCode::usage, "options", "",
-                                   zvConsole::printable(zvSecrets::maskedArgument(error.what()))};
+                                   zvConsole::printable(error.what()) + " (see zvgateway --help)"};
         }
-        // Prints the help, the version or what is wrong; the first two are no failures.
-        return program.exit(error) == 0 ? 0 : static_cast<int>(zvExitCode::usage);
+        // Prints the help or the version.
+        return program.exit(error);
     }
     if (program.get_subcommands().empty()) {
         const zvExitCode code = takeEvent(session, program.remaining());
@@ -218,7 +223,10 @@ int runProgram(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     zvCommonUtils::adoptUserLocale();
+    zvProcess::reportFullFiles();
     try {
+        zvHomeSettings::adoptSecretKeys();
+        zvShownArguments::setCommandLine({argv + 1, argv + argc});
         // Before anything can be printed, also of a command line that cannot be parsed.
         if (std::find(argv + 1, argv + argc, std::string("--json")) != argv + argc) {
             zvConsole::leaveStandardOutput();
@@ -235,6 +243,6 @@ int main(int argc, char** argv) {
         return fail({zvExitCode::unexpected, "unexpected", "",
                      zvConsole::printable(exception.getResult().getMessage())});
     } catch (const std::exception& exception) {
-        return fail({zvExitCode::unexpected, "unexpected", "", exception.what()});
+        return fail({zvExitCode::unexpected, "unexpected", "", zvConsole::printable(exception.what())});
     }
 }

@@ -11,11 +11,13 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <iterator>
 #include <mutex>
 #include <string_view>
 #include <utility>
 
 #include "zvFileAppenders.h"
+#include "zvLogText.h"
 #include "zvPlatform.h"
 #include "zvTextCodec.h"
 
@@ -26,14 +28,12 @@ using log4cxx::spi::LocationInfo;
 
 namespace {
 
-// Fast path: nearly every line is ASCII, which is the same in every encoding, and log4cxx's decoder is slow.
-LogString decode(std::string_view text) {
-    if (zvTextCodec::isAscii(text.data(), text.size())) {
-        return {text.begin(), text.end()};
-    }
-    LogString decoded;
-    log4cxx::helpers::Transcoder::decode(std::string(text), decoded);
-    return decoded;
+// The sources of the library whose messages may hold a text of Java, which has several lines.
+constexpr std::string_view javaSources[] = {"zvCommonUtils.m/src/zvC2JBridge",
+                                            "zvCommonUtils.m/src/zvFSClient"};
+
+bool holdsJavaText(std::string_view source) {
+    return std::find(std::begin(javaSources), std::end(javaSources), source) != std::end(javaSources);
 }
 
 // The part after the last separator. log4cxx's own function does not handle a missing separator.
@@ -61,6 +61,16 @@ bool showsEventId(const log4cxx::AppenderPtr& appender) {
                            [](const log4cxx::AppenderPtr& next) { return showsEventId(next); });
     }
     return appender->getLayout() == nullptr || showsEventId(appender->getLayout());
+}
+
+// Once for a thread, and again in a process that was forked from it.
+void setProcessId() {
+    thread_local unsigned long known = 0;
+    const unsigned long id = zvPlatform::processId();
+    if (known != id) {
+        log4cxx::MDC::putLS(LOG4CXX_STR("processId"), zvLogText::onOneLine(std::to_string(id)));
+        known = id;
+    }
 }
 
 bool isLogRequired() { return !zvPlatform::environment("GATEWAY_LOG_REQUIRED").empty(); }
@@ -122,12 +132,20 @@ bool zvLogConfiguration::reportUnopenable(const zvLogFile& logFile) {
     return !reason.empty();
 }
 
+void zvLogConfiguration::reportLocked() {
+    if (!m_bReportedLock) {
+        m_bReportedLock = true;
+        std::fprintf(stderr, "log: another process has %s locked for 5 s: lines are left out\n",
+                     m_lock.path().c_str());
+    }
+}
+
 void zvLogConfiguration::setEventId(std::string_view eventId) {
     if (eventId.empty()) {
         LogString removed;
         log4cxx::MDC::remove(eventIdKey, removed);
     } else {
-        log4cxx::MDC::putLS(eventIdKey, decode(eventId));
+        log4cxx::MDC::putLS(eventIdKey, zvLogText::onOneLine(eventId));
     }
 }
 
@@ -137,24 +155,39 @@ void zvLogConfiguration::write(const log4cxx::LevelPtr& level, const char* logge
     if (!logger->isEnabledFor(level)) {
         return;
     }
-    LogString text = decode(message);
+    LogString text = holdsJavaText(file == nullptr ? "" : file) ? zvLogText::onIndentedLines(message)
+                                                                : zvLogText::onOneLine(message);
     LogString eventId;
     if (!m_bShowsEventId && log4cxx::MDC::get(eventIdKey, eventId)) {
         text.insert(0, LOG4CXX_STR("[") + eventId + LOG4CXX_STR("] "));
     }
     const char* const source = keep(file == nullptr ? LocationInfo::NA : file);
     const LocationInfo location(source, shortName(source), LocationInfo::NA_METHOD, line);
-    const log4cxx::MDC processId("processId", std::to_string(zvPlatform::processId()));
-    const std::lock_guard<zvLogFolderLock> guard(m_lock);
+    setProcessId();
+    std::unique_lock<zvLogFolderLock> guard(m_lock, std::defer_lock);
+    bool isLockNeeded = false;
+    for (zvLogFile& logFile : m_files) {
+        isLockNeeded = logFile.needsLock() || isLockNeeded;
+    }
+    if (isLockNeeded && !guard.try_lock()) {
+        reportLocked();
+        return;
+    }
+    if (isLockNeeded) {
+        catchUp();
+    }
+    logger->forcedLogLS(level, text, location);
+    for (zvLogFile& logFile : m_files) {
+        logFile.remember();
+    }
+}
+
+void zvLogConfiguration::catchUp() {
     for (zvLogFile& logFile : m_files) {
         logFile.catchUp();
         if (!logFile.isOpen() && !m_bReported) {
             reportUnopenable(logFile);
         }
-    }
-    logger->forcedLogLS(level, text, location);
-    for (zvLogFile& logFile : m_files) {
-        logFile.remember();
     }
 }
 
@@ -169,7 +202,7 @@ const char* zvLogConfiguration::keep(std::string_view source) {
 // Caches the last logger: most lines come from the same one as the line before.
 const LoggerPtr& zvLogConfiguration::find(const char* loggerName) {
     if (m_pLastLogger == nullptr || m_lastName != loggerName) {
-        m_pLastLogger = m_pRepository->getLogger(decode(loggerName));
+        m_pLastLogger = m_pRepository->getLogger(zvLogText::onOneLine(loggerName));
         m_lastName = loggerName;
     }
     return m_pLastLogger;

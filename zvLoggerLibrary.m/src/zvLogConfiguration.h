@@ -34,7 +34,8 @@ public:
     /// The identity of the event that the calling thread works on; empty for none.
     static void setEventId(std::string_view eventId);
 
-    /// Writes one event if the logger's level allows it. Only `file` may be null. Throws log4cxx's exception
+    /// Writes one event if the logger's level allows it. It is left out, which is told once, when another
+    /// process does not free the log's lock. Only `file` may be null. Throws log4cxx's exception
     /// if an appender fails.
     void write(const log4cxx::LevelPtr& level, const char* loggerName, const char* message, const char* file,
                int line);
@@ -42,6 +43,8 @@ public:
 private:
     void adoptAppenders(const log4cxx::Logger& logger);
     bool reportUnopenable(const zvLogFile& logFile);
+    void reportLocked();
+    void catchUp();
     const log4cxx::LoggerPtr& find(const char* loggerName);
     const char* keep(std::string_view source);
 
@@ -55,6 +58,7 @@ private:
     bool m_bCanWrite = false;
     bool m_bShowsEventId = true;  // by the layout of every appender
     bool m_bReported = false;
+    bool m_bReportedLock = false;
     std::string m_lastName;
     log4cxx::LoggerPtr m_pLastLogger;
 };

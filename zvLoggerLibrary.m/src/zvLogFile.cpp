@@ -1,7 +1,9 @@
 #include "zvLogFile.h"
 
-#include <log4cxx/helpers/pool.h>
 #include <log4cxx/helpers/transcoder.h>
+#include <log4cxx/rolling/rollingpolicybase.h>
+#include <log4cxx/rolling/sizebasedtriggeringpolicy.h>
+#include <log4cxx/rolling/timebasedrollingpolicy.h>
 
 #include <utility>
 
@@ -9,8 +11,30 @@ using log4cxx::FileAppender;
 using log4cxx::helpers::Pool;
 using log4cxx::rolling::RollingFileAppender;
 
+namespace {
+
+bool endsIn(const log4cxx::LogString& text, const log4cxx::LogString& end) {
+    return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
+}
+
+// Another process may roll the file over just before a line, which is then in the older file. There it gets
+// lost if that is being compressed; and what is no known trigger wants to see each line.
+bool canShareLines(const RollingFileAppender& appender) {
+    const auto trigger = appender.getTriggeringPolicy();
+    const auto policy = log4cxx::cast<log4cxx::rolling::RollingPolicyBase>(appender.getRollingPolicy());
+    const bool isKnown = log4cxx::cast<log4cxx::rolling::SizeBasedTriggeringPolicy>(trigger) != nullptr ||
+                         log4cxx::cast<log4cxx::rolling::TimeBasedRollingPolicy>(trigger) != nullptr;
+    return isKnown && policy != nullptr && !endsIn(policy->getFileNamePattern(), LOG4CXX_STR(".gz")) &&
+           !endsIn(policy->getFileNamePattern(), LOG4CXX_STR(".zip"));
+}
+
+}  // namespace
+
 zvLogFile::zvLogFile(log4cxx::FileAppenderPtr appender)
-    : m_pAppender(std::move(appender)), m_pRolling(log4cxx::cast<RollingFileAppender>(m_pAppender)) {
+    : m_pAppender(std::move(appender)),
+      m_pPool(std::make_shared<Pool>()),
+      m_pRolling(log4cxx::cast<RollingFileAppender>(m_pAppender)),
+      m_bSharesLines(m_pRolling == nullptr || canShareLines(*m_pRolling)) {
     // There is no writer if another process won the race to create the folder: the retry finds it.
     if (!m_pAppender->getAppend() || m_pAppender->getBufferedIO() || m_pAppender->getWriter() == nullptr) {
         m_pAppender->setAppend(true);
@@ -21,19 +45,30 @@ zvLogFile::zvLogFile(log4cxx::FileAppenderPtr appender)
             m_pAppender->FileAppender::activateOptions(pool);
         }
     }
+    m_pAppender->setImmediateFlush(true);
     log4cxx::helpers::Transcoder::encode(path(), m_path);
     look(m_own);
 }
 
+bool zvLogFile::needsLock() {
+    apr_finfo_t found{};
+    if (!m_bSharesLines || !m_bSettled || !look(found) || !isOwn(found)) {
+        return true;
+    }
+    adoptLength(found);
+    return isRolloverDue();
+}
+
 void zvLogFile::catchUp() {
     apr_finfo_t found{};
-    if (!look(found) || found.inode != m_own.inode || found.device != m_own.device) {
+    if (!look(found) || !isOwn(found)) {
         Pool pool;
         m_pAppender->activateOptions(pool);
         look(m_own);
-    } else if (m_pRolling != nullptr) {
-        m_pRolling->incrementFileLength(static_cast<std::size_t>(found.size) - m_pRolling->getFileLength());
+    } else {
+        adoptLength(found);
     }
+    m_bSettled = isOpen();
     m_length = m_pRolling == nullptr ? 0 : m_pRolling->getFileLength();
 }
 
@@ -45,7 +80,21 @@ void zvLogFile::remember() {
 }
 
 bool zvLogFile::look(apr_finfo_t& found) const {
-    Pool pool;
-    return apr_stat(&found, m_path.c_str(), APR_FINFO_IDENT | APR_FINFO_SIZE, pool.getAPRPool()) ==
+    return apr_stat(&found, m_path.c_str(), APR_FINFO_IDENT | APR_FINFO_SIZE, m_pPool->getAPRPool()) ==
            APR_SUCCESS;
+}
+
+bool zvLogFile::isOwn(const apr_finfo_t& found) const {
+    return found.inode == m_own.inode && found.device == m_own.device;
+}
+
+void zvLogFile::adoptLength(const apr_finfo_t& found) {
+    if (m_pRolling != nullptr) {
+        m_pRolling->incrementFileLength(static_cast<std::size_t>(found.size) - m_pRolling->getFileLength());
+    }
+}
+
+bool zvLogFile::isRolloverDue() const {
+    return m_pRolling != nullptr && m_pRolling->getTriggeringPolicy()->isTriggeringEvent(
+                                        m_pRolling.get(), {}, path(), m_pRolling->getFileLength());
 }

@@ -3,6 +3,7 @@
 
 #include <apr_file_info.h>
 #include <log4cxx/fileappender.h>
+#include <log4cxx/helpers/pool.h>
 #include <log4cxx/rolling/rollingfileappender.h>
 
 #include <memory>
@@ -12,7 +13,9 @@
 
 /// A log file to which other processes append, and which they roll over, at the same time.
 ///
-/// Every line is written between catchUp() and remember(), under a zvLogFolderLock.
+/// A line is one write to the end of the file, which the system does as a whole. Only the opening of the file
+/// and its rollover, of which other processes must see nothing half done, need a zvLogFolderLock: if
+/// needsLock() says so, the line is written under it between catchUp() and remember().
 class zvLogFile {
 public:
     /// Overrides the configuration: the file is always appended to, never truncated, and not buffered.
@@ -24,6 +27,8 @@ public:
     std::string openingError() const { return zvFileAppenders::openingError(*m_pAppender); }
     log4cxx::LogString path() const { return m_pAppender->getFile(); }
 
+    /// Whether the next line opens or rolls over the file, or may do so.
+    bool needsLock();
     /// Synchronises the appender with the other processes: reopens the file if it was replaced, and updates
     /// the length, on which the rollover depends.
     void catchUp();
@@ -32,13 +37,19 @@ public:
 
 private:
     bool look(apr_finfo_t& found) const;
+    bool isOwn(const apr_finfo_t& found) const;
+    void adoptLength(const apr_finfo_t& found);
+    bool isRolloverDue() const;
 
     log4cxx::FileAppenderPtr m_pAppender;
+    std::shared_ptr<log4cxx::helpers::Pool> m_pPool;  // of what the system is asked before each line
     std::shared_ptr<log4cxx::rolling::RollingFileAppender>
         m_pRolling;  // null for a file that is never rolled over
     std::string m_path;
     apr_finfo_t m_own{};
     std::size_t m_length = 0;  // before the current line
+    bool m_bSharesLines;       // without a lock
+    bool m_bSettled = false;   // opened under the lock
 };
 
 #endif

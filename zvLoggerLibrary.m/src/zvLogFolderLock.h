@@ -5,22 +5,30 @@
 #include <log4cxx/helpers/pool.h>
 #include <log4cxx/logstring.h>
 
-/// An advisory lock on a folder of log files, held while a line is written.
-///
-/// log4cxx neither writes long lines nor rolls files over atomically. The lock is a system lock on the file
-/// "log4cxx.lock" in the folder, and is released when the process exits at the latest.
+#include <string>
+
+/// An advisory lock on a folder of log files, held while one of them is opened or rolled over, which log4cxx
+/// does in several steps. The lock is a system lock on the file
+/// "log4cxx.lock" in the folder, which only its owner may open: whoever may open it can hold the lock. It is
+/// released when the process exits at the latest.
 class zvLogFolderLock {
 public:
-    /// Opens the lock file in the folder of `logFile`. If that fails, lock() and unlock() do nothing.
+    /// Opens the lock file in the folder of `logFile`. If that fails, try_lock() and unlock() do nothing,
+    /// which counts as locked.
     void open(const log4cxx::LogString& logFile);
 
-    /// Lockable by std::lock_guard.
-    void lock();
+    /// Lockable by std::unique_lock with std::try_to_lock. Waits five seconds at most for another process,
+    /// and after that not at all until the lock is free again. False for a lock that another one holds.
+    bool try_lock();
     void unlock();
+
+    const std::string& path() const { return m_path; }
 
 private:
     log4cxx::helpers::Pool m_pool;
     apr_file_t* m_pFile = nullptr;
+    std::string m_path;
+    bool m_bMissed = false;  // the last time
 };
 
 #endif

@@ -1,7 +1,11 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
@@ -126,6 +130,58 @@ TEST_F(zvLoggerLibraryTest, LogsAnyTextAndIgnoresNull) {
     const Lines found = lines();
     EXPECT_TRUE(std::regex_match(*found.begin(), std::regex("FATAL\\|a\\|f\\|5\\|not decodable .* but here")))
         << *found.begin();
+}
+
+TEST_F(zvLoggerLibraryTest, NoMessageMakesALineOrControlsATerminal) {
+    const struct {
+        const char* source;
+        std::string message;
+        Lines written;
+    } cases[] = {
+        {"f", "a\nb\rc\td", {"INFO|a|f|1|a\\nb\\rc\td"}},
+        {"f", "\x1b]0;title\a\x7f", {"INFO|a|f|1|\\x1b]0;title\\x07\\x7f"}},
+        {"f",
+         "gr\xC3\xBC\n\xC2\x9b\xE2\x80\xAE\xE2\x81\xA6\xE2\x80\xA8",
+         {"INFO|a|f|1|gr\xC3\xBC\\n\\x9b\\u202e\\u2066\\u2028"}},
+        {"zvCommonUtils.m/src/zvFSClient",
+         "java.io.IOException: \x1b[31m\nINFO|a|forged\r\n\tat x",
+         {"INFO|a|zvCommonUtils.m/src/zvFSClient|1|java.io.IOException: \\x1b[31m", "    INFO|a|forged\\r",
+          "    \tat x"}},
+        {"zvCommonUtils.m/src/zvC2JBridge",
+         "\njava 17\n",
+         {"INFO|a|zvCommonUtils.m/src/zvC2JBridge|1|", "    java 17", ""}},
+    };
+    ASSERT_TRUE(InitializeLogger(
+        write("log4cxx.xml", configuration("info", parameter("Encoding", "UTF-8"))).c_str()));
+    for (const auto& logged : cases) {
+        LogInfoMessage("a", logged.message.c_str(), logged.source, 1);
+        EXPECT_EQ(lines(), logged.written) << logged.message;
+        fs::resize_file(m_folder / "logs" / "out.log", 0);
+    }
+}
+
+TEST_F(zvLoggerLibraryTest, ALockThatAnotherProcessKeepsCostsLinesOnly) {
+    ASSERT_TRUE(InitializeLogger(write("log4cxx.xml", configuration("info", "")).c_str()));
+    const fs::path lock = m_folder / "logs" / "log4cxx.lock";
+    EXPECT_EQ(fs::status(lock).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    // Reading the file is enough. The lock is the open file's, as if another process had it.
+    const int held = ::open(lock.c_str(), O_RDONLY);
+    ASSERT_EQ(::flock(held, LOCK_SH), 0);
+    testing::internal::CaptureStderr();
+    const auto begin = std::chrono::steady_clock::now();
+    for (int i = 0; i < 100; ++i) {
+        LogInfoMessage("a", "left out", "f", 2);
+    }
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(8)) << "the wait is one of 5 s";
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "log: another process has " + lock.string() + " locked for 5 s: lines are left out\n");
+    ::flock(held, LOCK_UN);
+    LogInfoMessage("a", "first", "f", 3);
+    // What has its file needs no lock until it rolls over.
+    ::flock(held, LOCK_SH);
+    LogInfoMessage("a", "beside the lock", "f", 4);
+    ::close(held);
+    EXPECT_EQ(lines(), (Lines{"INFO|a|f|3|first", "INFO|a|f|4|beside the lock"}));
 }
 
 TEST_F(zvLoggerLibraryTest, RefusesInvalidConfigurationsWithAReason) {

@@ -34,6 +34,8 @@ std::string errorText(unsigned long error);
 
 /// Creates one directory, not its parents.
 bool createDirectory(const wchar16* path);
+/// Whether lastError() says that there is something of this name already, also a link that leads nowhere.
+bool wasNameTaken();
 /// Creates a new, empty file; fails if it exists.
 Handle createFile(const wchar16* path);
 /// False for refusedHandle, which leaves lastError() unchanged.

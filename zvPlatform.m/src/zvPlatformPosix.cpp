@@ -125,6 +125,8 @@ bool createDirectory(const wchar16* path) {
     return succeeded(!native.empty() && ::mkdir(native.c_str(), directoryMode) == 0);
 }
 
+bool wasNameTaken() { return lastFailure == EEXIST; }
+
 Handle createFile(const wchar16* path) {
     const std::string native = nativePath(path);
     const int descriptor =

@@ -63,6 +63,8 @@ std::string errorText(unsigned long error) { return std::system_category().messa
 
 bool createDirectory(const wchar16* path) { return succeeded(::CreateDirectoryW(wide(path), nullptr) != 0); }
 
+bool wasNameTaken() { return lastFailure == ERROR_ALREADY_EXISTS; }
+
 Handle createFile(const wchar16* path) {
     const HANDLE handle = ::CreateFileW(wide(path), FILE_ALL_ACCESS, FILE_SHARE_READ | FILE_SHARE_WRITE,
                                         nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);

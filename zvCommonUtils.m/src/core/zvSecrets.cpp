@@ -13,10 +13,18 @@ struct AddedKey {
     zvString key;
     std::string narrow;
 
+    // A backslash before a "=" of the key puts it there, and counts as it does in arguments: not.
     bool isIn(const zvString& text) const {
-        const int size = key.size();
-        return text.size() >= size && text.find(key, 0, size - 1) == 0 &&
-               (text.size() == size || text[size] == u'=');
+        int at = 0;
+        for (int i = 0; i < key.size(); ++i, ++at) {
+            if (key[i] == u'=' && at + 1 < text.size() && text[at] == u'\\' && text[at + 1] == u'=') {
+                ++at;
+            }
+            if (at >= text.size() || text[at] != key[i]) {
+                return false;
+            }
+        }
+        return at == text.size() || text[at] == u'=';
     }
 };
 

@@ -84,7 +84,7 @@ std::int32_t nextCandidate(std::int32_t candidate) {
 }
 
 // Creates the event's directory under the first free number and sets `name` and `path`. Retries when another
-// process wins the race for a number under the same root.
+// process wins the race for a number under the same root, or a link that leads nowhere has the name.
 zvResult createEventDirectory(const zvString& root, zvString& name, zvString& path) {
     for (auto candidate = static_cast<std::int32_t>(zvPlatform::currentTime());;
          candidate = nextCandidate(candidate)) {
@@ -94,7 +94,8 @@ zvResult createEventDirectory(const zvString& root, zvString& name, zvString& pa
             continue;
         }
         const zvResult created = zvDirFileUtils::createDirectory(path);
-        if (created.isOk() || !zvDirFileUtils::isAccessible(path, zvPlatform::existence)) {
+        if (created.isOk() ||
+            !(zvPlatform::wasNameTaken() || zvDirFileUtils::isAccessible(path, zvPlatform::existence))) {
             return created;
         }
     }

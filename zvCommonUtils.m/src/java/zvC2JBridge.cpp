@@ -100,6 +100,7 @@ zvString textOrNone(Ask ask) {
 std::unique_ptr<zvC2JBridge> zvC2JBridge::m_pBridge;
 std::string zvC2JBridge::m_searchedPlaces;
 std::vector<std::string> zvC2JBridge::m_options;
+void (*zvC2JBridge::m_pEndObserver)() = nullptr;
 
 zvC2JBridge* zvC2JBridge::getInstance() {
     if (m_pBridge == nullptr) {
@@ -144,6 +145,7 @@ bool zvC2JBridge::initialize() {
     for (const std::string& option : m_options) {
         options.add(option.c_str());
     }
+    addEndHooks(options);
     if (!startMachine(options)) {
         logger.fatal("Failed to initialize the Java virtual machine");
         return false;
@@ -195,6 +197,15 @@ bool zvC2JBridge::startMachine(zvJvmOptionList& options) {
     arguments.ignoreUnrecognized = JNI_FALSE;
     void* env = nullptr;
     return m_pCreateJavaVM(&m_pMachine, &env, &arguments) == JNI_OK;
+}
+
+void zvC2JBridge::addEndHooks(zvJvmOptionList& options) {
+    if (m_pEndObserver != nullptr) {
+        void(JNICALL* const atExit)(jint) = [](jint) { m_pEndObserver(); };
+        void(JNICALL* const atAbort)() = [] { m_pEndObserver(); };
+        options.add("exit", reinterpret_cast<void*>(atExit));
+        options.add("abort", reinterpret_cast<void*>(atAbort));
+    }
 }
 
 bool zvC2JBridge::adoptMachine() {

@@ -10,6 +10,8 @@
 #include "zvException.h"
 #include "zvJniFrame.h"
 
+class zvJvmOptionList;
+
 /// The bridge to the in-process Java virtual machine: one that already runs, else one that is started with
 /// the class path in the environment variable CLASSPATH. The JVM lives until the process ends.
 class zvC2JBridge {
@@ -25,6 +27,8 @@ public:
     /// Ends the JVM that was started, if any, once Java's own threads have ended: none can be started after
     /// it.
     static void destroyInstance();
+    /// Sets what is called when a JVM that is started later ends the process; null for nothing.
+    static void setEndObserver(void (*observer)()) { m_pEndObserver = observer; }
     /// Where the last attempt to start a JVM looked for its library; empty before the first one.
     static zvString searchedPlaces() { return m_searchedPlaces.c_str(); }
 
@@ -48,13 +52,15 @@ private:
 
     bool initialize();
     bool loadLibrary();
-    bool startMachine(class zvJvmOptionList& options);
+    bool startMachine(zvJvmOptionList& options);
     bool adoptMachine();
+    static void addEndHooks(zvJvmOptionList& options);
     void logVersion() const;
 
     static std::unique_ptr<zvC2JBridge> m_pBridge;
     static std::string m_searchedPlaces;
     static std::vector<std::string> m_options;
+    static void (*m_pEndObserver)();
 
     void* m_pLibrary = nullptr;
     CreateJavaVM m_pCreateJavaVM = nullptr;

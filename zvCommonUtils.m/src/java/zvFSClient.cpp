@@ -202,6 +202,8 @@ void zvFSClient::addJavaOption(const zvString& option) {
     zvC2JBridge::addOption(zvCharString(option).data());
 }
 
+void zvFSClient::setJavaEndObserver(void (*observer)()) { zvC2JBridge::setEndObserver(observer); }
+
 void zvFSClient::setSecret(const zvString& name, const zvString& value) { zvFSSecrets::set(name, value); }
 
 void zvFSClient::setObserver(zvTransferObserver* observer) { zvFSNotices::setObserver(observer); }

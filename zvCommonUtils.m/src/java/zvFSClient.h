@@ -31,6 +31,10 @@ public:
     /// Adds an option for the JVM, as the `java` command has them. It counts for a JVM that getInstance()
     /// starts later, and a wrong one keeps that from starting.
     static void addJavaOption(const zvString& option);
+    /// Sets what is called when a JVM that getInstance() starts later ends the process, as it does without
+    /// memory; null for nothing. It may be called by any thread, and while the JVM starts the process may end
+    /// by exit() instead.
+    static void setJavaEndObserver(void (*observer)());
     /// Sets a secret to which the configuration refers as ${secret:NAME}. Java gets the secrets from
     /// getInstance(configPath), as the system properties zv.secret.NAME, until it returns. They are not
     /// logged, and appear neither in the environment nor on a command line.

@@ -16,11 +16,11 @@ void zvJvmOptionList::add(zvMalloc::Array<char> option, void* extraInformation) 
     m_pOptions[static_cast<std::size_t>(m_count++)] = {option.release(), extraInformation};
 }
 
-void zvJvmOptionList::add(const char* option) {
+void zvJvmOptionList::add(const char* option, void* extraInformation) {
     const std::size_t size = std::strlen(option) + 1;
     zvMalloc::Array<char> copy = zvMalloc::allocate<char>(size);
     std::copy_n(option, size, copy.get());
-    add(std::move(copy));
+    add(std::move(copy), extraInformation);
 }
 
 void zvJvmOptionList::addClassPath(const char* classPath) {

@@ -16,7 +16,7 @@ public:
     /// Appends an option and takes ownership of its text.
     void add(zvMalloc::Array<char> option, void* extraInformation = nullptr);
     /// Appends a copy of the option.
-    void add(const char* option);
+    void add(const char* option, void* extraInformation = nullptr);
     /// Appends the class path, with this system's path list separator.
     void addClassPath(const char* classPath);
 

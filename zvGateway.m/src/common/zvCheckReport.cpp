@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "zvConsole.h"
+#include "zvShownArguments.h"
 #include "zvUtf8.h"
 
 using nlohmann::ordered_json;
@@ -100,8 +101,9 @@ void zvCheckReport::addUnreadable(const zvString& name, const zvProgramFailure& 
     m_files.push_back({name, m_inFile, false});
     m_inFile = {};
     zvConsole::flush();
-    std::fprintf(stderr, "zvgateway: %s: %s: %s\n", failure.step.c_str(), failure.subject.c_str(),
-                 failure.reason.c_str());
+    std::fprintf(
+        stderr, "zvgateway: %s\n",
+        zvShownArguments::masked(failure.step + ": " + failure.subject + ": " + failure.reason).c_str());
 }
 
 void zvCheckReport::count(const zvFinding& finding, zvExitCode exitCode) {

@@ -5,9 +5,11 @@
 #include <iterator>
 
 #include "zvCharString.h"
+#include "zvControlCharacter.h"
 #include "zvDirFileUtils.h"
 #include "zvFailure.h"
 #include "zvProcess.h"
+#include "zvShownArguments.h"
 #include "zvUtf8.h"
 
 namespace {
@@ -46,7 +48,7 @@ void leaveStandardOutput() {
 bool hasLeftStandardOutput() { return out == stderr; }
 
 void print(const std::string& answer) {
-    std::fputs(answer.c_str(), answers);
+    std::fputs(zvShownArguments::masked(answer).c_str(), answers);
     answered = true;
 }
 
@@ -55,10 +57,9 @@ bool hasAnswered() { return answered; }
 bool flush() { return std::fflush(answers) == 0 && std::ferror(answers) == 0; }
 
 std::string printable(const zvString& text) {
-    std::string narrow = zvCharString(text).data();
-    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7f'; };
-    std::replace_if(narrow.begin(), narrow.end(), isControl, '?');
-    return narrow;
+    std::u16string shown(text.data(), text.data() + text.size());
+    std::replace_if(shown.begin(), shown.end(), zvIsControlCharacter, u'?');
+    return zvCharString(zvString(shown.c_str())).data();
 }
 
 std::string printableUtf8(const std::string& text) {
@@ -82,7 +83,7 @@ void note(const std::string& text) { outcome(text, false); }
 void outcome(const std::string& text, bool isFailure) {
     if (!quiet || isFailure) {
         rewrite("");
-        std::fprintf(stderr, "%s\n", text.c_str());
+        std::fprintf(stderr, "%s\n", zvShownArguments::masked(text).c_str());
     }
 }
 
@@ -95,7 +96,7 @@ void fact(const std::string& name, const std::string& value) {
         std::fprintf(out, "%s\n", heading);
         heading = nullptr;
     }
-    std::fprintf(out, "  %-22s %s\n", name.c_str(), value.c_str());
+    std::fprintf(out, "  %-22s %s\n", name.c_str(), zvShownArguments::masked(value).c_str());
     std::fflush(out);
 }
 

@@ -21,7 +21,8 @@ bool hasAnswered();
 /// Whether all that was printed has reached standard output. To be asked once, at the end.
 bool flush();
 
-/// The text in the process's locale, its control characters, which a terminal would obey, replaced by "?".
+/// The text in the process's locale, its control characters, which a terminal would obey, replaced by "?", as
+/// are ends of lines and what turns the direction of writing.
 std::string printable(const zvString& text);
 /// The same for a text that is UTF-8, whatever the locale.
 std::string printableUtf8(const std::string& text);

@@ -83,8 +83,12 @@ bool zvEventHistory::isRecorded(const zvString& key, const zvString& value) {
 }
 
 std::string zvEventHistory::read(const std::filesystem::path& file, Detail detail, std::error_code& error) {
+    const std::filesystem::file_status status = std::filesystem::symlink_status(file, error);
+    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
+        return "it is no regular file";
+    }
     std::string content;
-    const int descriptor = zvProcess::openForReading(file, error);
+    const int descriptor = zvProcess::openRegularFile(file, error);
     if (!error) {
         error = zvProcess::readToEnd(descriptor, mostBytes, content);
     }

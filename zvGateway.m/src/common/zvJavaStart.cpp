@@ -2,18 +2,16 @@
 
 #include <algorithm>
 #include <optional>
-#include <sstream>
 
-#include "zvCharString.h"
 #include "zvClassArchive.h"
 #include "zvCommonUtils.h"
 #include "zvConsole.h"
 #include "zvDeliveredFile.h"
-#include "zvDirFileUtils.h"
 #include "zvFSClient.h"
 #include "zvFailure.h"
+#include "zvHomeSettings.h"
 #include "zvProcess.h"
-#include "zvProperties.h"
+#include "zvProcessEnd.h"
 
 namespace {
 
@@ -32,17 +30,17 @@ bool isSet(const char* name) { return !zvCommonUtils::getEnvironmentalVariable(n
 // These variables reach the machine, too, and may contradict.
 bool hasForeignOptions() { return isSet("JAVA_TOOL_OPTIONS") || isSet("_JAVA_OPTIONS"); }
 
-// False if the site has a client of its own.
-bool offerClient() {
-    if (isSet("CLASSPATH")) {
-        return false;
-    }
+// The delivered Java client. Returns why there is none: Java would take classes from the folder that the
+// program was started in, whoever put them there.
+zvString offerClient() {
     const std::string jar = findDeliveredFile("../" ZV_DATA_FOLDER "/zvFileServerClient.jar",
                                               "../zvFileServerClient.j/zvFileServerClient.jar");
-    if (!jar.empty()) {
-        zvProcess::setEnvironment("CLASSPATH", jar.c_str());
+    if (jar.empty()) {
+        return "there is no file server client: zvFileServerClient.jar is missing where the program is "
+               "installed, and CLASSPATH names no other one";
     }
-    return !jar.empty();
+    zvProcess::setEnvironment("CLASSPATH", jar.c_str());
+    return {};
 }
 
 bool choosesCollector(const std::string& option) {
@@ -54,19 +52,9 @@ bool choosesCollector(const std::string& option) {
 
 // What an event's machine starts with. The site's come last, and so count.
 struct Choice {
-    Choice() {
-        zvProperties properties;
-        const zvString file = zvCommonUtils::getConfigurationFile("client-config.ini");
-        const bool isRead =
-            zvDirFileUtils::isAccessible(file, zvDirFileUtils::readable) && properties.parse(file).isOk();
-        std::istringstream words(isRead ? zvCharString(properties.getPropertyValue("java-options")).data()
-                                        : "");
-        for (std::string word; words >> word;) {
-            site.push_back(word);
-        }
-        zvString archive = isRead ? properties.getPropertyValue("java-archive") : zvString();
-        archive.trim();
-        wantsArchive = archive != "off" && !hasForeignOptions();
+    Choice()
+        : site(zvHomeSettings::javaOptions()),
+          wantsArchive(!hasForeignOptions() && zvHomeSettings::wantsJavaArchive()) {
         if (!hasForeignOptions()) {
             own = ownOptions;
             if (std::none_of(site.begin(), site.end(), choosesCollector)) {
@@ -82,8 +70,8 @@ struct Choice {
     }
 
     Options own;
-    Options site;
-    bool wantsArchive = false;
+    const Options site;
+    const bool wantsArchive;
 };
 
 void add(const Options& options) {
@@ -94,13 +82,18 @@ void add(const Options& options) {
 
 }  // namespace
 
-void zvJavaStart::prepare() {
+zvString zvJavaStart::prepare() {
     static bool isPrepared = false;
     if (isPrepared) {
-        return;
+        return {};
+    }
+    const bool isDelivered = !isSet("CLASSPATH");
+    const zvString refusal = isDelivered ? offerClient() : zvString();
+    if (!refusal.empty()) {
+        return refusal;
     }
     isPrepared = true;
-    const bool isDelivered = offerClient();
+    zvFSClient::setJavaEndObserver(zvProcessEnd::notify);
     const Choice choice;
     add(choice.own);
     if (isDelivered && choice.wantsArchive) {
@@ -111,6 +104,7 @@ void zvJavaStart::prepare() {
         }
     }
     add(choice.site);
+    return {};
 }
 
 void zvJavaStart::leaveArchive() {
@@ -121,11 +115,12 @@ void zvJavaStart::leaveArchive() {
 }
 
 std::string zvJavaStart::makeArchive() {
-    const auto failure = [](const char* reason) {
-        return zvProgramFailure{zvExitCode::unexpected, "prepare-java", "", reason};
+    const auto failure = [](const zvString& reason) {
+        return zvProgramFailure{zvExitCode::unexpected, "prepare-java", "", zvConsole::printable(reason)};
     };
-    if (!offerClient()) {
-        throw failure("there is no delivered client, or CLASSPATH names another one");
+    const zvString refusal = isSet("CLASSPATH") ? "CLASSPATH names another client" : offerClient();
+    if (!refusal.empty()) {
+        throw failure(refusal);
     }
     const Choice choice;
     if (!choice.wantsArchive) {

@@ -4,14 +4,16 @@
 #include <string>
 #include <vector>
 
+#include "zvString.h"
+
 /// How the Java machine of this process starts: with which client, options and archive of classes.
 namespace zvJavaStart {
 
 /// Makes known the delivered client, unless CLASSPATH names one of the site's own, the options for short
 /// work, unless the environment has others, those of the key "java-options" in the client configuration, and
 /// the archive of the client's classes, if there is one. To be called before Java is needed; again, it does
-/// nothing.
-void prepare();
+/// nothing. Returns why there is no client that Java could run; empty if there is one.
+[[nodiscard]] zvString prepare();
 
 /// Makes the archive if prepare() missed it. A failure is nobody's: the next process tries again.
 void leaveArchive();

@@ -29,6 +29,8 @@ struct Frame {
     /// The page's own style, after the common one. Tables are laid out by their class; a narrow window names
     /// cells by its "td:nth-child(N)::before".
     const char* style = "";
+    /// Its hash, as zv_embed_text gives it beside the text.
+    const char* styleHash = "";
 };
 
 /// The text as content of an element, and as a quoted attribute.

@@ -39,7 +39,8 @@ public:
     FileLock& operator=(const FileLock&) = delete;
     ~FileLock();
 
-    /// Takes the lock; to be called once. The file is created if need be. `error` is the reason of a refusal.
+    /// Takes the lock; to be called once. The file is created if need be; a link, and what is no regular
+    /// file, is refused. `error` is the reason of a refusal.
     Lock take(const std::filesystem::path& file, std::error_code& error);
 
 private:
@@ -56,7 +57,8 @@ bool run(const std::filesystem::path& program, const std::vector<std::string>& a
 /// Seconds since 1970 of an instant in UTC.
 std::int64_t toSeconds(std::tm utc);
 
-/// Appends to the file; if `isDurable`, returns once it is on the disk. An empty error for success.
+/// Appends to the file; if `isDurable`, returns once it is on the disk. A link, and what is no regular file,
+/// is refused. An empty error for success.
 std::error_code appendToFile(const std::filesystem::path& file, const std::string& text, bool isDurable);
 
 /// Returns once what was appended to the file is on the disk. An empty error for success.
@@ -64,6 +66,8 @@ std::error_code flushToDisk(const std::filesystem::path& file);
 
 /// A descriptor from which the file is read; -1 and the reason in `error` if it cannot be opened.
 int openForReading(const std::filesystem::path& file, std::error_code& error);
+/// The same for a regular file alone: a link is refused, and a pipe, which might keep the process waiting.
+int openRegularFile(const std::filesystem::path& file, std::error_code& error);
 /// Whether this process's user owns the open file, and nobody else but the superuser has any right to it.
 /// Always true on Windows, where access lists say so.
 bool isPrivate(int descriptor);
@@ -74,6 +78,23 @@ bool makePrivateFolder(const std::filesystem::path& folder);
 /// an error.
 std::error_code readToEnd(int descriptor, std::size_t limit, std::string& content);
 void close(int descriptor);
+
+/// While it lives, what this process creates lacks the rights in `mask`, as in a umask; -1 changes nothing.
+/// Nothing on Windows, where a folder's access list says who has which.
+class NewFileRights {
+public:
+    explicit NewFileRights(int mask);
+    NewFileRights(const NewFileRights&) = delete;
+    NewFileRights& operator=(const NewFileRights&) = delete;
+    ~NewFileRights();
+
+private:
+    int m_before = -1;
+};
+
+/// From now on a file that would become larger than the process may write is an error like a full disk, and
+/// does not end the process.
+void reportFullFiles();
 
 /// Keeps standard output for the caller alone: what the process writes to it otherwise, libraries included,
 /// goes to standard error from now on. Null, with nothing changed, if that fails.

@@ -39,22 +39,40 @@ namespace {
 
 constexpr mode_t newFileMode = 0666;  // as the process's umask has it
 
+std::error_code lastError() { return {errno, std::generic_category()}; }
+
+// -1 and the reason for a link and for what is no regular file. A pipe opens without waiting for its other
+// end.
+int openRegular(const std::filesystem::path& file, int flags, std::error_code& error) {
+    const int descriptor = ::open(file.c_str(), flags | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, newFileMode);
+    struct stat status {};
+    error = descriptor < 0 || ::fstat(descriptor, &status) != 0 ? lastError() : std::error_code();
+    if (!error && !S_ISREG(status.st_mode)) {
+        error = std::make_error_code(std::errc::invalid_argument);
+    }
+    if (error && descriptor >= 0) {
+        ::close(descriptor);
+    }
+    return error ? -1 : descriptor;
+}
+
 }  // namespace
 
 // Of the open file and not of the process, as a thread's or a library's other lock would be.
 zvProcess::Lock zvProcess::FileLock::take(const std::filesystem::path& file, std::error_code& error) {
-    const int descriptor = ::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, newFileMode);
+    const int descriptor = openRegular(file, O_RDWR | O_CREAT, error);
+    if (descriptor < 0) {
+        return Lock::refused;
+    }
     struct flock whole {};
     whole.l_type = F_WRLCK;
     whole.l_whence = SEEK_SET;
-    if (descriptor >= 0 && ::fcntl(descriptor, F_OFD_SETLK, &whole) == 0) {
+    if (::fcntl(descriptor, F_OFD_SETLK, &whole) == 0) {
         m_handle = descriptor;
         return Lock::taken;
     }
-    error = {errno, std::generic_category()};
-    if (descriptor >= 0) {
-        ::close(descriptor);
-    }
+    error = lastError();
+    ::close(descriptor);
     return error.value() == EAGAIN || error.value() == EACCES ? Lock::heldByAnother : Lock::refused;
 }
 
@@ -66,7 +84,8 @@ zvProcess::FileLock::~FileLock() {
 
 // Asks without taking it, which would keep off an event that begins at this moment.
 bool zvProcess::isLocked(const std::filesystem::path& file) {
-    const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
+    std::error_code error;
+    const int descriptor = openRegular(file, O_RDONLY, error);
     if (descriptor < 0) {
         return false;
     }
@@ -128,12 +147,8 @@ std::string zvProcess::hostName() {
 
 std::error_code zvProcess::appendToFile(const std::filesystem::path& file, const std::string& text,
                                         bool isDurable) {
-    const auto lastError = [] { return std::error_code(errno, std::generic_category()); };
-    const int descriptor = ::open(file.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, newFileMode);
-    if (descriptor < 0) {
-        return lastError();
-    }
     std::error_code error;
+    const int descriptor = openRegular(file, O_WRONLY | O_APPEND | O_CREAT, error);
     for (std::size_t written = 0; written < text.size() && !error;) {
         const ssize_t count = ::write(descriptor, text.data() + written, text.size() - written);
         if (count >= 0) {
@@ -145,7 +160,7 @@ std::error_code zvProcess::appendToFile(const std::filesystem::path& file, const
     if (!error && isDurable && ::fdatasync(descriptor) != 0) {
         error = lastError();
     }
-    if (::close(descriptor) != 0 && !error) {
+    if (descriptor >= 0 && ::close(descriptor) != 0 && !error) {
         error = lastError();
     }
     return error;
@@ -155,6 +170,10 @@ int zvProcess::openForReading(const std::filesystem::path& file, std::error_code
     const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
     error = {descriptor < 0 ? errno : 0, std::generic_category()};
     return descriptor;
+}
+
+int zvProcess::openRegularFile(const std::filesystem::path& file, std::error_code& error) {
+    return openRegular(file, O_RDONLY, error);
 }
 
 bool zvProcess::isPrivate(int descriptor) {
@@ -193,6 +212,20 @@ std::error_code zvProcess::readToEnd(int descriptor, std::size_t limit, std::str
 }
 
 void zvProcess::close(int descriptor) { ::close(descriptor); }
+
+zvProcess::NewFileRights::NewFileRights(int mask) {
+    if (mask >= 0) {
+        m_before = static_cast<int>(::umask(static_cast<mode_t>(mask)));
+    }
+}
+
+zvProcess::NewFileRights::~NewFileRights() {
+    if (m_before >= 0) {
+        ::umask(static_cast<mode_t>(m_before));
+    }
+}
+
+void zvProcess::reportFullFiles() { std::signal(SIGXFSZ, SIG_IGN); }
 
 std::FILE* zvProcess::reserveStandardOutput() {
     std::fflush(stdout);

@@ -41,10 +41,23 @@ void zvProcess::setEnvironment(const char* name, const char* value) {
 
 namespace {
 
-HANDLE openToLock(const std::filesystem::path& file, DWORD creation) {
-    return ::CreateFileW(file.c_str(), GENERIC_READ | GENERIC_WRITE,
-                         FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, creation,
-                         FILE_ATTRIBUTE_NORMAL, nullptr);
+// A link opens itself, which is refused, as are folders and pipes.
+HANDLE openRegular(const std::filesystem::path& file, DWORD access, DWORD creation) {
+    const HANDLE handle =
+        ::CreateFileW(file.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                      creation, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    FILE_ATTRIBUTE_TAG_INFO info{};
+    if (handle == INVALID_HANDLE_VALUE) {
+        return handle;
+    }
+    if (::GetFileType(handle) == FILE_TYPE_DISK &&
+        ::GetFileInformationByHandleEx(handle, FileAttributeTagInfo, &info, sizeof(info)) != 0 &&
+        (info.FileAttributes & (FILE_ATTRIBUTE_REPARSE_POINT | FILE_ATTRIBUTE_DIRECTORY)) == 0) {
+        return handle;
+    }
+    ::CloseHandle(handle);
+    ::SetLastError(ERROR_INVALID_PARAMETER);
+    return INVALID_HANDLE_VALUE;
 }
 
 // Locks a byte far beyond the end, where the lock keeps nobody from reading. False for one that another
@@ -61,7 +74,7 @@ zvProcess::Lock zvProcess::FileLock::take(const std::filesystem::path& file, std
     const auto lastError = [] {
         return std::error_code(static_cast<int>(::GetLastError()), std::system_category());
     };
-    const HANDLE handle = openToLock(file, OPEN_ALWAYS);
+    const HANDLE handle = openRegular(file, GENERIC_READ | GENERIC_WRITE, OPEN_ALWAYS);
     if (handle == INVALID_HANDLE_VALUE) {
         error = lastError();
         return Lock::refused;
@@ -89,7 +102,7 @@ zvProcess::FileLock::~FileLock() {
 
 // The system tells no more than whether a lock can be taken.
 bool zvProcess::isLocked(const std::filesystem::path& file) {
-    const HANDLE handle = openToLock(file, OPEN_EXISTING);
+    const HANDLE handle = openRegular(file, GENERIC_READ | GENERIC_WRITE, OPEN_EXISTING);
     if (handle == INVALID_HANDLE_VALUE) {
         return false;
     }
@@ -156,9 +169,7 @@ std::error_code zvProcess::appendToFile(const std::filesystem::path& file, const
     const auto lastError = [] {
         return std::error_code(static_cast<int>(::GetLastError()), std::system_category());
     };
-    const HANDLE handle =
-        ::CreateFileW(file.c_str(), FILE_APPEND_DATA, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                      nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE handle = openRegular(file, FILE_APPEND_DATA | FILE_READ_ATTRIBUTES, OPEN_ALWAYS);
     if (handle == INVALID_HANDLE_VALUE) {
         return lastError();
     }
@@ -176,6 +187,16 @@ int zvProcess::openForReading(const std::filesystem::path& file, std::error_code
     const int descriptor = ::_wopen(file.c_str(), _O_RDONLY | _O_BINARY);
     error = {descriptor < 0 ? errno : 0, std::generic_category()};
     return descriptor;
+}
+
+int zvProcess::openRegularFile(const std::filesystem::path& file, std::error_code& error) {
+    const HANDLE handle = openRegular(file, GENERIC_READ, OPEN_EXISTING);
+    if (handle == INVALID_HANDLE_VALUE) {
+        error = {static_cast<int>(::GetLastError()), std::system_category()};
+        return -1;
+    }
+    error.clear();
+    return ::_open_osfhandle(reinterpret_cast<std::intptr_t>(handle), _O_RDONLY | _O_BINARY);
 }
 
 bool zvProcess::isPrivate(int) { return true; }
@@ -207,6 +228,12 @@ std::error_code zvProcess::readToEnd(int descriptor, std::size_t limit, std::str
 }
 
 void zvProcess::close(int descriptor) { ::_close(descriptor); }
+
+zvProcess::NewFileRights::NewFileRights(int) {}
+zvProcess::NewFileRights::~NewFileRights() = default;
+
+// The system has no such limit.
+void zvProcess::reportFullFiles() {}
 
 std::FILE* zvProcess::reserveStandardOutput() {
     std::fflush(stdout);

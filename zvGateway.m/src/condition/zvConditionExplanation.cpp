@@ -8,6 +8,7 @@
 #include "zvConditionTree.h"
 #include "zvConsole.h"
 #include "zvICndComparisonCondition.h"
+#include "zvSecrets.h"
 
 using zvConditionTree::childrenOf;
 using zvConditionTree::isComparison;
@@ -30,6 +31,12 @@ std::string valueOf(const zvCndOperand& operand, const zvCndContext& context) {
     return context.getAttribute(operand.getValue().getStrValue(), attribute)
                ? "'" + zvConsole::printable(attribute.getValue().getValue()) + "'"
                : "no such attribute";
+}
+
+// The secret key that the comparison has on one of its sides; null for none.
+const char* secretKeyIn(const zvCndComparisonCondition& comparison) {
+    const char* const left = zvSecrets::keyIn(comparison->getLHSOperand().getValue().getValue());
+    return left != nullptr ? left : zvSecrets::keyIn(comparison->getRHSOperand().getValue().getValue());
 }
 
 // A part whose children are being visited.
@@ -108,11 +115,14 @@ std::string zvConditionExplanation::describe(const Node& node) const {
     if (!isComparison(type)) {
         return std::string(nameOf(type)) + ": " + outcome;
     }
+    const zvCndComparisonCondition comparison = zvCndConditionFactory::getComparisonCondition(node.condition);
+    if (const char* const secret = secretKeyIn(comparison)) {
+        return std::string("{") + secret + "} compared with " + zvSecrets::mask + ": " + outcome;
+    }
     const std::string text = zvConsole::printable(zvCndParsingUtils::createConditionString(node.condition));
     if (!node.outcome.has_value()) {
         return text + ": " + outcome;
     }
-    const zvCndComparisonCondition comparison = zvCndConditionFactory::getComparisonCondition(node.condition);
     return text + "  [" + valueOf(comparison->getLHSOperand(), m_context) + ", " +
            valueOf(comparison->getRHSOperand(), m_context) + "]: " + outcome;
 }

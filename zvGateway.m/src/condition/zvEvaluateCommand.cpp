@@ -6,6 +6,8 @@
 #include "zvConditionExplanation.h"
 #include "zvConsole.h"
 #include "zvDataTypeWords.h"
+#include "zvSecrets.h"
+#include "zvShownArguments.h"
 #include "zvTypedValue.h"
 
 namespace {
@@ -43,11 +45,13 @@ void printFault(const zvString& condition, int position) {
     std::fprintf(stderr, "  %s%s\n  %*s\n", before.c_str(), after.c_str(), columns + 1, "^");
 }
 
+std::string shown(const zvString& message) { return zvShownArguments::masked(zvConsole::printable(message)); }
+
 zvExitCode refuse(const zvString& condition, const zvException& exception) {
     const zvResult result = exception.getResult();
     const zvString position = result.getAdditionalInformation();
-    std::fprintf(stderr, "zvgateway: condition: %s\n", zvConsole::printable(result.getMessage()).c_str());
-    if (!position.empty()) {
+    std::fprintf(stderr, "zvgateway: condition: %s\n", shown(result.getMessage()).c_str());
+    if (!position.empty() && zvSecrets::keyIn(condition) == nullptr) {
         printFault(condition, zvString::convertUnicodeToInt(position));
     }
     return zvExitCode::usage;

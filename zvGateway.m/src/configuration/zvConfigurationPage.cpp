@@ -81,7 +81,8 @@ zvConfigurationPage::zvConfigurationPage(const zvCfgConfigManager& configuration
     m_html = zvPage::begin({title,
                             "Search types, attributes, rules, extensions, views, states",
                             {objects, fileTypes, views, lifecycles},
-                            zvConfigurationPageCss});
+                            zvConfigurationPageCss,
+                            zvConfigurationPageCssHash});
     addObjects(configuration);
     addFiles(configuration);
     addViews(configuration);

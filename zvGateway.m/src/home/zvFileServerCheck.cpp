@@ -42,8 +42,11 @@ zvFileServerCheck::zvFileServerCheck(const zvString& file, zvCheckReport& report
       m_bDelivered(zvCommonUtils::getEnvironmentalVariable("CLASSPATH").empty()) {}
 
 void zvFileServerCheck::run(bool isOffline) {
-    zvJavaStart::prepare();
-    const bool hasClient = findJava() && findClient();
+    const zvString refusal = zvJavaStart::prepare();
+    if (!refusal.empty()) {
+        addError(zvCheckPlace(client), zvHomeCheckKind::missingClass, refusal);
+    }
+    const bool hasClient = refusal.empty() && findJava() && findClient();
     Faults faults = hasClient ? askClient() : Faults();
     const bool isValid = m_bAsked && faults.empty();
     checkKeys(std::move(faults));

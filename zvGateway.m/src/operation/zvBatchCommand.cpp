@@ -14,6 +14,7 @@
 #include "zvCharString.h"
 #include "zvConsole.h"
 #include "zvEventArguments.h"
+#include "zvHomeSettings.h"
 #include "zvInterruption.h"
 #include "zvUtf8Text.h"
 
@@ -137,7 +138,11 @@ zvEventOutcome zvBatchCommand::runIn(const std::string& root, const zvBatchEntry
         return outcome;
     }
     std::error_code error;
-    fs::create_directory(fs::path(root) / directory, error);
+    {
+        std::string fault;  // the road tells it
+        const zvProcess::NewFileRights rights(zvHomeSettings::shadowMask(fault));
+        fs::create_directory(fs::path(root) / directory, error);
+    }
     if (error) {
         zvEventOutcome outcome;
         outcome.setFailure({zvExitCode::shadowDirectory, "shadow directory",

@@ -84,6 +84,7 @@ std::string zvEventListPage::html(const std::string& root) const {
     frame.title = zvString("Events in ") + zvConsole::printable(root.c_str()).c_str();
     frame.searched = "Directory, EventId, event, object, reason";
     frame.style = zvEventListPageCss;
+    frame.styleHash = zvEventListPageCssHash;
     for (const StateSection& entry : sections) {
         if (!m_groups[static_cast<std::size_t>(entry.state)].empty()) {
             frame.sections.push_back(entry.section);

@@ -81,7 +81,12 @@ void zvAttachmentsStep::copyList(const zvString& file) const {
     std::error_code error;
     const bool isItself = fs::equivalent(from, to, error);
     if (!isItself && !error) {
+        const fs::perms own = fs::status(to, error).permissions();
         fs::copy_file(from, to, fs::copy_options::overwrite_existing, error);
+        // The copy has got the rights of the list.
+        std::error_code refused;
+        fs::permissions(to, own, refused);
+        error = error ? error : refused;
     }
     if (!isItself && !error) {
         fs::last_write_time(to, fs::last_write_time(from, error), error);

@@ -1,5 +1,8 @@
 #include "zvEventRoad.h"
 
+#include <cstdio>
+#include <cstdlib>
+
 #include "zvArgumentsStep.h"
 #include "zvAttachmentsStep.h"
 #include "zvConfigurationStep.h"
@@ -9,9 +12,11 @@
 #include "zvInterruption.h"
 #include "zvMappingStep.h"
 #include "zvPostStep.h"
+#include "zvProcessEnd.h"
 #include "zvProgramLog.h"
 #include "zvSecrets.h"
 #include "zvShadowDirectoryStep.h"
+#include "zvShownArguments.h"
 #include "zvTransferStep.h"
 
 struct zvEventRoad::Step {
@@ -48,8 +53,10 @@ zvEventRoad::zvEventRoad(zvRoadSession& session, std::vector<std::string> argume
 }
 
 void zvEventRoad::run() {
+    zvShownArguments::setEvent(m_event.commandLine);
     m_event.eventId = eventIdOf(m_event.commandLine);
     m_event.logContext.setEventId(m_event.eventId);
+    const zvProcessEnd unexpected([this] { endWithProcess(); });
     try {
         walk();
     } catch (const zvProgramFailure& failure) {
@@ -57,6 +64,20 @@ void zvEventRoad::run() {
         throw;
     }
     end(nullptr);
+}
+
+// Called within a step, by a library that ends the process. Nothing of it has to be cleaned up.
+void zvEventRoad::endWithProcess() {
+    const zvProgramFailure failure = m_event.report.stop(
+        "Java",
+        "the Java machine ends the process; its own words stand above, or in its file hs_err_pid*.log");
+    end(&failure);
+    zvConsole::outcome(m_outcome.text(), true);
+    std::fprintf(stderr, "zvgateway: %s: %s: %s\n", failure.step.c_str(), failure.subject.c_str(),
+                 failure.reason.c_str());
+    zvConsole::flush();
+    std::fflush(nullptr);
+    std::_Exit(static_cast<int>(failure.exitCode));
 }
 
 void zvEventRoad::walk() {

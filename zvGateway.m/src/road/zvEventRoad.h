@@ -27,6 +27,7 @@ private:
     static const Step steps[];
 
     void walk();
+    [[noreturn]] void endWithProcess();
     void take(const Step& step);
     void recordOutcomes();
     void end(const zvProgramFailure* failure);

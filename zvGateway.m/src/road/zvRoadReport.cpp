@@ -9,6 +9,7 @@
 #include "zvConsole.h"
 #include "zvException.h"
 #include "zvInterruption.h"
+#include "zvShownArguments.h"
 
 namespace {
 
@@ -54,34 +55,45 @@ const char* textOf(zvStepOutcome::Kind kind) {
 zvRoadReport::zvRoadReport() : m_start(now()) {}
 
 void zvRoadReport::take(const char* name, zvExitCode exitCode, const std::function<zvStepOutcome()>& step) {
-    const double start = now();
+    m_running = {name, exitCode, now()};
     try {
         const zvStepOutcome outcome = step();
-        m_steps.push_back({name, textOf(outcome.kind), outcome.detail, now() - start});
+        m_steps.push_back(
+            {name, textOf(outcome.kind), zvShownArguments::masked(outcome.detail), now() - m_running.start});
     } catch (const zvStepFailure& failure) {
-        fail({exitCode, name, failure.subject, failure.reason, failure.isHeldByAnother}, start);
+        fail({exitCode, name, failure.subject, failure.reason, failure.isHeldByAnother});
     } catch (const zvInterruption& interruption) {
         constexpr int signalBase = 128;  // as shells count
         fail({static_cast<zvExitCode>(signalBase + interruption.signal), name, "interrupted",
-              "by signal " + std::to_string(interruption.signal)},
-             start);
+              "by signal " + std::to_string(interruption.signal)});
     } catch (const zvException& exception) {
         fail({zvExitCode::unexpected, name, "unexpected",
-              zvConsole::printable(exception.getResult().getMessage())},
-             start);
+              zvConsole::printable(exception.getResult().getMessage())});
     } catch (const std::exception& exception) {
-        fail({zvExitCode::unexpected, name, "unexpected", exception.what()}, start);
+        fail({zvExitCode::unexpected, name, "unexpected", zvConsole::printable(exception.what())});
     }
 }
 
-void zvRoadReport::fail(zvProgramFailure failure, double start) {
-    m_steps.push_back({failure.step, "failed", failure.subject + ": " + failure.reason, now() - start});
-    m_failure = std::move(failure);
+zvProgramFailure zvRoadReport::stop(const std::string& subject, const std::string& reason) {
+    keep({m_running.exitCode, m_running.name, subject, reason});
+    return *m_failure;
+}
+
+void zvRoadReport::fail(zvProgramFailure failure) {
+    keep(std::move(failure));
     throw zvProgramFailure(*m_failure);
 }
 
+void zvRoadReport::keep(zvProgramFailure failure) {
+    failure.subject = zvShownArguments::masked(failure.subject);
+    failure.reason = zvShownArguments::masked(failure.reason);
+    m_steps.push_back(
+        {failure.step, "failed", failure.subject + ": " + failure.reason, now() - m_running.start});
+    m_failure = std::move(failure);
+}
+
 void zvRoadReport::setFact(const char* key, const char* label, std::string value) {
-    m_facts.push_back({key, label, std::move(value)});
+    m_facts.push_back({key, label, zvShownArguments::masked(std::move(value))});
 }
 
 double zvRoadReport::milliseconds() const { return now() - m_start; }

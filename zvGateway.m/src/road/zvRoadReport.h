@@ -38,6 +38,9 @@ public:
     /// `exitCode` for a zvStepFailure, and as unexpected for every other exception.
     void take(const char* name, zvExitCode exitCode, const std::function<zvStepOutcome()>& step);
 
+    /// The failure of the step that is being run, which is kept. For the end of the process within it.
+    zvProgramFailure stop(const std::string& subject, const std::string& reason);
+
     /// One thing that a program finds by its key, and a person by its label at the end; either may be empty.
     void setFact(const char* key, const char* label, std::string value);
     void addFile(File file) { m_files.push_back(std::move(file)); }
@@ -63,7 +66,8 @@ public:
     const std::vector<Step>& steps() const { return m_steps; }
 
 private:
-    [[noreturn]] void fail(zvProgramFailure failure, double start);
+    [[noreturn]] void fail(zvProgramFailure failure);
+    void keep(zvProgramFailure failure);
 
     struct Fact {
         std::string key;
@@ -71,7 +75,14 @@ private:
         std::string value;
     };
 
+    struct Running {
+        const char* name = "";
+        zvExitCode exitCode = zvExitCode::unexpected;
+        double start = 0;
+    };
+
     double m_start;
+    Running m_running;
     std::vector<Step> m_steps;
     std::vector<Fact> m_facts;
     std::vector<File> m_files;

@@ -7,7 +7,10 @@
 
 #include "zvConsole.h"
 #include "zvDirFileUtils.h"
+#include "zvHomeSettings.h"
 #include "zvNativePath.h"
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -21,6 +24,22 @@ zvStepFailure failure(const zvString& file, const std::string& reason) {
 bool isPlainName(const zvString& name) {
     return name != "." && name != ".." && name.find("/") == -1 && name.find("\\") == -1 &&
            name.find(":") == -1;
+}
+
+// Of the file itself, and not of what a link leads to.
+fs::file_status statusOf(const zvString& file) {
+    std::error_code error;
+    return fs::symlink_status(toNativePath(file), error);
+}
+
+// Whoever may write into the root could lead the event's data elsewhere, or keep it waiting at a pipe.
+void requireOwnKind(const zvString& file, fs::file_type kind, const char* otherwise) {
+    const fs::file_status status = statusOf(file);
+    if (status.type() != kind) {
+        throw failure(file, fs::is_symlink(status) ? "it is a link, and could lead elsewhere"
+                            : fs::exists(status)   ? otherwise
+                                                   : "No such file or directory");
+    }
 }
 
 std::string refusal(const zvResult& result) {
@@ -38,13 +57,20 @@ zvStepOutcome zvShadowDirectoryStep::run() {
         throw failure(root, zvConsole::printable(error));
     }
     const zvString name = m_event.argument("EventShadowDir");
-    if (name.empty()) {
-        makeDirectory();
-    } else {
-        resumeIn(name);
+    std::string fault;
+    {
+        const zvProcess::NewFileRights rights(zvHomeSettings::shadowMask(fault));
+        if (name.empty()) {
+            makeDirectory();
+        } else {
+            resumeIn(name);
+        }
+        zvConsole::fact("directory", zvConsole::printablePath(m_event.directory()));
+        beginAttempt(given);
     }
-    zvConsole::fact("directory", zvConsole::printablePath(m_event.directory()));
-    beginAttempt(given);
+    if (!fault.empty()) {
+        zvConsole::fact("warning", fault);
+    }
     zvConsole::fact("event", zvConsole::printable(m_event.record->eventId()));
     for (const char* const key : fileKeys) {
         zvConsole::fact(key, zvConsole::printablePath(m_event.file(key)));
@@ -56,8 +82,11 @@ zvStepOutcome zvShadowDirectoryStep::run() {
 
 // The event gets a record only when it is the one whose record is there: another one's stays as it is.
 void zvShadowDirectoryStep::beginAttempt(const zvEventRecord::Given& given) {
-    auto record = std::make_unique<zvEventRecord>(
-        zvEventRecord::fileIn(m_event.directory(), m_event.argument("EventShadowDir")));
+    const zvString file = zvEventRecord::fileIn(m_event.directory(), m_event.argument("EventShadowDir"));
+    if (fs::exists(statusOf(file))) {
+        requireOwnKind(file, fs::file_type::regular, "it is no regular file");
+    }
+    auto record = std::make_unique<zvEventRecord>(file);
     const zvString givenId = m_event.argument("EventId");
     std::vector<std::string> differences = record->differencesFrom(given);
     if (!givenId.empty() && !record->eventId().empty() && givenId != record->eventId()) {
@@ -94,7 +123,7 @@ void zvShadowDirectoryStep::makeDirectoryAfter2038(const zvString& root) {
     for (auto candidate = static_cast<zvInt64>(std::time(nullptr));; ++candidate) {
         const zvString name = std::to_string(candidate).c_str();
         std::error_code error;
-        if (std::filesystem::create_directory(toNativePath(root + "\\" + name), error)) {
+        if (fs::create_directory(toNativePath(root + "\\" + name), error)) {
             m_event.arguments->setEventArgument("EventShadowDir", name);
             resumeIn(name);
             return;
@@ -109,16 +138,13 @@ void zvShadowDirectoryStep::resumeIn(const zvString& name) {
     if (!isPlainName(name)) {
         throw failure(name, "\"EventShadowDir\" has to be the name of a directory below \"RootShadowDir\"");
     }
-    std::error_code error;
-    if (!std::filesystem::is_directory(toNativePath(m_event.directory()), error)) {
-        throw failure(m_event.directory(), error ? error.message() : "Not a directory");
-    }
+    requireOwnKind(m_event.directory(), fs::file_type::directory, "it is no directory");
     m_event.arguments->setEventArgument("DataFileName", name + "_data.xml");
     m_event.arguments->setEventArgument("AttachmentsFileName", name + "_attachments.xml");
     std::string reason;
     for (const char* const key : fileKeys) {
         const zvString file = m_event.file(key);
-        if (!zvDirFileUtils::isAccessible(file, zvDirFileUtils::existence)) {
+        if (!fs::exists(statusOf(file))) {
             reason = refusal(zvDirFileUtils::createFile(file));
         }
     }
@@ -128,8 +154,9 @@ void zvShadowDirectoryStep::resumeIn(const zvString& name) {
 void zvShadowDirectoryStep::requireFiles(const std::string& reason) const {
     for (const char* const key : fileKeys) {
         const zvString file = m_event.file(key);
-        if (!zvDirFileUtils::isAccessible(file, zvDirFileUtils::existence)) {
+        if (!fs::exists(statusOf(file))) {
             throw failure(file, reason);
         }
+        requireOwnKind(file, fs::file_type::regular, "it is no regular file");
     }
 }

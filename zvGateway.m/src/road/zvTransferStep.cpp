@@ -145,7 +145,10 @@ void zvTransferStep::makeDirectory() {
 }
 
 zvStepOutcome zvTransferStep::send(const zvString& configuration) {
-    zvJavaStart::prepare();
+    const zvString refusal = zvJavaStart::prepare();
+    if (!refusal.empty()) {
+        throw zvException(refusal);
+    }
     m_event.session.secrets().forEach(
         [](const zvString& name, const zvString& value) { zvFSClient::setSecret(name, value); });
     m_signals.emplace();

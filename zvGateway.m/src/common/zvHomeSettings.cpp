@@ -1,0 +1,68 @@
+#include "zvHomeSettings.h"
+
+#include <cstdlib>
+#include <iterator>
+#include <sstream>
+
+#include "zvCharString.h"
+#include "zvClientConfigKey.h"
+#include "zvCommonUtils.h"
+#include "zvHomeFile.h"
+#include "zvSecrets.h"
+
+namespace {
+
+// The first line counts, as for every other key.
+zvString valueOf(const std::string& key) {
+    // Not by getConfigurationFile(), which says on standard output that there is no home.
+    const zvString home = zvCommonUtils::getEnvironmentalVariable(zvCommonUtils::getGatewayHomeEnvVariable());
+    if (home.empty()) {
+        return {};
+    }
+    std::string error;
+    const std::string content = zvHomeFile::read(home + "\\config\\client-config.ini", error);
+    for (const std::string& line : zvHomeFile::lines(content)) {
+        if (line.compare(0, key.size() + 1, key + "=") == 0) {
+            zvString value = line.substr(key.size() + 1).c_str();
+            value.trim();
+            return value;
+        }
+    }
+    return {};
+}
+
+}  // namespace
+
+void zvHomeSettings::adoptSecretKeys() {
+    std::istringstream names(zvCharString(valueOf("secret-keys")).data());
+    for (std::string name; std::getline(names, name, ',');) {
+        zvString key = name.c_str();
+        key.trim();
+        zvSecrets::addKey(key);
+    }
+}
+
+int zvHomeSettings::shadowMask(std::string& fault) {
+    constexpr int allRights = 0777;
+    constexpr int othersRights = 077;
+    constexpr int octal = 8;
+    const zvString value = valueOf("shadow-mode");
+    const zvString reason = value.empty() ? value : zvClientConfigKey::find("shadow-mode")->faultOf(value);
+    if (!reason.empty()) {
+        fault =
+            std::string(zvCharString(reason).data()) + ": \"shadow-mode\" of client-config.ini counts as 700";
+    }
+    if (value == "umask") {
+        return -1;
+    }
+    const bool isSet = !value.empty() && reason.empty();
+    const long mode = isSet ? std::strtol(zvCharString(value).data(), nullptr, octal) : 0;
+    return isSet ? static_cast<int>(~mode & allRights) : othersRights;
+}
+
+std::vector<std::string> zvHomeSettings::javaOptions() {
+    std::istringstream words(zvCharString(valueOf("java-options")).data());
+    return {std::istream_iterator<std::string>(words), {}};
+}
+
+bool zvHomeSettings::wantsJavaArchive() { return valueOf("java-archive") != "off"; }
