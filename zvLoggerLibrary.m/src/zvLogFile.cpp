@@ -1,5 +1,6 @@
 #include "zvLogFile.h"
 
+#include <log4cxx/helpers/pool.h>
 #include <log4cxx/helpers/transcoder.h>
 #include <log4cxx/rolling/rollingpolicybase.h>
 #include <log4cxx/rolling/sizebasedtriggeringpolicy.h>
@@ -32,7 +33,6 @@ bool canShareLines(const RollingFileAppender& appender) {
 
 zvLogFile::zvLogFile(log4cxx::FileAppenderPtr appender)
     : m_pAppender(std::move(appender)),
-      m_pPool(std::make_shared<Pool>()),
       m_pRolling(log4cxx::cast<RollingFileAppender>(m_pAppender)),
       m_bSharesLines(m_pRolling == nullptr || canShareLines(*m_pRolling)) {
     // There is no writer if another process won the race to create the folder: the retry finds it.
@@ -46,12 +46,14 @@ zvLogFile::zvLogFile(log4cxx::FileAppenderPtr appender)
         }
     }
     m_pAppender->setImmediateFlush(true);
-    log4cxx::helpers::Transcoder::encode(path(), m_path);
+    std::string file;
+    log4cxx::helpers::Transcoder::encode(path(), file);
+    m_path = file;
     look(m_own);
 }
 
 bool zvLogFile::needsLock() {
-    apr_finfo_t found{};
+    zvPlatform::FileIdentity found{};
     if (!m_bSharesLines || !m_bSettled || !look(found) || !isOwn(found)) {
         return true;
     }
@@ -60,7 +62,7 @@ bool zvLogFile::needsLock() {
 }
 
 void zvLogFile::catchUp() {
-    apr_finfo_t found{};
+    zvPlatform::FileIdentity found{};
     if (!look(found) || !isOwn(found)) {
         Pool pool;
         m_pAppender->activateOptions(pool);
@@ -79,16 +81,13 @@ void zvLogFile::remember() {
     }
 }
 
-bool zvLogFile::look(apr_finfo_t& found) const {
-    return apr_stat(&found, m_path.c_str(), APR_FINFO_IDENT | APR_FINFO_SIZE, m_pPool->getAPRPool()) ==
-           APR_SUCCESS;
+bool zvLogFile::look(zvPlatform::FileIdentity& found) const { return zvPlatform::identify(m_path, found); }
+
+bool zvLogFile::isOwn(const zvPlatform::FileIdentity& found) const {
+    return found.number == m_own.number && found.device == m_own.device;
 }
 
-bool zvLogFile::isOwn(const apr_finfo_t& found) const {
-    return found.inode == m_own.inode && found.device == m_own.device;
-}
-
-void zvLogFile::adoptLength(const apr_finfo_t& found) {
+void zvLogFile::adoptLength(const zvPlatform::FileIdentity& found) {
     if (m_pRolling != nullptr) {
         m_pRolling->incrementFileLength(static_cast<std::size_t>(found.size) - m_pRolling->getFileLength());
     }

@@ -1,15 +1,15 @@
 #ifndef ZV_LOG_FILE_H
 #define ZV_LOG_FILE_H
 
-#include <apr_file_info.h>
 #include <log4cxx/fileappender.h>
-#include <log4cxx/helpers/pool.h>
 #include <log4cxx/rolling/rollingfileappender.h>
 
+#include <filesystem>
 #include <memory>
 #include <string>
 
 #include "zvFileAppenders.h"
+#include "zvPlatform.h"
 
 /// A log file to which other processes append, and which they roll over, at the same time.
 ///
@@ -36,17 +36,16 @@ public:
     void remember();
 
 private:
-    bool look(apr_finfo_t& found) const;
-    bool isOwn(const apr_finfo_t& found) const;
-    void adoptLength(const apr_finfo_t& found);
+    bool look(zvPlatform::FileIdentity& found) const;
+    bool isOwn(const zvPlatform::FileIdentity& found) const;
+    void adoptLength(const zvPlatform::FileIdentity& found);
     bool isRolloverDue() const;
 
     log4cxx::FileAppenderPtr m_pAppender;
-    std::shared_ptr<log4cxx::helpers::Pool> m_pPool;  // of what the system is asked before each line
     std::shared_ptr<log4cxx::rolling::RollingFileAppender>
         m_pRolling;  // null for a file that is never rolled over
-    std::string m_path;
-    apr_finfo_t m_own{};
+    std::filesystem::path m_path;
+    zvPlatform::FileIdentity m_own{};
     std::size_t m_length = 0;  // before the current line
     bool m_bSharesLines;       // without a lock
     bool m_bSettled = false;   // opened under the lock

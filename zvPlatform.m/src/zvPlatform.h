@@ -53,6 +53,14 @@ struct CloseFile {
 using File = std::unique_ptr<std::FILE, CloseFile>;
 /// Opens a file for reading as text; null for a directory and on failure.
 File openForReading(const char* path);
+/// Which file is at a path, and its size.
+struct FileIdentity {
+    std::uint64_t device = 0;
+    std::uint64_t number = 0;
+    std::uint64_t size = 0;
+};
+/// False if there is none. Asks for no times: a system that is asked for them makes the next write dearer.
+bool identify(const std::filesystem::path& path, FileIdentity& found);
 /// Deletes one file; refuses a directory.
 bool removeFile(const char* path);
 /// Runs "rmdir /s/q" with `arguments`, which are appended as they are: a blank, then paths separated by
