@@ -6,6 +6,7 @@
 #include <log4cxx/rolling/sizebasedtriggeringpolicy.h>
 #include <log4cxx/rolling/timebasedrollingpolicy.h>
 
+#include <chrono>
 #include <utility>
 
 using log4cxx::FileAppender;
@@ -53,11 +54,20 @@ zvLogFile::zvLogFile(log4cxx::FileAppenderPtr appender)
 }
 
 bool zvLogFile::needsLock() {
-    zvPlatform::FileIdentity found{};
-    if (!m_bSharesLines || !m_bSettled || !look(found) || !isOwn(found)) {
+    if (!m_bSharesLines || !m_bSettled) {
         return true;
     }
-    adoptLength(found);
+    // Looking costs as much as writing: lines that follow one another at once share a look.
+    constexpr std::chrono::milliseconds validity(1);
+    const auto now = std::chrono::steady_clock::now();
+    if (now - m_looked >= validity) {
+        zvPlatform::FileIdentity found{};
+        if (!look(found) || !isOwn(found)) {
+            return true;
+        }
+        adoptLength(found);
+        m_looked = now;
+    }
     return isRolloverDue();
 }
 

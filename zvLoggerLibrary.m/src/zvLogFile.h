@@ -4,6 +4,7 @@
 #include <log4cxx/fileappender.h>
 #include <log4cxx/rolling/rollingfileappender.h>
 
+#include <chrono>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -27,7 +28,8 @@ public:
     std::string openingError() const { return zvFileAppenders::openingError(*m_pAppender); }
     log4cxx::LogString path() const { return m_pAppender->getFile(); }
 
-    /// Whether the next line opens or rolls over the file, or may do so.
+    /// Whether the next line opens or rolls over the file, or may do so. What another process has done to the
+    /// file is noticed within a millisecond.
     bool needsLock();
     /// Synchronises the appender with the other processes: reopens the file if it was replaced, and updates
     /// the length, on which the rollover depends.
@@ -47,8 +49,9 @@ private:
     std::filesystem::path m_path;
     zvPlatform::FileIdentity m_own{};
     std::size_t m_length = 0;  // before the current line
-    bool m_bSharesLines;       // without a lock
-    bool m_bSettled = false;   // opened under the lock
+    std::chrono::steady_clock::time_point m_looked;
+    bool m_bSharesLines;      // without a lock
+    bool m_bSettled = false;  // opened under the lock
 };
 
 #endif
