@@ -88,7 +88,7 @@ zvString zvJavaStart::prepare() {
         return {};
     }
     const bool isDelivered = !isSet("CLASSPATH");
-    const zvString refusal = isDelivered ? offerClient() : zvString();
+    zvString refusal = isDelivered ? offerClient() : zvString();
     if (!refusal.empty()) {
         return refusal;
     }
