@@ -2,15 +2,26 @@
 #define ZV_BENCHMARK_H
 
 #include <benchmark/benchmark.h>
+#include <sys/resource.h>
 
 #include <cstdio>
 #include <cstdlib>
 #include <string>
 #include <utility>
 
-/// The clock for a row's ratio: CPU time, or wall-clock time if another process or thread does part of the
-/// work.
-enum class zvBenchmarkClock { cpu, wall };
+/// The clock for a row's ratio: CPU time, wall-clock time if another process or thread does part of the work,
+/// or the CPU time of the processes that the work starts and waits for.
+enum class zvBenchmarkClock { cpu, wall, children };
+
+/// The seconds of CPU time that ended child processes took.
+inline double zvChildrenSeconds() {
+    struct rusage usage {};
+    getrusage(RUSAGE_CHILDREN, &usage);
+    const auto seconds = [](const timeval& time) {
+        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
+    };
+    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+}
 
 /// A row of the result table: one workload, run by the library and by its peers.
 ///
@@ -37,7 +48,22 @@ public:
 
 private:
     template <class Work>
+    const zvBenchmarkRow& addForChildren(const std::string& who, Work work) const {
+        benchmark::RegisterBenchmark((m_work + '|' + who).c_str(), [work](benchmark::State& state) mutable {
+            for (auto _ : state) {
+                const double before = zvChildrenSeconds();
+                benchmark::DoNotOptimize(work());
+                state.SetIterationTime(zvChildrenSeconds() - before);
+            }
+        })->UseManualTime();
+        return *this;
+    }
+
+    template <class Work>
     const zvBenchmarkRow& add(const std::string& who, Work work) const {
+        if (m_clock == zvBenchmarkClock::children) {
+            return addForChildren(who, work);
+        }
         auto* const benchmark = benchmark::RegisterBenchmark((m_work + '|' + who).c_str(),
                                                              [work](benchmark::State& state) mutable {
                                                                  for (auto _ : state) {

@@ -28,6 +28,7 @@ constexpr Subject subjects[] = {
     {"http", zvHttpBenchmark},
     {"java", zvJavaBenchmark},
     {"event", zvEventBenchmark},
+    {"whole-event", zvWholeEventBenchmark},
 };
 
 void adoptUserLocale() {

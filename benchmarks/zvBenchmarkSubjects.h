@@ -13,5 +13,6 @@ void zvLogBenchmark();
 void zvHttpBenchmark();
 void zvJavaBenchmark();
 void zvEventBenchmark();
+void zvWholeEventBenchmark();
 
 #endif

@@ -115,7 +115,7 @@ void zvLogBenchmark() {
                   LOG4CXX_INFO(logger, message);
                   return 0;
               })
-        .alongside("log4cxx, one process at a time", [logger, shared = std::make_shared<SharedFile>()] {
+        .peer("log4cxx, one process at a time", "0.6", [logger, shared = std::make_shared<SharedFile>()] {
             shared->write([&logger] { LOG4CXX_INFO(logger, message); });
             return 0;
         });

@@ -57,7 +57,7 @@ if(ZV_BUILD_TESTS AND NOT ZV_SANITIZE AND NOT CMAKE_CROSSCOMPILING)
     # What the documents show is run, against an installed tree and with the installed program.
     add_test(NAME documents COMMAND ${PROJECT_SOURCE_DIR}/docs/test-documents
         ${PROJECT_BINARY_DIR} ${CMAKE_CXX_COMPILER})
-    set_tests_properties(documents PROPERTIES TIMEOUT 300)
+    set_tests_properties(documents PROPERTIES TIMEOUT 300 ENVIRONMENT XDG_CACHE_HOME=${PROJECT_BINARY_DIR}/cache)
     # Each installs the build.
     set_tests_properties(package.consumers documents PROPERTIES RESOURCE_LOCK install)
 endif()

@@ -75,6 +75,8 @@ const std::vector<zvClientConfigKey>& zvClientConfigKey::all() {
         {"http-client-key", Form::file},
         {"http-client-key-password-env", Form::passwordVariable},
         {"event-timeout", Form::wholeNumber, 0, longestEvent},
+        {"java-options", Form::text},
+        {"java-archive", Form::choice},
         {"secret-keys", Form::names},
         {"shadow-mode", Form::rights}};
     return keys;
@@ -89,6 +91,10 @@ const zvClientConfigKey* zvClientConfigKey::find(const zvString& name) {
 zvString zvClientConfigKey::faultOf(const zvString& value) const {
     if (form == Form::url) {
         return faultOfUrl(value);
+    }
+    if (form == Form::choice) {
+        const bool isChoice = value == "on" || value == "off";
+        return isChoice ? zvString() : zvTextBuilder::concat("\"", value, "\" is neither \"on\" nor \"off\"");
     }
     if (form == Form::rights) {
         return areRights(zvUtf8::encode(value))

@@ -16,6 +16,8 @@ struct ZV_EXPORT zvClientConfigKey {
         certificates,      ///< a PEM file of certificates
         file,              ///< any other file
         passwordVariable,  ///< the name of an environment variable
+        choice,            ///< "on" or "off"
+        text,              ///< anything
         names,             ///< names with commas between them
         rights,            ///< of directories, in octal digits, or "umask"
     };
@@ -31,8 +33,8 @@ struct ZV_EXPORT zvClientConfigKey {
     /// The key of that name; null for an unknown one.
     static const zvClientConfigKey* find(const zvString& name);
 
-    /// Why an URL, a number or rights cannot be used, in a sentence; empty if it can, and for the other
-    /// forms. A URL is not quoted: it may hold a password.
+    /// Why an URL, a number, a choice or rights cannot be used, in a sentence; empty if it can, and for the
+    /// other forms. A URL is not quoted: it may hold a password.
     zvString faultOf(const zvString& value) const;
 };
 

@@ -17,7 +17,9 @@
 #include "zvFailure.h"
 #include "zvHomeSettings.h"
 #include "zvInterruption.h"
+#include "zvJavaStart.h"
 #include "zvOperationCommands.h"
+#include "zvPrepareJavaCommand.h"
 #include "zvProcess.h"
 #include "zvRoadReport.h"
 #include "zvRoadSession.h"
@@ -134,6 +136,18 @@ void declareShow(CLI::App& program, zvShowCommand& command) {
         "Exit code 6 for a configuration that is not read to its end, 2 for a page that cannot be written.");
 }
 
+void declarePrepareJava(CLI::App& program, zvPrepareJavaCommand& command) {
+    CLI::App& prepare =
+        *program.add_subcommand("prepare-java", "Makes the archive of classes with which Java starts sooner");
+    // For the process that does it.
+    prepare.add_option("--into", command.into)->group("");
+    prepare.add_option("options", command.javaOptions)->group("");
+    prepare.footer(
+        R"(Prints where it is: in the folder zvgateway of XDG_CACHE_HOME, or of .cache in the user's home. An event that misses
+it makes it in the end, so this is for who wants no event to: after an installation, as the user who runs the events.
+Exit code 1 if it cannot be made, with the reason.)");
+}
+
 void declareRoad(CLI::App& program, zvRoadOptions& options) {
     program.add_flag("--dry-run", options.isDryRun, "Does everything but the transfer and the post");
     program.add_flag("--json", options.asJson,
@@ -178,6 +192,8 @@ int runProgram(int argc, char** argv) {
     operation.declare(program);
     zvAuthoringCommands authoring;
     authoring.declare(program);
+    zvPrepareJavaCommand preparing;
+    declarePrepareJava(program, preparing);
     program.allow_extras();  // after the subcommands, which would inherit it
 
     try {
@@ -192,10 +208,14 @@ int runProgram(int argc, char** argv) {
     }
     if (program.get_subcommands().empty()) {
         const zvExitCode code = takeEvent(session, program.remaining());
+        zvConsole::flush();
+        zvJavaStart::leaveArchive();
         return session.options.asJson ? finish(code) : static_cast<int>(code);
     }
     if (operation.wasAskedFor(program)) {
-        return finish(operation.run(program, session));
+        const zvExitCode code = operation.run(program, session);
+        zvJavaStart::leaveArchive();
+        return finish(code);
     }
     if (program.got_subcommand("check") && checking.looksAtHome()) {
         return finish(checking.run());
@@ -205,6 +225,7 @@ int runProgram(int argc, char** argv) {
                   : zvAuthoringCommands::wasAskedFor(program) ? authoring.run(program)
                   : program.got_subcommand("check")           ? checking.run()
                   : program.got_subcommand("diff")            ? comparison.run()
+                  : program.got_subcommand("prepare-java")    ? preparing.run()
                                                               : showing.run());
 }
 

@@ -1,22 +1,31 @@
 #include "zvFileAppenders.h"
 
+#include <log4cxx/helpers/bytebuffer.h>
 #include <log4cxx/helpers/class.h>
 #include <log4cxx/helpers/loglog.h>
+#include <log4cxx/helpers/outputstream.h>
 #include <log4cxx/helpers/pool.h>
 #include <log4cxx/helpers/transcoder.h>
 #include <log4cxx/rolling/rollingfileappender.h>
 
 #include <cerrno>
 #include <filesystem>
+#include <memory>
 #include <new>
+#include <string>
 #include <system_error>
+#include <utility>
 
 #include "zvPlatform.h"
 
 using log4cxx::LogString;
+using log4cxx::helpers::ByteBuffer;
 using log4cxx::helpers::Class;
 using log4cxx::helpers::LogLog;
+using log4cxx::helpers::OutputStream;
+using log4cxx::helpers::OutputStreamPtr;
 using log4cxx::helpers::Pool;
+using log4cxx::helpers::WriterPtr;
 
 namespace {
 
@@ -26,6 +35,33 @@ public:
     Silence(const Silence&) = delete;
     Silence& operator=(const Silence&) = delete;
     ~Silence() { LogLog::setQuietMode(false); }
+};
+
+// Passes on at once what was written since the last flush, which is a line: the system appends it as a whole,
+// whoever else appends at the same time. log4cxx writes long lines in pieces.
+class WholeLines : public OutputStream {
+public:
+    explicit WholeLines(OutputStreamPtr file) : m_pFile(std::move(file)) {}
+
+    void write(ByteBuffer& bytes, Pool&) override {
+        m_line.append(bytes.current(), bytes.remaining());
+        bytes.position(bytes.limit());
+    }
+
+    void flush(Pool& pool) override {
+        ByteBuffer bytes(m_line.data(), m_line.size());
+        m_pFile->write(bytes, pool);
+        m_line.clear();
+    }
+
+    void close(Pool& pool) override {
+        flush(pool);
+        m_pFile->close(pool);
+    }
+
+private:
+    const OutputStreamPtr m_pFile;
+    std::string m_line;
 };
 
 template <class Appender>
@@ -40,12 +76,19 @@ public:
             // Something else is wrong, which log4cxx can tell.
             Appender::activateOptions(pool);
         }
+        this->setImmediateFlush(true);
     }
 
     void append(const log4cxx::spi::LoggingEventPtr& event, Pool& pool) override {
         if (this->getWriter() != nullptr) {
             Appender::append(event, pool);
         }
+    }
+
+protected:
+    WriterPtr createWriter(OutputStreamPtr& file) override {
+        OutputStreamPtr lines = std::make_shared<WholeLines>(file);
+        return Appender::createWriter(lines);
     }
 };
 

@@ -6,7 +6,8 @@
 #include <string>
 
 /// Replaces log4cxx's file appenders, as long as it lives, by ones that are silent about a file that cannot
-/// be opened and drop lines until it can: log4cxx would report each attempt, and each line.
+/// be opened and drop lines until it can, where log4cxx would report each attempt and each line, and that
+/// write each line at once.
 class zvFileAppenders {
 public:
     zvFileAppenders();

@@ -63,6 +63,16 @@ bool showsEventId(const log4cxx::AppenderPtr& appender) {
     return appender->getLayout() == nullptr || showsEventId(appender->getLayout());
 }
 
+// Once for a thread, and again in a process that was forked from it.
+void setProcessId() {
+    thread_local unsigned long known = 0;
+    const unsigned long id = zvPlatform::processId();
+    if (known != id) {
+        log4cxx::MDC::putLS(LOG4CXX_STR("processId"), zvLogText::onOneLine(std::to_string(id)));
+        known = id;
+    }
+}
+
 bool isLogRequired() { return !zvPlatform::environment("GATEWAY_LOG_REQUIRED").empty(); }
 
 }  // namespace
@@ -153,21 +163,31 @@ void zvLogConfiguration::write(const log4cxx::LevelPtr& level, const char* logge
     }
     const char* const source = keep(file == nullptr ? LocationInfo::NA : file);
     const LocationInfo location(source, shortName(source), LocationInfo::NA_METHOD, line);
-    const log4cxx::MDC processId("processId", std::to_string(zvPlatform::processId()));
-    const std::unique_lock<zvLogFolderLock> guard(m_lock, std::try_to_lock);
-    if (!guard.owns_lock()) {
+    setProcessId();
+    std::unique_lock<zvLogFolderLock> guard(m_lock, std::defer_lock);
+    bool isLockNeeded = false;
+    for (zvLogFile& logFile : m_files) {
+        isLockNeeded = logFile.needsLock() || isLockNeeded;
+    }
+    if (isLockNeeded && !guard.try_lock()) {
         reportLocked();
         return;
     }
+    if (isLockNeeded) {
+        catchUp();
+    }
+    logger->forcedLogLS(level, text, location);
+    for (zvLogFile& logFile : m_files) {
+        logFile.remember();
+    }
+}
+
+void zvLogConfiguration::catchUp() {
     for (zvLogFile& logFile : m_files) {
         logFile.catchUp();
         if (!logFile.isOpen() && !m_bReported) {
             reportUnopenable(logFile);
         }
-    }
-    logger->forcedLogLS(level, text, location);
-    for (zvLogFile& logFile : m_files) {
-        logFile.remember();
     }
 }
 

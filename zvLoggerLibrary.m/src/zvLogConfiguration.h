@@ -44,6 +44,7 @@ private:
     void adoptAppenders(const log4cxx::Logger& logger);
     bool reportUnopenable(const zvLogFile& logFile);
     void reportLocked();
+    void catchUp();
     const log4cxx::LoggerPtr& find(const char* loggerName);
     const char* keep(std::string_view source);
 

@@ -7,9 +7,8 @@
 
 #include <string>
 
-/// An advisory lock on a folder of log files, held while a line is written.
-///
-/// log4cxx neither writes long lines nor rolls files over atomically. The lock is a system lock on the file
+/// An advisory lock on a folder of log files, held while one of them is opened or rolled over, which log4cxx
+/// does in several steps. The lock is a system lock on the file
 /// "log4cxx.lock" in the folder, which only its owner may open: whoever may open it can hold the lock. It is
 /// released when the process exits at the latest.
 class zvLogFolderLock {

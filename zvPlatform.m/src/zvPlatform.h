@@ -60,6 +60,14 @@ Handle openDirectory(const std::filesystem::path& path);
 /// and without links: one that is put there meanwhile leads to nothing outside the directory. Null for
 /// anything else.
 File openBelow(Handle directory, const std::filesystem::path& path);
+/// Which file is at a path, and its size.
+struct FileIdentity {
+    std::uint64_t device = 0;
+    std::uint64_t number = 0;
+    std::uint64_t size = 0;
+};
+/// False if there is none. Asks for no times: a system that is asked for them makes the next write dearer.
+bool identify(const std::filesystem::path& path, FileIdentity& found);
 /// Deletes one file; refuses a directory.
 bool removeFile(const char* path);
 /// Runs "rmdir /s/q" with `arguments`, which are appended as they are: a blank, then paths separated by
@@ -73,6 +81,8 @@ bool removeTree(const char* arguments);
 void* loadLibrary(const char* name);
 /// Null if `library` is null or has no such function.
 void* findFunction(void* library, const char* name);
+/// The path of the library file in which a function is, as it was loaded; empty if the system does not tell.
+std::string libraryOf(void* function);
 
 /// The value of an environment variable; empty if it is unset.
 std::string environment(const char* name);

@@ -250,6 +250,23 @@ void* findFunction(void* library, const char* name) {
     return library == nullptr ? nullptr : ::dlsym(library, name);
 }
 
+bool identify(const std::filesystem::path& path, FileIdentity& found) {
+    struct statx status {};
+    if (::statx(AT_FDCWD, path.c_str(), 0, STATX_INO | STATX_SIZE, &status) != 0) {
+        return false;
+    }
+    constexpr unsigned bitsOfMinor = 32;
+    found.device = (std::uint64_t{status.stx_dev_major} << bitsOfMinor) | status.stx_dev_minor;
+    found.number = status.stx_ino;
+    found.size = status.stx_size;
+    return true;
+}
+
+std::string libraryOf(void* function) {
+    Dl_info found{};
+    return function != nullptr && ::dladdr(function, &found) != 0 ? found.dli_fname : "";
+}
+
 std::string environment(const char* name) {
     const char* const value = std::getenv(name);
     return value == nullptr ? "" : value;

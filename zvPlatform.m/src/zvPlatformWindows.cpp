@@ -3,6 +3,7 @@
 #include <process.h>
 #include <windows.h>
 
+#include <array>
 #include <clocale>
 #include <cstdlib>
 #include <ctime>
@@ -151,6 +152,34 @@ void* findFunction(void* library, const char* name) {
     return library == nullptr
                ? nullptr
                : reinterpret_cast<void*>(::GetProcAddress(reinterpret_cast<HMODULE>(library), name));
+}
+
+bool identify(const std::filesystem::path& path, FileIdentity& found) {
+    const HANDLE file = ::CreateFileW(path.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                      nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        return false;
+    }
+    BY_HANDLE_FILE_INFORMATION information{};
+    const bool isKnown = ::GetFileInformationByHandle(file, &information) != 0;
+    ::CloseHandle(file);
+    constexpr unsigned bitsOfHalf = 32;
+    const auto joined = [](DWORD high, DWORD low) { return (std::uint64_t{high} << bitsOfHalf) | low; };
+    found.device = information.dwVolumeSerialNumber;
+    found.number = joined(information.nFileIndexHigh, information.nFileIndexLow);
+    found.size = joined(information.nFileSizeHigh, information.nFileSizeLow);
+    return isKnown;
+}
+
+std::string libraryOf(void* function) {
+    HMODULE library = nullptr;
+    std::array<char, MAX_PATH> path{};
+    const bool isFound =
+        ::GetModuleHandleExA(
+            GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+            reinterpret_cast<const char*>(function), &library) != 0 &&
+        ::GetModuleFileNameA(library, path.data(), static_cast<DWORD>(path.size())) < path.size();
+    return isFound ? path.data() : "";
 }
 
 std::string environment(const char* name) {

@@ -112,6 +112,13 @@ zvC2JBridge* zvC2JBridge::getInstance() {
     return m_pBridge.get();
 }
 
+void zvC2JBridge::destroyInstance() {
+    if (m_pBridge != nullptr && !m_pBridge->m_bIsAdopted) {
+        m_pBridge->m_pMachine->DestroyJavaVM();
+        m_pBridge.reset();
+    }
+}
+
 JNIEnv* zvC2JBridge::getEnv() const {
     void* env = nullptr;
     if (m_pMachine->GetEnv(&env, jniVersion) == JNI_EDETACHED &&
@@ -213,7 +220,9 @@ bool zvC2JBridge::adoptMachine() {
 
 void zvC2JBridge::logVersion() const {
     const zvJniFrame frame(*getEnv());
-    zvString version = textOrNone([&] { return printedVersion(frame); });
+    // Java would look for the removed class in every jar.
+    const bool isRemoved = frame.env().GetVersion() >= JNI_VERSION_9;
+    zvString version = isRemoved ? zvString() : textOrNone([&] { return printedVersion(frame); });
     if (version.empty()) {
         version = textOrNone([&] { return versionFromProperties(frame); });
     }

@@ -24,6 +24,9 @@ public:
     static zvC2JBridge* getInstance();
     /// Adds an option, as the `java` command has them, for a JVM that is started later; after the class path.
     static void addOption(const std::string& option) { m_options.push_back(option); }
+    /// Ends the JVM that was started, if any, once Java's own threads have ended: none can be started after
+    /// it.
+    static void destroyInstance();
     /// Sets what is called when a JVM that is started later ends the process; null for nothing.
     static void setEndObserver(void (*observer)()) { m_pEndObserver = observer; }
     /// Where the last attempt to start a JVM looked for its library; empty before the first one.

@@ -2,6 +2,8 @@
 
 #include "zvC2JBridge.h"
 #include "zvCharString.h"
+#include "zvJvmLibrary.h"
+#include "zvPlatform.h"
 #include "zvTextBuilder.h"
 
 namespace {
@@ -51,6 +53,13 @@ zvResult zvJavaMachine::start() {
                                      property(frame, "java.home"));
     });
 }
+
+zvString zvJavaMachine::library() {
+    void* const handle = zvJvmLibrary::load().handle;
+    return zvPlatform::libraryOf(zvPlatform::findFunction(handle, "JNI_CreateJavaVM")).c_str();
+}
+
+void zvJavaMachine::end() { zvC2JBridge::destroyInstance(); }
 
 zvResult zvJavaMachine::findClass(const zvString& name) {
     return attempt([&name](const zvJniFrame& frame) {

@@ -8,10 +8,6 @@
 /// The connection to the file server, over the delivered Java client unless the site has one of its own.
 class zvFileServerConnection {
 public:
-    /// Makes the delivered client and the options of its machine known, unless the site has its own. To be
-    /// called before Java is needed; again, it does nothing. Returns why there is no client that Java could
-    /// run; empty if there is one.
-    [[nodiscard]] static zvString prepareJava();
     /// What a person is told of a failure: Java says no more of a class that it lacks than the class's name.
     static zvString reasonOf(const zvException& exception);
 

@@ -1,6 +1,7 @@
 #include "zvHomeSettings.h"
 
 #include <cstdlib>
+#include <iterator>
 #include <sstream>
 
 #include "zvCharString.h"
@@ -58,3 +59,10 @@ int zvHomeSettings::shadowMask(std::string& fault) {
     const long mode = isSet ? std::strtol(zvCharString(value).data(), nullptr, octal) : 0;
     return isSet ? static_cast<int>(~mode & allRights) : othersRights;
 }
+
+std::vector<std::string> zvHomeSettings::javaOptions() {
+    std::istringstream words(zvCharString(valueOf("java-options")).data());
+    return {std::istream_iterator<std::string>(words), {}};
+}
+
+bool zvHomeSettings::wantsJavaArchive() { return valueOf("java-archive") != "off"; }

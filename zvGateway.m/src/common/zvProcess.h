@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <string>
 #include <system_error>
+#include <vector>
 
 /// What the program needs of the operating system beside the library: one source file for each system and one
 /// for what is the same on all, and no other file of the program includes a system header.
@@ -48,6 +49,11 @@ private:
 /// Whether a process holds the lock on the file, this one included.
 bool isLocked(const std::filesystem::path& file);
 
+/// Runs a program without standard streams and waits for it; after `limit`, or when a request to end this
+/// process is noted, it is killed. Whether it ended by itself with exit code 0.
+bool run(const std::filesystem::path& program, const std::vector<std::string>& arguments,
+         std::chrono::milliseconds limit);
+
 /// Seconds since 1970 of an instant in UTC.
 std::int64_t toSeconds(std::tm utc);
 
@@ -65,6 +71,9 @@ int openRegularFile(const std::filesystem::path& file, std::error_code& error);
 /// Whether this process's user owns the open file, and nobody else but the superuser has any right to it.
 /// Always true on Windows, where access lists say so.
 bool isPrivate(int descriptor);
+/// Creates the folder, and those above it, for this process's user alone. False if it cannot be made, is a
+/// link, or another user owns it or has a right to it; access lists say so on Windows.
+bool makePrivateFolder(const std::filesystem::path& folder);
 /// Sets `content` to all that can be read from the descriptor, which is closed. More than `limit` bytes are
 /// an error.
 std::error_code readToEnd(int descriptor, std::size_t limit, std::string& content);

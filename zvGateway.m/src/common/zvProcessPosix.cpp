@@ -1,7 +1,9 @@
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <spawn.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
@@ -95,6 +97,47 @@ bool zvProcess::isLocked(const std::filesystem::path& file) {
     return isHeld;
 }
 
+namespace {
+
+// Starts the program with nothing of this process but its environment: no stream, no open file, no handler.
+pid_t start(const std::filesystem::path& program, const std::vector<std::string>& arguments) {
+    std::vector<char*> texts{const_cast<char*>(program.c_str())};
+    for (const std::string& argument : arguments) {
+        texts.push_back(const_cast<char*>(argument.c_str()));
+    }
+    texts.push_back(nullptr);
+    posix_spawn_file_actions_t actions;
+    ::posix_spawn_file_actions_init(&actions);
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        ::posix_spawn_file_actions_addopen(&actions, stream, "/dev/null", O_RDWR, 0);
+    }
+    ::posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
+    pid_t process = -1;
+    const int error = ::posix_spawn(&process, program.c_str(), &actions, nullptr, texts.data(), environ);
+    ::posix_spawn_file_actions_destroy(&actions);
+    return error == 0 ? process : -1;
+}
+
+}  // namespace
+
+bool zvProcess::run(const std::filesystem::path& program, const std::vector<std::string>& arguments,
+                    std::chrono::milliseconds limit) {
+    constexpr std::chrono::milliseconds pause(10);
+    const pid_t process = start(program, arguments);
+    const auto end = std::chrono::steady_clock::now() + limit;
+    int status = -1;
+    pid_t ended = process < 0 ? process : 0;
+    while (ended == 0) {
+        if (std::chrono::steady_clock::now() >= end || notedSignal() != 0) {
+            ::kill(process, SIGKILL);
+            ended = ::waitpid(process, &status, 0);
+        } else if ((ended = ::waitpid(process, &status, WNOHANG)) == 0) {
+            waitFor(pause);
+        }
+    }
+    return ended == process && process > 0 && status == 0;
+}
+
 std::int64_t zvProcess::toSeconds(std::tm utc) { return ::timegm(&utc); }
 
 std::string zvProcess::hostName() {
@@ -136,6 +179,15 @@ int zvProcess::openRegularFile(const std::filesystem::path& file, std::error_cod
 bool zvProcess::isPrivate(int descriptor) {
     struct stat status {};
     return ::fstat(descriptor, &status) == 0 && status.st_uid == ::geteuid() &&
+           (status.st_mode & (S_IRWXG | S_IRWXO)) == 0;
+}
+
+bool zvProcess::makePrivateFolder(const std::filesystem::path& folder) {
+    std::error_code ignored;
+    std::filesystem::create_directories(folder.parent_path(), ignored);
+    ::mkdir(folder.c_str(), S_IRWXU);
+    struct stat status {};
+    return ::lstat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == ::geteuid() &&
            (status.st_mode & (S_IRWXG | S_IRWXO)) == 0;
 }
 

@@ -111,6 +111,51 @@ bool zvProcess::isLocked(const std::filesystem::path& file) {
     return isHeld;
 }
 
+// As the runtime takes a command line apart: blanks and quotes inside quotes, backslashes before quotes
+// doubled.
+static std::wstring quoted(const std::wstring& argument) {
+    std::wstring text = L"\"";
+    std::size_t backslashes = 0;
+    for (const wchar_t character : argument) {
+        if (character == L'"') {
+            text.append(backslashes + 1, L'\\');
+        }
+        backslashes = character == L'\\' ? backslashes + 1 : 0;
+        text += character;
+    }
+    return text.append(backslashes, L'\\') + L"\"";
+}
+
+bool zvProcess::run(const std::filesystem::path& program, const std::vector<std::string>& arguments,
+                    std::chrono::milliseconds limit) {
+    constexpr std::chrono::milliseconds pause(10);
+    std::wstring command = quoted(program.wstring());
+    for (const std::string& argument : arguments) {
+        command += L" " + quoted(std::filesystem::path(argument).wstring());
+    }
+    STARTUPINFOW startup{};
+    startup.cb = sizeof(startup);
+    PROCESS_INFORMATION process{};
+    if (::CreateProcessW(program.c_str(), command.data(), nullptr, nullptr, FALSE, CREATE_NO_WINDOW, nullptr,
+                         nullptr, &startup, &process) == 0) {
+        return false;
+    }
+    const auto end = std::chrono::steady_clock::now() + limit;
+    while (::WaitForSingleObject(process.hProcess, 0) == WAIT_TIMEOUT) {
+        if (std::chrono::steady_clock::now() >= end || notedSignal() != 0) {
+            ::TerminateProcess(process.hProcess, 1);
+            ::WaitForSingleObject(process.hProcess, INFINITE);
+        } else {
+            waitFor(pause);
+        }
+    }
+    DWORD code = 1;
+    ::GetExitCodeProcess(process.hProcess, &code);
+    ::CloseHandle(process.hThread);
+    ::CloseHandle(process.hProcess);
+    return code == 0;
+}
+
 std::int64_t zvProcess::toSeconds(std::tm utc) { return ::_mkgmtime64(&utc); }
 
 std::string zvProcess::hostName() {
@@ -155,6 +200,12 @@ int zvProcess::openRegularFile(const std::filesystem::path& file, std::error_cod
 }
 
 bool zvProcess::isPrivate(int) { return true; }
+
+bool zvProcess::makePrivateFolder(const std::filesystem::path& folder) {
+    std::error_code error;
+    std::filesystem::create_directories(folder, error);
+    return std::filesystem::is_directory(folder, error);
+}
 
 std::error_code zvProcess::readToEnd(int descriptor, std::size_t limit, std::string& content) {
     constexpr std::size_t blockSize = 4096;

@@ -12,6 +12,7 @@
 #include "zvHomeCheckKind.h"
 #include "zvHomeFile.h"
 #include "zvJavaMachine.h"
+#include "zvJavaStart.h"
 #include "zvNearestName.h"
 
 namespace {
@@ -42,7 +43,7 @@ zvFileServerCheck::zvFileServerCheck(const zvString& file, zvCheckReport& report
       m_bDelivered(zvCommonUtils::getEnvironmentalVariable("CLASSPATH").empty()) {}
 
 void zvFileServerCheck::run(bool isOffline) {
-    const zvString refusal = zvFileServerConnection::prepareJava();
+    const zvString refusal = zvJavaStart::prepare();
     if (!refusal.empty()) {
         addError(zvCheckPlace(client), zvHomeCheckKind::missingClass, refusal);
     }

@@ -11,6 +11,7 @@
 #include "zvFSClientUtil.h"
 #include "zvFileServerConnection.h"
 #include "zvInterruption.h"
+#include "zvJavaStart.h"
 #include "zvNativePath.h"
 #include "zvProcess.h"
 #include "zvStringList.h"
@@ -145,7 +146,7 @@ void zvTransferStep::makeDirectory() {
 }
 
 zvStepOutcome zvTransferStep::send(const zvString& configuration) {
-    const zvString refusal = zvFileServerConnection::prepareJava();
+    const zvString refusal = zvJavaStart::prepare();
     if (!refusal.empty()) {
         throw zvException(refusal);
     }

@@ -21,6 +21,9 @@ import java.util.Map;
  *
  * <p>Every failure is a {@link FileServerException} that names the file and the reason. Not thread-safe: one
  * thread at a time may use a client.
+ *
+ * <p>What the first operations run has no lambdas, streams or regular expressions: a process lives for a few
+ * files, and setting those up takes longer than moving a small one.
  */
 public final class FileServerClient {
     private final String url;
@@ -44,7 +47,16 @@ public final class FileServerClient {
     /** Connects and logs in, which is required before any file operation. Idempotent. */
     public void connect() throws FileServerException {
         String what = "connect to " + url;
-        explained(what, () -> retry.run(what, () -> null));
+        try {
+            retry.run(what, new Retry.Operation<Void>() {
+                @Override
+                public Void run() {
+                    return null;
+                }
+            });
+        } catch (FileServerException e) {
+            throw explained(what, e);
+        }
         connected = true;
     }
 
@@ -61,7 +73,11 @@ public final class FileServerClient {
      *     with a directory as file server, to those of this host)
      */
     public void setFileTransferMode(int code) throws FileServerException {
-        mode = explained("set the file transfer mode " + code, () -> TransferMode.ofCode(code));
+        try {
+            mode = TransferMode.ofCode(code);
+        } catch (FileServerException e) {
+            throw explained("set the file transfer mode " + code, e);
+        }
     }
 
     /**
@@ -70,7 +86,13 @@ public final class FileServerClient {
      * @param local the file's path on this host, in an existing directory
      */
     public void get(String remote, String local) throws FileServerException {
-        fetch(explained(fetching(remote, local), () -> FilePair.of(remote, local)));
+        FilePair pair;
+        try {
+            pair = FilePair.of(remote, local);
+        } catch (FileServerException e) {
+            throw explained(fetching(remote, local), e);
+        }
+        fetch(pair);
     }
 
     /**
@@ -80,7 +102,7 @@ public final class FileServerClient {
      */
     public void get(String remoteDir, String localDir, List<String> files) throws FileServerException {
         String what = "get files from remote directory '" + remoteDir + "' to local directory '" + localDir + "'";
-        for (FilePair pair : explained(what, () -> FilePair.of(remoteDir, localDir, files))) {
+        for (FilePair pair : pairs(what, remoteDir, localDir, files)) {
             fetch(pair);
         }
     }
@@ -93,18 +115,27 @@ public final class FileServerClient {
     public void get(String remoteDir, String localDir, String filter) throws FileServerException {
         String what = "get files '" + filter + "' from remote directory '" + remoteDir + "' to local directory '"
                 + localDir + "'";
-        List<FilePair> pairs = onServer(what, () -> {
-            Collection<String> names = remoteFileNames(what, RemotePath.of(remoteDir));
-            return FilePair.of(remoteDir, localDir, matching(filter, names));
-        });
-        for (FilePair pair : pairs) {
+        List<String> names;
+        try {
+            requireConnection();
+            names = matching(filter, remoteFileNames(what, RemotePath.of(remoteDir)));
+        } catch (FileServerException e) {
+            throw explained(what, e);
+        }
+        for (FilePair pair : pairs(what, remoteDir, localDir, names)) {
             fetch(pair);
         }
     }
 
     /** Uploads a file into an existing directory. */
     public void put(String local, String remote) throws FileServerException {
-        send(explained(sending(local, remote), () -> FilePair.of(remote, local)));
+        FilePair pair;
+        try {
+            pair = FilePair.of(remote, local);
+        } catch (FileServerException e) {
+            throw explained(sending(local, remote), e);
+        }
+        send(pair);
     }
 
     /**
@@ -114,7 +145,7 @@ public final class FileServerClient {
      */
     public void put(String localDir, String remoteDir, List<String> files) throws FileServerException {
         String what = "put files from local directory '" + localDir + "' to remote directory '" + remoteDir + "'";
-        for (FilePair pair : explained(what, () -> FilePair.of(remoteDir, localDir, files))) {
+        for (FilePair pair : pairs(what, remoteDir, localDir, files)) {
             send(pair);
         }
     }
@@ -127,9 +158,13 @@ public final class FileServerClient {
     public void put(String localDir, String remoteDir, String filter) throws FileServerException {
         String what = "put files '" + filter + "' from local directory '" + localDir + "' to remote directory '"
                 + remoteDir + "'";
-        List<FilePair> pairs = explained(what, () -> FilePair.of(remoteDir, localDir,
-                matching(filter, LocalFiles.fileNames(LocalFiles.directory(localDir)))));
-        for (FilePair pair : pairs) {
+        List<String> names;
+        try {
+            names = matching(filter, LocalFiles.fileNames(LocalFiles.directory(localDir)));
+        } catch (FileServerException e) {
+            throw explained(what, e);
+        }
+        for (FilePair pair : pairs(what, remoteDir, localDir, names)) {
             send(pair);
         }
     }
@@ -137,11 +172,7 @@ public final class FileServerClient {
     /** Creates a directory and its missing parents. Idempotent. */
     public void mkDir(String dir) throws FileServerException {
         String what = "make directory '" + dir + "' on the file server";
-        onServer(what, () -> {
-            RemotePath directory = RemotePath.of(dir);
-            Directories directories = new Directories(transport);
-            return noteNew(directory, retry.run(what, () -> directories.make(directory)));
-        });
+        makeDirectory(what, dir, false);
     }
 
     /**
@@ -152,11 +183,7 @@ public final class FileServerClient {
      */
     public boolean mkNewDir(String dir) throws FileServerException {
         String what = "make new directory '" + dir + "' on the file server";
-        return onServer(what, () -> {
-            RemotePath directory = RemotePath.of(dir);
-            Directories directories = new Directories(transport);
-            return noteNew(directory, retry.run(what, () -> directories.makeNew(directory)));
-        });
+        return makeDirectory(what, dir, true);
     }
 
     /**
@@ -168,53 +195,70 @@ public final class FileServerClient {
      */
     public void removeLeftovers(String dir, List<String> localFiles) throws FileServerException {
         String what = "remove incomplete files in directory '" + dir + "' of the file server";
-        onServer(what, () -> {
+        try {
+            requireConnection();
             RemotePath directory = RemotePath.of(dir);
             if (directory.toString().equals(newest)) {
-                return null;
+                return;
             }
             Leftovers leftovers = new Leftovers(transport, directory, resumeFrom);
             for (String localFile : localFiles) {
                 leftovers.keepFor(LocalFiles.path(localFile));
             }
-            return retry.run(what, () -> {
+            retry.run(what, () -> {
                 leftovers.remove();
                 return null;
             });
-        });
+        } catch (FileServerException e) {
+            throw explained(what, e);
+        }
     }
 
     /** Writes a small temporary file into the root and removes it: whether the account may. */
     public void probe() throws FileServerException {
         String what = "write and remove a file in the root of the file server";
-        onServer(what, () -> {
+        try {
+            requireConnection();
             Probe probe = new Probe(transport);
-            return retry.run(what, () -> {
+            retry.run(what, () -> {
                 probe.run();
                 return null;
             });
-        });
+        } catch (FileServerException e) {
+            throw explained(what, e);
+        }
     }
 
     /** Whether a file, a directory or anything else exists at the path. */
     public boolean exists(String path) throws FileServerException {
         String what = "tell whether '" + path + "' exists on the file server";
-        return onServer(what, () -> {
+        try {
+            requireConnection();
             RemotePath name = RemotePath.of(path);
-            return retry.run(what, () -> transport.kind(name)) != Transport.Kind.ABSENT;
-        });
+            return retry.run(what, new Retry.Operation<Transport.Kind>() {
+                @Override
+                public Transport.Kind run() throws FileServerException {
+                    return transport.kind(name);
+                }
+            }) != Transport.Kind.ABSENT;
+        } catch (FileServerException e) {
+            throw explained(what, e);
+        }
     }
 
     /** The names of all entries of a directory, sorted. */
     public String[] list(String dir) throws FileServerException {
         String what = "list directory '" + dir + "' of the file server";
-        return onServer(what, () -> {
+        try {
+            requireConnection();
             List<String> names = new ArrayList<>();
             for (String name : listing(what, RemotePath.of(dir)).keySet()) {
                 names.add(RemotePath.checkFileName(name));
             }
             return names.toArray(new String[0]);
-        });
+        } catch (FileServerException e) {
+            throw explained(what, e);
+        }
     }
 
     /** The URL of the file server. */
@@ -225,25 +269,51 @@ public final class FileServerClient {
 
     private void fetch(FilePair pair) throws FileServerException {
         String what = fetching(pair.remote, pair.local);
-        onServer(what, () -> {
+        try {
+            requireConnection();
             new Download(transport, mode, largestFile).run(what, retry, pair.remote, pair.local);
-            return null;
-        });
+        } catch (FileServerException e) {
+            throw explained(what, e);
+        }
     }
 
     private void send(FilePair pair) throws FileServerException {
         String what = sending(pair.local, pair.remote);
-        onServer(what, () -> {
+        try {
+            requireConnection();
             new Upload(transport, mode, resumeFrom, pair.local, pair.remote).run(what, retry);
-            return null;
-        });
+        } catch (FileServerException e) {
+            throw explained(what, e);
+        }
     }
 
-    private boolean noteNew(RemotePath directory, boolean created) {
-        if (created) {
-            newest = directory.toString();
+    private static List<FilePair> pairs(String what, String remoteDir, String localDir, Collection<String> names)
+            throws FileServerException {
+        try {
+            return FilePair.of(remoteDir, localDir, names);
+        } catch (FileServerException e) {
+            throw explained(what, e);
         }
-        return created;
+    }
+
+    private boolean makeDirectory(String what, String dir, boolean asNew) throws FileServerException {
+        try {
+            requireConnection();
+            RemotePath directory = RemotePath.of(dir);
+            Directories directories = new Directories(transport);
+            boolean created = retry.run(what, new Retry.Operation<Boolean>() {
+                @Override
+                public Boolean run() throws FileServerException {
+                    return asNew ? directories.makeNew(directory) : directories.make(directory);
+                }
+            });
+            if (created) {
+                newest = directory.toString();
+            }
+            return created;
+        } catch (FileServerException e) {
+            throw explained(what, e);
+        }
     }
 
     private Map<String, Transport.Kind> listing(String what, RemotePath directory) throws FileServerException {
@@ -277,20 +347,13 @@ public final class FileServerClient {
         return "put local file '" + local + "' to remote file '" + remote + "'";
     }
 
-    private <T> T onServer(String what, Retry.Operation<T> operation) throws FileServerException {
-        return explained(what, () -> {
-            if (!connected) {
-                throw new FileServerException("not connected to " + url);
-            }
-            return operation.run();
-        });
+    private void requireConnection() throws FileServerException {
+        if (!connected) {
+            throw new FileServerException("not connected to " + url);
+        }
     }
 
-    private static <T> T explained(String what, Retry.Operation<T> operation) throws FileServerException {
-        try {
-            return operation.run();
-        } catch (FileServerException e) {
-            throw new FileServerException("Cannot " + what + ": " + e.getMessage(), e);
-        }
+    private static FileServerException explained(String what, FileServerException reason) {
+        return new FileServerException("Cannot " + what + ": " + reason.getMessage(), reason);
     }
 }

@@ -1,7 +1,5 @@
 package com.vantorel.ep.products.fsclient;
 
-import java.io.BufferedInputStream;
-import java.io.BufferedOutputStream;
 import java.io.IOException;
 import java.io.InputStream;
 import java.io.OutputStream;
@@ -20,8 +18,6 @@ import java.nio.file.attribute.BasicFileAttributes;
 import java.util.Set;
 import java.util.SortedMap;
 import java.util.TreeMap;
-import org.apache.commons.net.io.FromNetASCIIInputStream;
-import org.apache.commons.net.io.ToNetASCIIOutputStream;
 
 /**
  * A directory of this host as file server.
@@ -43,7 +39,11 @@ final class LocalTransport implements Transport {
             throw new FileServerException("there is no directory '" + directory + "'");
         }
         if (root == null) {
-            root = attempt(directory::toRealPath);
+            try {
+                root = directory.toRealPath();
+            } catch (IOException e) {
+                throw LocalFiles.failure(e);
+            }
         }
     }
 
@@ -55,29 +55,41 @@ final class LocalTransport implements Transport {
     @Override
     public Kind kind(RemotePath path) throws FileServerException {
         Path file = resolve(path);
-        return attempt(() -> kind(file));
+        try {
+            return kind(file);
+        } catch (IOException e) {
+            throw LocalFiles.failure(e);
+        }
     }
 
     @Override
     public long size(RemotePath file) throws FileServerException {
         Path path = regularFile(file);
-        return attempt(() -> Files.size(path));
+        try {
+            return Files.size(path);
+        } catch (IOException e) {
+            throw LocalFiles.failure(e);
+        }
     }
 
     @Override
     public SortedMap<String, Kind> list(RemotePath directory) throws FileServerException {
         Path path = resolve(directory);
-        return attempt(() -> {
-            SortedMap<String, Kind> names = new TreeMap<>();
-            try (DirectoryStream<Path> entries = Files.newDirectoryStream(path)) {
-                for (Path entry : entries) {
-                    names.put(entry.getFileName().toString(), kind(entry));
+        SortedMap<String, Kind> names = new TreeMap<>();
+        try (DirectoryStream<Path> entries = Files.newDirectoryStream(path)) {
+            for (Path entry : entries) {
+                Kind kind = kind(entry);
+                // An entry may have been deleted since the directory was read.
+                if (kind != Kind.ABSENT) {
+                    names.put(entry.getFileName().toString(), kind);
                 }
             }
-            // An entry may have been deleted since the directory was read.
-            names.values().removeIf(Kind.ABSENT::equals);
-            return names;
-        });
+        } catch (DirectoryIteratorException e) {
+            throw LocalFiles.failure(e.getCause());
+        } catch (IOException e) {
+            throw LocalFiles.failure(e);
+        }
+        return names;
     }
 
     @Override
@@ -88,27 +100,26 @@ final class LocalTransport implements Transport {
     @Override
     public void receive(RemotePath source, TransferMode mode, OutputStream target) throws FileServerException {
         Path file = regularFile(source);
-        attempt(() -> {
-            try (InputStream content = Files.newInputStream(file, LinkOption.NOFOLLOW_LINKS)) {
-                return copy(content, target, mode);
-            }
-        });
+        try (InputStream content = Files.newInputStream(file, LinkOption.NOFOLLOW_LINKS)) {
+            copy(content, target, mode);
+        } catch (IOException e) {
+            throw LocalFiles.failure(e);
+        }
     }
 
     @Override
     public void send(LocalSource source, TransferMode mode, RemotePath target) throws FileServerException {
         requireDirectory(target.parent());
         Path file = resolve(target);
-        attempt(() -> {
-            try (FileChannel channel = FileChannel.open(file, Set.of(StandardOpenOption.CREATE,
-                    StandardOpenOption.WRITE, LinkOption.NOFOLLOW_LINKS))) {
-                channel.truncate(source.offset()).position(source.offset());
-                copy(source, Channels.newOutputStream(channel), mode);
-                // On disk before it is renamed, since the sender may delete its file after that.
-                channel.force(false);
-                return null;
-            }
-        });
+        try (FileChannel channel = FileChannel.open(file, Set.of(StandardOpenOption.CREATE,
+                StandardOpenOption.WRITE, LinkOption.NOFOLLOW_LINKS))) {
+            channel.truncate(source.offset()).position(source.offset());
+            copy(source, Channels.newOutputStream(channel), mode);
+            // On disk before it is renamed, since the sender may delete its file after that.
+            channel.force(false);
+        } catch (IOException e) {
+            throw LocalFiles.failure(e);
+        }
     }
 
     @Override
@@ -119,23 +130,32 @@ final class LocalTransport implements Transport {
     @Override
     public void makeDirectory(RemotePath directory) throws FileServerException {
         Path path = resolve(directory);
-        attempt(() -> Files.createDirectory(path));
+        try {
+            Files.createDirectory(path);
+        } catch (IOException e) {
+            throw LocalFiles.failure(e);
+        }
     }
 
     @Override
     public void rename(RemotePath from, RemotePath to) throws FileServerException {
         Path source = resolve(from);
         Path target = resolve(to);
-        attempt(() -> Files.move(source, target, StandardCopyOption.ATOMIC_MOVE, StandardCopyOption.REPLACE_EXISTING));
+        try {
+            Files.move(source, target, StandardCopyOption.ATOMIC_MOVE, StandardCopyOption.REPLACE_EXISTING);
+        } catch (IOException e) {
+            throw LocalFiles.failure(e);
+        }
     }
 
     @Override
     public void delete(RemotePath file) throws FileServerException {
         Path path = regularFile(file);
-        attempt(() -> {
+        try {
             Files.delete(path);
-            return null;
-        });
+        } catch (IOException e) {
+            throw LocalFiles.failure(e);
+        }
     }
 
     /** The path of a name below the root; refuses symlinks in any component. */
@@ -181,33 +201,11 @@ final class LocalTransport implements Transport {
         }
     }
 
-    private static long copy(InputStream source, OutputStream target, TransferMode mode) throws IOException {
+    private static void copy(InputStream source, OutputStream target, TransferMode mode) throws IOException {
         if (mode == TransferMode.BINARY) {
-            return source.transferTo(target);
-        }
-        // The conversion reads a byte at a time.
-        InputStream text = new FromNetASCIIInputStream(new BufferedInputStream(source));
-        if (LineEnds.ofThisHost() == LineEnds.LF) {
-            return text.transferTo(target);
-        }
-        // On this system, CRLF is kept and a bare LF becomes CRLF.
-        BufferedOutputStream buffer = new BufferedOutputStream(target);
-        long count = text.transferTo(new ToNetASCIIOutputStream(buffer));
-        buffer.flush();
-        return count;
-    }
-
-    private interface Action<T> {
-        T run() throws IOException;
-    }
-
-    private static <T> T attempt(Action<T> action) throws FileServerException {
-        try {
-            return action.run();
-        } catch (DirectoryIteratorException e) {
-            throw LocalFiles.failure(e.getCause());
-        } catch (IOException e) {
-            throw LocalFiles.failure(e);
+            source.transferTo(target);
+        } else {
+            LocalText.copy(source, target);
         }
     }
 }

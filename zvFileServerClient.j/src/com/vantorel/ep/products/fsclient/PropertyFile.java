@@ -1,12 +1,9 @@
 package com.vantorel.ep.products.fsclient;
 
 import java.io.IOException;
-import java.io.InputStream;
-import java.io.InputStreamReader;
 import java.io.Reader;
 import java.io.StringReader;
 import java.nio.charset.CharacterCodingException;
-import java.nio.charset.StandardCharsets;
 import java.nio.file.Files;
 import java.nio.file.Path;
 import java.util.Arrays;
@@ -18,6 +15,9 @@ import java.util.TreeSet;
  * of valid keys. Each failure names the file, the key and the reason.
  */
 final class PropertyFile {
+    /** Of a number that is an int in any case. */
+    private static final int MOST_DIGITS = 9;
+
     private final Path file;
     private final Properties defaults = new Properties();
     private final Properties properties = new Properties(defaults);
@@ -29,8 +29,10 @@ final class PropertyFile {
      */
     PropertyFile(Path file) throws FileServerException {
         this.file = file;
-        try (InputStream in = PropertyFile.class.getResourceAsStream("fileserver.properties")) {
-            defaults.load(new InputStreamReader(in, StandardCharsets.UTF_8));
+        for (String[] key : Defaults.KEYS) {
+            defaults.setProperty(key[0], key[1]);
+        }
+        try {
             properties.load(text(file));
         } catch (CharacterCodingException e) {
             throw new FileServerException("'" + file + "' is not written in UTF-8", e);
@@ -101,7 +103,7 @@ final class PropertyFile {
 
     /** Validates a value that is part of an FTP command: control characters would allow injection. */
     String word(String key, String value) throws FileServerException {
-        if (value.chars().anyMatch(Character::isISOControl)) {
+        if (Texts.hasControl(value)) {
             throw failure(key, "it holds a control character");
         }
         return value;
@@ -110,7 +112,8 @@ final class PropertyFile {
     /** An integer from 0 to {@code highest}. */
     int number(String key, int highest) throws FileServerException {
         String value = text(key);
-        if (!value.matches("[0-9]{1,9}") || Integer.parseInt(value) > highest) {
+        boolean isNumber = !value.isEmpty() && value.length() <= MOST_DIGITS && Texts.isMadeOf("0123456789", value);
+        if (!isNumber || Integer.parseInt(value) > highest) {
             throw failure(key, "'" + value + "' is not a whole number from 0 to " + highest);
         }
         return Integer.parseInt(value);
@@ -128,7 +131,10 @@ final class PropertyFile {
 
     /** A comma-separated list of some of the words. */
     String[] words(String key, String... words) throws FileServerException {
-        String[] chosen = text(key).split(" *, *");
+        String[] chosen = text(key).split(",");
+        for (int i = 0; i < chosen.length; ++i) {
+            chosen[i] = chosen[i].trim();
+        }
         if (!Arrays.asList(words).containsAll(Arrays.asList(chosen))) {
             throw failure(key, "'" + text(key) + "' is not made of " + String.join(", ", words));
         }

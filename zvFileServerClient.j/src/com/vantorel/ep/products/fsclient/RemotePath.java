@@ -30,12 +30,12 @@ final class RemotePath {
             throw new FileServerException("no remote name given");
         }
         List<String> components = new ArrayList<>();
-        for (String component : name.split("[/\\\\]")) {
+        for (String component : name.replace('\\', '/').split("/")) {
             if (!component.isEmpty() && !component.equals(".")) {
                 components.add(checkComponent(component, name));
             }
         }
-        if (!components.isEmpty() && components.get(0).matches("[A-Za-z]:.*")) {
+        if (!components.isEmpty() && beginsWithDrive(components.get(0))) {
             throw new FileServerException(
                     "the name '" + name + "' leads out of the file server's root: it begins with a drive");
         }
@@ -59,17 +59,23 @@ final class RemotePath {
     }
 
     private static String checkComponent(String component, String whole) throws FileServerException {
-        // Some systems strip trailing dots and blanks, so that ".. " and "..." become "..".
-        if (component.chars().allMatch(c -> c == '.' || c == ' ')) {
-            throw new FileServerException("the name '" + printable(whole)
-                    + "' is refused: a part of nothing but dots or blanks may lead out of the file server's root");
-        }
         // A line end in a name would inject an FTP command.
-        if (component.chars().anyMatch(Character::isISOControl)) {
+        if (Texts.hasControl(component)) {
             throw new FileServerException(
                     "the name '" + printable(whole) + "' is refused: it contains a control character");
         }
+        // Some systems strip trailing dots and blanks, so that ".. " and "..." become "..".
+        if (component.replace('.', ' ').trim().isEmpty()) {
+            throw new FileServerException("the name '" + printable(whole)
+                    + "' is refused: a part of nothing but dots or blanks may lead out of the file server's root");
+        }
         return component;
+    }
+
+    private static boolean beginsWithDrive(String component) {
+        char first = component.charAt(0);
+        boolean isLetter = first >= 'A' && first <= 'Z' || first >= 'a' && first <= 'z';
+        return isLetter && component.startsWith(":", 1);
     }
 
     private static String printable(String name) {

@@ -147,11 +147,18 @@ final class Settings {
         return userIsSecret ? Masking.MASK : user;
     }
 
+    /** Whether it names no host, before which an account could stand. */
+    private static boolean isFolder(String url) {
+        String scheme = "file:/";
+        return url.regionMatches(true, 0, scheme, 0, scheme.length())
+                && (url.startsWith("//", scheme.length()) || !url.startsWith("/", scheme.length()));
+    }
+
     private static URI uri(PropertyFile file, String url) throws FileServerException {
         if (url.isEmpty()) {
             throw file.failure("url", "it is missing");
         }
-        if (url.indexOf('@') >= 0 && !url.matches("(?i)file:/(//.*|[^/].*)?")) {
+        if (url.indexOf('@') >= 0 && !isFolder(url)) {
             throw file.failure("url",
                     "an account belongs in the keys user and password, and an @ in the path is written %40");
         }
@@ -190,7 +197,7 @@ final class Settings {
             throw file.failure("url", "'" + uri + "' has a ? or # (write %3F or %23)");
         }
         // Only in a URL, an IPv6 address is in brackets.
-        return uri.getHost().replaceAll("[\\[\\]]", "");
+        return uri.getHost().replace("[", "").replace("]", "");
     }
 
     private static String password(PropertyFile file) throws FileServerException {

@@ -2,7 +2,7 @@ package com.vantorel.ep.products.fsclient;
 
 import java.nio.charset.StandardCharsets;
 import java.util.UUID;
-import java.util.regex.Pattern;
+import java.util.concurrent.ThreadLocalRandom;
 
 /**
  * Names of temporary files: {@code .zv-}, 32 hexadecimal digits, and {@code .part} for an incomplete file or
@@ -10,31 +10,46 @@ import java.util.regex.Pattern;
  * the target's name, which may already have the maximum length.
  */
 final class TemporaryName {
-    private static final Pattern PATTERN = Pattern.compile("\\.zv-[0-9a-f]{32}\\.(part|old)");
+    private static final String PREFIX = ".zv-";
+    private static final String ARRIVING = ".part";
+    private static final String REPLACED = ".old";
+    private static final int DIGITS = 32;
+    private static final int DIGITS_OF_LONG = 16;
 
     private TemporaryName() {}
 
     /** A new name for an incomplete file. */
     static String forArriving() {
-        return create(UUID.randomUUID(), "part");
+        return create(ARRIVING);
     }
 
     /** The name for an incomplete file that may be continued: always the same for a transfer. */
     static String forResuming(String transfer) {
-        return create(UUID.nameUUIDFromBytes(transfer.getBytes(StandardCharsets.UTF_8)), "part");
+        UUID id = UUID.nameUUIDFromBytes(transfer.getBytes(StandardCharsets.UTF_8));
+        return PREFIX + id.toString().replace("-", "") + ARRIVING;
     }
 
     /** A new name for a file that is being replaced. */
     static String forReplaced() {
-        return create(UUID.randomUUID(), "old");
+        return create(REPLACED);
     }
 
     /** Whether a file name is that of a temporary file. */
     static boolean matches(String fileName) {
-        return PATTERN.matcher(fileName).matches();
+        int end = PREFIX.length() + DIGITS;
+        return fileName.length() > end && fileName.startsWith(PREFIX)
+                && (fileName.startsWith(ARRIVING, end) && fileName.length() == end + ARRIVING.length()
+                        || fileName.startsWith(REPLACED, end) && fileName.length() == end + REPLACED.length())
+                && Texts.isMadeOf("0123456789abcdef", fileName.substring(PREFIX.length(), end));
     }
 
-    private static String create(UUID id, String ending) {
-        return ".zv-" + id.toString().replace("-", "") + "." + ending;
+    /** Made of chance and the clock. No secure source: none is needed, and it takes ten milliseconds to set up. */
+    private static String create(String ending) {
+        return PREFIX + digits(ThreadLocalRandom.current().nextLong()) + digits(System.nanoTime()) + ending;
+    }
+
+    private static String digits(long number) {
+        String digits = Long.toHexString(number);
+        return "0".repeat(DIGITS_OF_LONG - digits.length()) + digits;
     }
 }

@@ -45,10 +45,13 @@ final class Upload {
     /** Uploads the file. An existing target is replaced; on failure it is unchanged. */
     void run(String what, Retry retry) throws FileServerException {
         try {
-            retry.run(what, () -> {
-                send();
-                takeName();
-                return null;
+            retry.run(what, new Retry.Operation<Void>() {
+                @Override
+                public Void run() throws FileServerException {
+                    send();
+                    takeName();
+                    return null;
+                }
             });
         } catch (FileServerException e) {
             if (replacing) {
