@@ -14,7 +14,7 @@ zvTestLocale::zvTestLocale(const std::string& definition, const std::string& enc
     // It fails with a warning about encodings that are not quite ASCII, and has made the locale nevertheless.
     const std::string command = "localedef -c -f " + encoding + " -i " + definition + " \"" +
                                 m_folder.file(name) + "\" > /dev/null 2>&1";
-    static_cast<void>(std::system(command.c_str()));
+    [[maybe_unused]] const int code = std::system(command.c_str());
     zvPlatform::setEnvironment("LOCPATH", m_folder.path().string().c_str());
     m_bIsSet = std::setlocale(LC_CTYPE, name.c_str()) != nullptr;
 }

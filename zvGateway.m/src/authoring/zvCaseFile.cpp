@@ -77,14 +77,13 @@ void zvCaseFile::requireFaultless() const {
         return;
     }
     const std::string shown = name == "-" ? "standard input" : zvConsole::printable(name.c_str());
-    std::string text;
     for (const zvCaseFault& fault : faults.first()) {
-        const std::string column =
-            fault.position.column > 0 ? std::to_string(fault.position.column) + ":" : "";
-        text +=
-            shown + ":" + std::to_string(fault.position.line) + ":" + column + " error: " + fault.text + "\n";
+        std::string line = shown;
+        for (const int number : {fault.position.line, fault.position.column}) {
+            line.append(number > 0 ? ":" + std::to_string(number) : "");
+        }
+        zvConsole::note(line.append(": error: ").append(fault.text));
     }
-    zvConsole::note(text.substr(0, text.size() - 1));
     throw zvProgramFailure{zvExitCode::usage, "cases", shown,
                            zvConsole::counted(static_cast<std::ptrdiff_t>(faults.count()), "fault") +
                                ", no case was run; first in line " +

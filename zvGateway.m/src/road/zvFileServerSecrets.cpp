@@ -19,8 +19,7 @@ zvString nameIn(const zvString& value) {
 
 std::set<zvString> zvFileServerSecrets::names() {
     std::set<zvString> names;
-    const zvString home =
-        zvCommonUtils::getEnvironmentalVariable(zvCommonUtils::getGatewayHomeEnvVariable());
+    const zvString home = zvCommonUtils::getEnvironmentalVariable(zvCommonUtils::getGatewayHomeEnvVariable());
     if (home.empty()) {
         return names;
     }
