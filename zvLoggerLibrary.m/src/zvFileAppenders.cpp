@@ -59,6 +59,9 @@ public:
         m_pFile->close(pool);
     }
 
+    /// Forgets what was not passed on.
+    void drop() { m_line.clear(); }
+
 private:
     const OutputStreamPtr m_pFile;
     std::string m_line;
@@ -80,16 +83,27 @@ public:
     }
 
     void append(const log4cxx::spi::LoggingEventPtr& event, Pool& pool) override {
-        if (this->getWriter() != nullptr) {
+        if (this->getWriter() == nullptr) {
+            return;
+        }
+        try {
             Appender::append(event, pool);
+        } catch (...) {
+            // Or a line that was cut off would stand before the next one.
+            m_pLines->drop();
+            throw;
         }
     }
 
 protected:
     WriterPtr createWriter(OutputStreamPtr& file) override {
-        OutputStreamPtr lines = std::make_shared<WholeLines>(file);
+        m_pLines = std::make_shared<WholeLines>(file);
+        OutputStreamPtr lines = m_pLines;
         return Appender::createWriter(lines);
     }
+
+private:
+    std::shared_ptr<WholeLines> m_pLines;  // there as soon as there is a writer
 };
 
 template <class Appender>
