@@ -220,9 +220,7 @@ bool zvC2JBridge::adoptMachine() {
 
 void zvC2JBridge::logVersion() const {
     const zvJniFrame frame(*getEnv());
-    // Java would look for the removed class in every jar.
-    const bool isRemoved = frame.env().GetVersion() >= JNI_VERSION_9;
-    zvString version = isRemoved ? zvString() : textOrNone([&] { return printedVersion(frame); });
+    zvString version = textOrNone([&] { return printedVersion(frame); });
     if (version.empty()) {
         version = textOrNone([&] { return versionFromProperties(frame); });
     }

@@ -125,12 +125,8 @@ void JNICALL stringRegion(JNIEnv*, jstring string, jsize start, jsize length, jc
     std::copy_n(text.begin() + start, length, out);
 }
 
-// Of the last Java that has the class which is asked for its version.
-jint JNICALL getVersion(JNIEnv*) { return JNI_VERSION_1_8; }
-
 JNINativeInterface_ environmentFunctions() {
     JNINativeInterface_ functions{};
-    functions.GetVersion = &getVersion;
     functions.PushLocalFrame = &pushLocalFrame;
     functions.PopLocalFrame = &popLocalFrame;
     functions.DeleteLocalRef = &deleteReference;

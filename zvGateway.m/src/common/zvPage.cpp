@@ -55,8 +55,8 @@ std::string links(const std::vector<zvPage::Section>& sections) {
 // nothing away. Browsers that know the two kinds of styles pass over the one that allows both; an attribute
 // has a group's height, a picture's has colours.
 std::string policy(const zvPage::Frame& frame) {
-    return std::string("default-src 'none'; script-src ") + zvPageJsHash +
-           "; style-src 'unsafe-inline'; style-src-elem " + zvPageCssHash + " " + frame.styleHash +
+    return std::string("default-src 'none'; script-src ") + frame.script.hash +
+           "; style-src 'unsafe-inline'; style-src-elem " + zvPageCssHash + " " + frame.style.hash +
            "; style-src-attr 'unsafe-inline'; base-uri 'none'; form-action 'none'";
 }
 
@@ -66,7 +66,7 @@ std::string styleElement(const char* style) { return std::string("<style>\n") + 
 
 namespace zvPage {
 
-const char* const script = zvPageJs;
+const Part script{zvPageJs, zvPageJsHash};
 
 std::string escaped(const zvString& text) {
     std::string result;
@@ -92,7 +92,7 @@ std::string begin(const Frame& frame) {
            "<meta http-equiv=\"Content-Security-Policy\" content=\"" + policy(frame) + "\">\n" +
            "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n" +
            "<meta name=\"color-scheme\" content=\"light dark\">\n<title>" + title + "</title>\n" +
-           styleElement(zvPageCss) + styleElement(frame.style) +
+           styleElement(zvPageCss) + styleElement(frame.style.text) +
            "</head>\n<body>\n<header class=\"page-title\"><h1>" + title +
            "</h1></header>\n<div class=\"bar\"><div>\n<div class=\"search\" role=\"search\">" +
            "<input id=\"search\" type=\"search\" aria-label=\"Search\" aria-keyshortcuts=\"/\" " +
@@ -101,11 +101,11 @@ std::string begin(const Frame& frame) {
            "<output id=\"found\" for=\"search\"></output>\n</div></div>\n<main>\n";
 }
 
-std::string end(const char* pageScript) {
+std::string end(const Frame& frame) {
     return std::string(
                "<p id=\"nothing\" class=\"nothing\" role=\"status\" hidden><strong>Nothing found</strong>") +
            "Nothing here has all words of &ldquo;<b></b>&rdquo;. <kbd>Esc</kbd> clears the search.</p>\n" +
-           "</main>\n<script>\n" + pageScript + "</script>\n</body>\n</html>\n";
+           "</main>\n<script>\n" + frame.script.text + "</script>\n</body>\n</html>\n";
 }
 
 std::string openSection(const Section& section, int count) {

@@ -21,6 +21,15 @@ struct Section {
     const char* name;
 };
 
+/// A style or a script, and the hash by which the page's policy allows it: as zv_embed_text() gives them.
+struct Part {
+    const char* text = "";
+    const char* hash = "";
+};
+
+/// The script of every page. A page's own is embedded after it.
+extern const Part script;
+
 struct Frame {
     zvString title;
     /// What the search field says that can be searched for.
@@ -28,13 +37,10 @@ struct Frame {
     std::vector<Section> sections;
     /// The page's own style, after the common one. Tables are laid out by their class; a narrow window names
     /// cells by its "td:nth-child(N)::before".
-    const char* style = "";
-    /// Its hash, as zv_embed_text gives it beside the text.
-    const char* styleHash = "";
+    Part style;
+    /// The common one, or with the page's own after it.
+    Part script = zvPage::script;
 };
-
-/// The script of every page. A page's own is embedded after it.
-extern const char* const script;
 
 /// The text as content of an element, and as a quoted attribute.
 std::string escaped(const zvString& text);
@@ -44,8 +50,8 @@ std::string arrow(const zvString& local, const zvString& remote);
 std::string badge(const char* word);
 
 std::string begin(const Frame& frame);
-/// The script is that of begin()'s page: the common one, or with the page's own after it.
-std::string end(const char* pageScript = script);
+/// Of the same frame.
+std::string end(const Frame& frame);
 
 std::string openSection(const Section& section, int count);
 std::string closeSection();

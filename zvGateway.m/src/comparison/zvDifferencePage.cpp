@@ -86,7 +86,7 @@ std::string zvDifferencePage::of(const zvConfigurationComparison& comparison, co
     zvPage::Frame frame;
     frame.title = "Differences of two configurations";
     frame.searched = "Search objects, attributes, rules, values";
-    frame.style = zvDifferencePageCss;
+    frame.style = {zvDifferencePageCss, zvDifferencePageCssHash};
     for (const zvDifferenceSection& section : comparison.sections()) {
         frame.sections.push_back({section.id, section.name});
     }
@@ -102,5 +102,5 @@ std::string zvDifferencePage::of(const zvConfigurationComparison& comparison, co
         }
         html += zvPage::closeSection();
     }
-    return html + zvPage::end();
+    return html + zvPage::end(frame);
 }

@@ -100,16 +100,17 @@ std::string figure(const zvCfgLcmGraph& lifecycle, const std::string& id, const 
 
 zvConfigurationPage::zvConfigurationPage(const zvCfgConfigManager& configuration, const zvString& title,
                                          const zvLifecyclePicture* picture) {
-    m_html = zvPage::begin({title,
-                            "Search types, attributes, rules, extensions, views, states",
-                            {objects, fileTypes, views, lifecycles},
-                            zvConfigurationPageCss,
-                            zvConfigurationPageCssHash});
+    const zvPage::Frame frame{title,
+                              "Search types, attributes, rules, extensions, views, states",
+                              {objects, fileTypes, views, lifecycles},
+                              {zvConfigurationPageCss, zvConfigurationPageCssHash},
+                              {zvConfigurationPageJs, zvConfigurationPageJsHash}};
+    m_html = zvPage::begin(frame);
     addObjects(configuration);
     addFiles(configuration);
     addViews(configuration);
     addLifecycles(configuration, picture);
-    m_html += zvPage::end(zvConfigurationPageJs);
+    m_html += zvPage::end(frame);
 }
 
 void zvConfigurationPage::addObjects(const zvCfgConfigManager& configuration) {

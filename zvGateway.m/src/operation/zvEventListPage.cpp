@@ -83,8 +83,7 @@ std::string zvEventListPage::html(const std::string& root) const {
     zvPage::Frame frame;
     frame.title = zvString("Events in ") + zvConsole::printable(root.c_str()).c_str();
     frame.searched = "Directory, EventId, event, object, reason";
-    frame.style = zvEventListPageCss;
-    frame.styleHash = zvEventListPageCssHash;
+    frame.style = {zvEventListPageCss, zvEventListPageCssHash};
     for (const StateSection& entry : sections) {
         if (!m_groups[static_cast<std::size_t>(entry.state)].empty()) {
             frame.sections.push_back(entry.section);
@@ -102,5 +101,5 @@ std::string zvEventListPage::html(const std::string& root) const {
         }
         page += zvPage::closeSection();
     }
-    return page + zvPage::end();
+    return page + zvPage::end(frame);
 }
