@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <charconv>
 #include <memory>
-#include <regex>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -54,9 +53,11 @@ bool isNumber(std::string_view text, const zvClientConfigKey& key) {
 }
 
 // The owner needs all of them.
-bool areRights(const std::string& text) {
-    static const std::regex form("umask|0?7[0-7]{2}");
-    return std::regex_match(text, form);
+bool areRights(std::string_view text) {
+    constexpr std::size_t numDigits = 3;
+    const std::string_view digits = text.substr(text.size() == numDigits + 1 && text.front() == '0' ? 1 : 0);
+    return text == "umask" || (digits.size() == numDigits && digits.front() == '7' &&
+                               digits.find_first_not_of("01234567") == std::string_view::npos);
 }
 
 }  // namespace
