@@ -201,12 +201,14 @@ bool zvC2JBridge::startMachine(zvJvmOptionList& options) {
 
 void zvC2JBridge::addEndHooks(zvJvmOptionList& options) {
     if (m_pEndObserver != nullptr) {
-        void(JNICALL* const atExit)(jint) = [](jint) { m_pEndObserver(); };
-        void(JNICALL* const atAbort)() = [] { m_pEndObserver(); };
-        options.add("exit", reinterpret_cast<void*>(atExit));
-        options.add("abort", reinterpret_cast<void*>(atAbort));
+        options.add("exit", reinterpret_cast<void*>(&atExit));
+        options.add("abort", reinterpret_cast<void*>(&atAbort));
     }
 }
+
+void JNICALL zvC2JBridge::atExit(jint) { m_pEndObserver(); }
+
+void JNICALL zvC2JBridge::atAbort() { m_pEndObserver(); }
 
 bool zvC2JBridge::adoptMachine() {
     jsize machines = 0;

@@ -55,6 +55,8 @@ private:
     bool startMachine(zvJvmOptionList& options);
     bool adoptMachine();
     static void addEndHooks(zvJvmOptionList& options);
+    static void JNICALL atExit(jint code);
+    static void JNICALL atAbort();
     void logVersion() const;
 
     static std::unique_ptr<zvC2JBridge> m_pBridge;
