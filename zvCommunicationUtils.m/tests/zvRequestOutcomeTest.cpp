@@ -4,6 +4,7 @@
 #include <ctime>
 #include <functional>
 #include <memory>
+#include <limits>
 #include <string>
 #include <thread>
 #include <utility>
@@ -144,7 +145,7 @@ TEST_F(zvRequestOutcomeTest, AnAnswerWithoutAnEndIsLeft) {
          Failure::answerLimit, tooLong},
         {"an endless body",
          [](auto& to) {
-             to.set_content_provider(std::size_t{1} << 40U, "a/b",
+             to.set_content_provider(std::numeric_limits<int>::max(), "a/b",
                                      [](auto, auto, auto& out) { return endless(1000, 0)(0, out); });
          },
          Failure::answerLimit, tooLong},
