@@ -3,8 +3,8 @@
 #include <chrono>
 #include <ctime>
 #include <functional>
-#include <memory>
 #include <limits>
+#include <memory>
 #include <string>
 #include <thread>
 #include <utility>
