@@ -4,6 +4,7 @@
 #include <sstream>
 #include <system_error>
 
+#include "zvCommonUtils.h"
 #include "zvNativePath.h"
 #include "zvProcess.h"
 
@@ -28,6 +29,13 @@ std::string zvHomeFile::read(const zvString& path, std::string& error) {
     }
     error = code ? code.message() : "";
     return content;
+}
+
+std::string zvHomeFile::readConfiguration(const char* name) {
+    // Without a home, getConfigurationFile() says on standard output that there is none.
+    const zvString home = zvCommonUtils::getEnvironmentalVariable(zvCommonUtils::getGatewayHomeEnvVariable());
+    std::string error;
+    return home.empty() ? std::string() : read(zvCommonUtils::getConfigurationFile(name), error);
 }
 
 std::vector<std::string> zvHomeFile::lines(const std::string& content) {

@@ -6,7 +6,6 @@
 
 #include "zvCharString.h"
 #include "zvClientConfigKey.h"
-#include "zvCommonUtils.h"
 #include "zvHomeFile.h"
 #include "zvSecrets.h"
 
@@ -14,14 +13,7 @@ namespace {
 
 // The first line counts, as for every other key.
 zvString valueOf(const std::string& key) {
-    // Not by getConfigurationFile(), which says on standard output that there is no home.
-    const zvString home = zvCommonUtils::getEnvironmentalVariable(zvCommonUtils::getGatewayHomeEnvVariable());
-    if (home.empty()) {
-        return {};
-    }
-    std::string error;
-    const std::string content = zvHomeFile::read(home + "\\config\\client-config.ini", error);
-    for (const std::string& line : zvHomeFile::lines(content)) {
+    for (const std::string& line : zvHomeFile::lines(zvHomeFile::readConfiguration("client-config.ini"))) {
         if (line.compare(0, key.size() + 1, key + "=") == 0) {
             zvString value = line.substr(key.size() + 1).c_str();
             value.trim();

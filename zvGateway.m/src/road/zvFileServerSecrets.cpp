@@ -1,6 +1,5 @@
 #include "zvFileServerSecrets.h"
 
-#include "zvCommonUtils.h"
 #include "zvHomeFile.h"
 #include "zvJavaProperties.h"
 
@@ -19,13 +18,7 @@ zvString nameIn(const zvString& value) {
 
 std::set<zvString> zvFileServerSecrets::names() {
     std::set<zvString> names;
-    const zvString home = zvCommonUtils::getEnvironmentalVariable(zvCommonUtils::getGatewayHomeEnvVariable());
-    if (home.empty()) {
-        return names;
-    }
-    std::string error;
-    const std::string content =
-        zvHomeFile::read(zvCommonUtils::getConfigurationFile("fileserver.properties"), error);
+    const std::string content = zvHomeFile::readConfiguration("fileserver.properties");
     for (const zvJavaProperties::Entry& entry : zvJavaProperties::entriesOf(content)) {
         names.insert(nameIn(entry.value));
     }
