@@ -5,15 +5,16 @@ set(CMAKE_C_COMPILER ${ZV_MINGW}-gcc-posix)
 set(CMAKE_CXX_COMPILER ${ZV_MINGW}-g++-posix)
 set(CMAKE_RC_COMPILER ${ZV_MINGW}-windres)
 
-# The libraries built by scripts/windows/libraries.
+# The libraries built by scripts/windows/libraries, and, where its source was to be had, by scripts/windows/log4cxx.
 set(ZV_CACHE $ENV{XDG_CACHE_HOME})
 if(NOT ZV_CACHE)
     set(ZV_CACHE $ENV{HOME}/.cache)
 endif()
 set(ZV_LIBRARIES ${ZV_CACHE}/zvCommonUtilsExport/${ZV_TARGET}-libraries CACHE PATH "Libraries for Windows")
-list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES ZV_LIBRARIES)
+set(ZV_LOG4CXX ${ZV_CACHE}/zvCommonUtilsExport/${ZV_TARGET}-log4cxx CACHE PATH "log4cxx for Windows")
+list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES ZV_LIBRARIES ZV_LOG4CXX)
 
-set(CMAKE_FIND_ROOT_PATH ${ZV_LIBRARIES} /usr/${ZV_MINGW})
+set(CMAKE_FIND_ROOT_PATH ${ZV_LIBRARIES} ${ZV_LOG4CXX} /usr/${ZV_MINGW})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
