@@ -25,10 +25,12 @@ install(TARGETS zvCommonUtilsExport
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT library
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
     PUBLIC_HEADER DESTINATION ${header_folder} COMPONENT development)
-if(NOT WIN32)  # where the logging library is the site's
+if(ZV_HAS_LOGGER)
     install(TARGETS zvLogger
         EXPORT zvCommonUtilsExportTargets
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT logger)
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT logger
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT logger
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
 endif()
 install(EXPORT zvCommonUtilsExportTargets NAMESPACE zvCommonUtilsExport:: DESTINATION ${package_folder}
     COMPONENT development)

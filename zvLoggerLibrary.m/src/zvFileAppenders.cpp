@@ -5,18 +5,18 @@
 #include <log4cxx/helpers/loglog.h>
 #include <log4cxx/helpers/outputstream.h>
 #include <log4cxx/helpers/pool.h>
-#include <log4cxx/helpers/transcoder.h>
 #include <log4cxx/rolling/rollingfileappender.h>
 
 #include <cerrno>
 #include <filesystem>
+#include <fstream>
 #include <memory>
 #include <new>
 #include <string>
 #include <system_error>
 #include <utility>
 
-#include "zvPlatform.h"
+#include "zvLogPath.h"
 
 using log4cxx::LogString;
 using log4cxx::helpers::ByteBuffer;
@@ -136,17 +136,16 @@ zvFileAppenders::~zvFileAppenders() {
 }
 
 std::string zvFileAppenders::openingError(const log4cxx::FileAppender& appender) {
-    std::string file;
-    log4cxx::helpers::Transcoder::encode(appender.getFile(), file);
+    const std::filesystem::path file = zvLogPath::of(appender.getFile());
     if (appender.getWriter() != nullptr || file.empty()) {
         return "";
     }
-    const std::filesystem::path folder = std::filesystem::path(file).parent_path();
+    const std::filesystem::path folder = file.parent_path();
     std::error_code error;
     if (!folder.empty()) {
         std::filesystem::create_directories(folder, error);
     }
-    if (!error && zvPlatform::File(std::fopen(file.c_str(), "ab")) == nullptr) {
+    if (!error && !std::ofstream(file, std::ios::app | std::ios::binary)) {
         error = {errno, std::generic_category()};
     }
     return error ? error.message() : "";

@@ -2,7 +2,6 @@
 
 #include <log4cxx/file.h>
 #include <log4cxx/helpers/loglog.h>
-#include <log4cxx/helpers/transcoder.h>
 #include <log4cxx/jsonlayout.h>
 #include <log4cxx/mdc.h>
 #include <log4cxx/patternlayout.h>
@@ -10,13 +9,13 @@
 #include <log4cxx/xml/xmllayout.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <iterator>
 #include <mutex>
 #include <string_view>
 #include <utility>
 
 #include "zvFileAppenders.h"
+#include "zvLogPath.h"
 #include "zvLogText.h"
 #include "zvPlatform.h"
 #include "zvTextCodec.h"
@@ -79,7 +78,7 @@ bool isLogRequired() { return !zvPlatform::environment("GATEWAY_LOG_REQUIRED").e
 
 zvLogConfiguration::zvLogConfiguration(std::filesystem::path path)
     : m_path(std::move(path)), m_pRepository(log4cxx::Hierarchy::create()) {
-    const log4cxx::File file(m_path.string());
+    const log4cxx::File file = log4cxx::File().setPath(zvLogPath::textOf(m_path));
     const auto status = [&] {
         const zvFileAppenders appenders;
         return log4cxx::xml::DOMConfigurator().doConfigure(file, m_pRepository);
@@ -125,9 +124,7 @@ bool zvLogConfiguration::reportUnopenable(const zvLogFile& logFile) {
     const std::string reason = logFile.openingError();
     if (!reason.empty() && !m_bReported) {
         m_bReported = true;
-        std::string path;
-        log4cxx::helpers::Transcoder::encode(logFile.path(), path);
-        std::fprintf(stderr, "log: %s cannot be opened: %s\n", path.c_str(), reason.c_str());
+        zvLogText::complain(logFile.path() + LOG4CXX_STR(" cannot be opened: ") + zvLogText::decoded(reason));
     }
     return !reason.empty();
 }
@@ -135,8 +132,8 @@ bool zvLogConfiguration::reportUnopenable(const zvLogFile& logFile) {
 void zvLogConfiguration::reportLocked() {
     if (!m_bReportedLock) {
         m_bReportedLock = true;
-        std::fprintf(stderr, "log: another process has %s locked for 5 s: lines are left out\n",
-                     m_lock.path().c_str());
+        zvLogText::complain(LOG4CXX_STR("another process has ") + zvLogPath::textOf(m_lock.path()) +
+                            LOG4CXX_STR(" locked for 5 s: lines are left out"));
     }
 }
 

@@ -1,13 +1,14 @@
 #include "zvLogFile.h"
 
 #include <log4cxx/helpers/pool.h>
-#include <log4cxx/helpers/transcoder.h>
 #include <log4cxx/rolling/rollingpolicybase.h>
 #include <log4cxx/rolling/sizebasedtriggeringpolicy.h>
 #include <log4cxx/rolling/timebasedrollingpolicy.h>
 
 #include <chrono>
 #include <utility>
+
+#include "zvLogPath.h"
 
 using log4cxx::FileAppender;
 using log4cxx::helpers::Pool;
@@ -47,9 +48,7 @@ zvLogFile::zvLogFile(log4cxx::FileAppenderPtr appender)
         }
     }
     m_pAppender->setImmediateFlush(true);
-    std::string file;
-    log4cxx::helpers::Transcoder::encode(path(), file);
-    m_path = file;
+    m_path = zvLogPath::of(path());
     look(m_own);
 }
 

@@ -1,6 +1,5 @@
 #include "zvLogFolderLock.h"
 
-#include <apr_file_info.h>
 #include <apr_time.h>
 #include <log4cxx/file.h>
 
@@ -8,25 +7,28 @@
 #include <filesystem>
 #include <system_error>
 
+#include "zvLogPath.h"
+
 namespace {
 
 constexpr apr_interval_time_t longestWait = apr_time_from_sec(5);
 constexpr apr_interval_time_t firstPause = 50;  // microseconds
-constexpr apr_interval_time_t longestPause = 2000;
+// Many processes that wait must not keep the one busy that they wait for.
+constexpr apr_interval_time_t longestPause = 20000;
 constexpr apr_fileperms_t ownersAlone = APR_FPROT_UREAD | APR_FPROT_UWRITE;
 
 }  // namespace
 
 void zvLogFolderLock::open(const log4cxx::LogString& logFile) {
-    const auto path = std::filesystem::path(logFile).replace_filename("log4cxx.lock");
-    m_path = path.string();
+    m_path = zvLogPath::of(logFile).replace_filename("log4cxx.lock");
     log4cxx::File()
-        .setPath(path.native())
+        .setPath(zvLogPath::textOf(m_path))
         .open(&m_pFile, APR_FOPEN_CREATE | APR_FOPEN_WRITE, ownersAlone, m_pool);
     // One of an earlier version. Another user's cannot be changed, and is the other user's business.
     std::error_code error;
-    if (!std::filesystem::is_symlink(path, error)) {
-        apr_file_perms_set(m_path.c_str(), ownersAlone);
+    if (!std::filesystem::is_symlink(m_path, error)) {
+        constexpr auto perms = std::filesystem::perms::owner_read | std::filesystem::perms::owner_write;
+        std::filesystem::permissions(m_path, perms, error);
     }
 }
 

@@ -5,7 +5,7 @@
 #include <log4cxx/helpers/pool.h>
 #include <log4cxx/logstring.h>
 
-#include <string>
+#include <filesystem>
 
 /// An advisory lock on a folder of log files, held while one of them is opened or rolled over, which log4cxx
 /// does in several steps. The lock is a system lock on the file
@@ -22,12 +22,12 @@ public:
     bool try_lock();  // NOLINT(readability-identifier-naming): as std::unique_lock has it
     void unlock();
 
-    const std::string& path() const { return m_path; }
+    const std::filesystem::path& path() const { return m_path; }
 
 private:
     log4cxx::helpers::Pool m_pool;
     apr_file_t* m_pFile = nullptr;
-    std::string m_path;
+    std::filesystem::path m_path;
     bool m_bMissed = false;  // the last time
 };
 

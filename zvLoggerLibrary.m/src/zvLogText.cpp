@@ -4,9 +4,15 @@
 
 #include <array>
 #include <cstdio>
+#include <filesystem>
 #include <string>
+#include <type_traits>
+#include <vector>
 
 #include "zvControlCharacter.h"
+#include "zvLogPath.h"
+#include "zvPlatform.h"
+#include "zvTextCodec.h"
 
 using log4cxx::LogString;
 using log4cxx::helpers::Transcoder;
@@ -53,16 +59,39 @@ LogString escaped(const LogString& text, bool keepsLines) {
     return result;
 }
 
+// The system with wide paths is the one without locales that have UTF-8.
+bool isReadAsUtf8(const std::string& text) {
+    if constexpr (std::is_same_v<std::filesystem::path::value_type, char>) {
+        return false;
+    } else {
+        std::vector<wchar16> units(text.size());
+        return zvTextCodec::fromUtf8(text.c_str(), units.data()) != zvTextCodec::unconvertible;
+    }
+}
+
 LogString safe(std::string_view text, bool keepsLines) {
     if (isPlain(text)) {
         return {text.begin(), text.end()};
     }
-    LogString decoded;
-    Transcoder::decode(std::string(text), decoded);
-    return escaped(decoded, keepsLines);
+    return escaped(zvLogText::decoded(text), keepsLines);
 }
 
 }  // namespace
+
+LogString zvLogText::decoded(std::string_view text) {
+    const std::string narrow(text);
+    LogString result;
+    if (isReadAsUtf8(narrow)) {
+        Transcoder::decodeUTF8(narrow, result);
+    } else {
+        Transcoder::decode(narrow, result);
+    }
+    return result;
+}
+
+void zvLogText::complain(const LogString& line) {
+    zvPlatform::complain(zvLogPath::of(LOG4CXX_STR("log: ") + line + LOG4CXX_STR("\n")).native());
+}
 
 LogString zvLogText::onOneLine(std::string_view text) { return safe(text, false); }
 

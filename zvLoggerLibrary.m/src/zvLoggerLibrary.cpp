@@ -17,6 +17,8 @@
 #include <new>
 
 #include "zvLogConfiguration.h"
+#include "zvLogPath.h"
+#include "zvLogText.h"
 #include "zvPlatform.h"
 
 using log4cxx::Level;
@@ -135,7 +137,8 @@ bool InitializeLogger(const char* configurationPath) {
     // Twice: callers do not ask again, and a moment without memory must not leave them without a log.
     for (int attempt = 0; attempt < 2; ++attempt) {
         try {
-            return configure(std::filesystem::weakly_canonical(zvPlatform::nativePath(configurationPath)));
+            return configure(std::filesystem::weakly_canonical(
+                zvLogPath::of(zvLogText::decoded(zvPlatform::nativePath(configurationPath)))));
         } catch (const std::bad_alloc&) {
             continue;
         } catch (const std::exception&) {

@@ -84,6 +84,10 @@ void* findFunction(void* library, const char* name);
 /// The path of the library file in which a function is, as it was loaded; empty if the system does not tell.
 std::string libraryOf(void* function);
 
+/// Writes a text, in the encoding of paths, to standard error: to a console its characters, to anything else
+/// what other programs of the system read, UTF-8 where paths are wide.
+void complain(const std::filesystem::path::string_type& text);
+
 /// The value of an environment variable; empty if it is unset.
 std::string environment(const char* name);
 /// Sets an environment variable.

@@ -267,6 +267,8 @@ std::string libraryOf(void* function) {
     return function != nullptr && ::dladdr(function, &found) != 0 ? found.dli_fname : "";
 }
 
+void complain(const std::string& text) { std::fputs(text.c_str(), stderr); }
+
 std::string environment(const char* name) {
     const char* const value = std::getenv(name);
     return value == nullptr ? "" : value;

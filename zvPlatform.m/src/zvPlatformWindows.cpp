@@ -182,6 +182,16 @@ std::string libraryOf(void* function) {
     return isFound ? path.data() : "";
 }
 
+void complain(const std::wstring& text) {
+    const HANDLE console = ::GetStdHandle(STD_ERROR_HANDLE);
+    DWORD mode = 0;
+    if (::GetConsoleMode(console, &mode) != 0) {
+        ::WriteConsoleW(console, text.c_str(), static_cast<DWORD>(text.size()), nullptr, nullptr);
+        return;
+    }
+    std::fputs(std::filesystem::path(text).u8string().c_str(), stderr);
+}
+
 std::string environment(const char* name) {
     const char* const value = std::getenv(name);
     return value == nullptr ? "" : value;
