@@ -18,8 +18,8 @@ zvProgramFailure failure(const std::string& file, const std::string& reason) {
 }
 
 // 0, or the runtime's number for what went wrong.
-int writeNew(const std::string& file, const std::string& content) {
-    std::FILE* const stream = std::fopen(file.c_str(), "wbx");
+int writeNew(const fs::path& file, const std::string& content) {
+    std::FILE* const stream = zvProcess::createFile(file);
     if (stream == nullptr) {
         return errno;
     }
@@ -39,14 +39,15 @@ void zvReplacedFile::write(const std::string& file, const std::string& content) 
     const std::string temporary = file + "." + std::to_string(zvProcess::id()) + ".part";
     const int writeError = writeNew(temporary, content);
     if (writeError == 0) {
-        fs::rename(temporary, file, error);
+        zvProcess::replaceFile(temporary, file, error);
     } else {
         error = {writeError, std::generic_category()};
     }
     if (error) {
         if (writeError != EEXIST) {
-            std::remove(temporary.c_str());
+            std::error_code ignored;
+            fs::remove(temporary, ignored);
         }
-        throw failure(file, error.message());
+        throw failure(file, zvProcess::messageOf(error));
     }
 }

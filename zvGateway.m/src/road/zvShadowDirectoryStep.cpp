@@ -9,6 +9,7 @@
 #include "zvDirFileUtils.h"
 #include "zvHomeSettings.h"
 #include "zvNativePath.h"
+#include "zvProcess.h"
 
 namespace fs = std::filesystem;
 
@@ -133,7 +134,7 @@ void zvShadowDirectoryStep::makeDirectoryAfter2038(const zvString& root) {
             return;
         }
         if (error) {
-            throw failure(root, error.message());
+            throw failure(root, zvProcess::messageOf(error));
         }
     }
 }
