@@ -32,6 +32,10 @@ std::string textOf(const std::filesystem::path& path);
 /// path that the code page lacks, alone or in a list with semicolons, is replaced by its short form.
 std::string textForLibraries(const std::string& text);
 
+/// Why the system would take a path for another one than it names, or for none: empty if it does not. Windows
+/// has names of devices in every folder, and drops what some names end in.
+std::string nameFault(const std::string& path);
+
 /// The system's error number of the last failed createDirectory, createFile or closeHandle.
 unsigned long lastError();
 /// The system's message for an error number.

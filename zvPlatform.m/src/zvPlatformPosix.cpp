@@ -155,6 +155,8 @@ std::string textOf(const std::filesystem::path& path) { return path.string(); }
 
 std::string textForLibraries(const std::string& text) { return text; }
 
+std::string nameFault(const std::string&) { return {}; }
+
 unsigned long lastError() { return static_cast<unsigned long>(lastFailure); }
 
 std::string errorText(unsigned long error) {

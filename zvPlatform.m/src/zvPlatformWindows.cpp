@@ -3,11 +3,15 @@
 #include <process.h>
 #include <windows.h>
 
+#include <algorithm>
+#include <cerrno>
 #include <clocale>
 #include <cstdlib>
 #include <ctime>
+#include <cwctype>
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "zvPlatform.h"
@@ -108,6 +112,56 @@ private:
     std::wstring m_before;
 };
 
+bool isDevice(std::wstring name) {
+    name.erase(std::min(name.find(L'.'), name.size()));
+    name.erase(name.find_last_not_of(L' ') + 1);
+    std::transform(name.begin(), name.end(), name.begin(),
+                   [](wchar_t c) { return static_cast<wchar_t>(std::towupper(c)); });
+    constexpr std::wstring_view digits = L"123456789\u00B9\u00B2\u00B3";
+    for (const wchar_t* const device : {L"CON", L"PRN", L"AUX", L"NUL", L"CONIN$", L"CONOUT$"}) {
+        if (name == device) {
+            return true;
+        }
+    }
+    const bool isPort = name.size() == 4 && (name.rfind(L"COM", 0) == 0 || name.rfind(L"LPT", 0) == 0);
+    return isPort && digits.find(name[3]) != std::wstring_view::npos;
+}
+
+const char* faultOfName(const std::wstring& name) {
+    constexpr wchar_t firstPrintable = L' ';
+    if (name == L"." || name == L".." || name.empty()) {
+        return "";
+    }
+    if (name.find_first_of(L"<>:\"|?*") != std::wstring::npos ||
+        std::any_of(name.begin(), name.end(), [](wchar_t c) { return c < firstPrintable; })) {
+        return "has a character that no name has on Windows";
+    }
+    if (name.back() == L'.' || name.back() == L' ') {
+        return "ends in a dot or a blank, which Windows drops";
+    }
+    return isDevice(name) ? "is the name of a device on Windows" : "";
+}
+
+std::string faultOfPath(const std::wstring& path) {
+    if (path.rfind(LR"(\\?\)", 0) == 0 || path.rfind(LR"(\\.\)", 0) == 0) {
+        return {};  // which says that the rest is taken as it is
+    }
+    for (const std::filesystem::path& name : std::filesystem::path(path).relative_path()) {
+        const std::string fault = faultOfName(name.native());
+        if (!fault.empty()) {
+            return "\"" + narrowed(name.native()) + "\" " + fault;
+        }
+    }
+    return {};
+}
+
+// Whether the path names what it says; a failure otherwise.
+bool isNameable(const wchar_t* path) {
+    const bool isFree = faultOfPath(path).empty();
+    lastFailure = isFree ? lastFailure : ERROR_INVALID_NAME;
+    return isFree;
+}
+
 bool isRegularFile(HANDLE handle) {
     BY_HANDLE_FILE_INFORMATION facts = {};
     constexpr DWORD others = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
@@ -157,6 +211,8 @@ std::string textForLibraries(const std::string& text) {
     return all;
 }
 
+std::string nameFault(const std::string& path) { return faultOfPath(widened(path.c_str())); }
+
 unsigned long lastError() { return lastFailure; }
 
 // The standard library's text is in the code page.
@@ -172,12 +228,16 @@ std::string errorText(unsigned long error) {
 }
 
 bool createDirectory(const wchar16* path) {
-    return succeeded(::CreateDirectoryW(unlimited(wide(path)).c_str(), nullptr) != 0);
+    return isNameable(wide(path)) &&
+           succeeded(::CreateDirectoryW(unlimited(wide(path)).c_str(), nullptr) != 0);
 }
 
 bool wasNameTaken() { return lastFailure == ERROR_ALREADY_EXISTS; }
 
 Handle createFile(const wchar16* path) {
+    if (!isNameable(wide(path))) {
+        return refusedHandle;
+    }
     const HANDLE handle = ::CreateFileW(unlimited(wide(path)).c_str(), FILE_ALL_ACCESS, shared, nullptr,
                                         CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
     succeeded(handle != INVALID_HANDLE_VALUE);
@@ -197,9 +257,17 @@ unsigned long accessError(const char* path, int mode) {
     return ::_waccess(unlimited(path).c_str(), mode) == 0 ? 0 : _doserrno;
 }
 
-File openForReading(const char* path) { return File(::_wfopen(unlimited(path).c_str(), L"r")); }
+File openForReading(const char* path) {
+    return File(isNameable(widened(path).c_str()) ? ::_wfopen(unlimited(path).c_str(), L"r") : nullptr);
+}
 
-File openForWriting(const char* path) { return File(::_wfopen(unlimited(path).c_str(), L"wb")); }
+File openForWriting(const char* path) {
+    if (!isNameable(widened(path).c_str())) {
+        errno = EINVAL;
+        return nullptr;
+    }
+    return File(::_wfopen(unlimited(path).c_str(), L"wb"));
+}
 
 Handle openDirectory(const std::filesystem::path& path) {
     return handleOf(::CreateFileW(unlimited(path.native()).c_str(), FILE_READ_ATTRIBUTES, shared, nullptr,

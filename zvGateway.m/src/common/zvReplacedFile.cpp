@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "zvConsole.h"
+#include "zvDirFileUtils.h"
 #include "zvFailure.h"
 #include "zvProcess.h"
 
@@ -32,6 +33,9 @@ int writeNew(const fs::path& file, const std::string& content) {
 }  // namespace
 
 void zvReplacedFile::write(const std::string& file, const std::string& content) {
+    if (const zvString fault = zvDirFileUtils::getNameError(file.c_str()); !fault.empty()) {
+        throw failure(file, zvConsole::printable(fault));
+    }
     std::error_code error;
     if (fs::exists(file, error) && !fs::is_regular_file(file, error)) {
         throw failure(file, "it exists and is not a regular file");

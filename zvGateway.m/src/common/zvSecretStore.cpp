@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "zvConsole.h"
+#include "zvDirFileUtils.h"
 #include "zvFailure.h"
 #include "zvProcess.h"
 #include "zvSecrets.h"
@@ -23,6 +24,9 @@ zvStepFailure failure(const std::string& source, const std::string& reason) {
 }
 
 int openFile(const std::string& file) {
+    if (const zvString fault = zvDirFileUtils::getNameError(file.c_str()); !fault.empty()) {
+        throw failure(file, zvConsole::printable(fault));
+    }
     std::error_code error;
     const int descriptor = zvProcess::openForReading(file, error);
     if (error) {

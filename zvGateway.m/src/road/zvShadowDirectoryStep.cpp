@@ -143,6 +143,9 @@ void zvShadowDirectoryStep::resumeIn(const zvString& name) {
     if (!isPlainName(name)) {
         throw failure(name, "\"EventShadowDir\" has to be the name of a directory below \"RootShadowDir\"");
     }
+    if (const zvString fault = zvDirFileUtils::getNameError(m_event.directory()); !fault.empty()) {
+        throw failure(name, zvConsole::printable(fault));
+    }
     requireOwnKind(m_event.directory(), fs::file_type::directory, "it is no directory");
     m_event.arguments->setEventArgument("DataFileName", name + "_data.xml");
     m_event.arguments->setEventArgument("AttachmentsFileName", name + "_attachments.xml");
