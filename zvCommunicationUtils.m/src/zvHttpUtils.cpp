@@ -152,7 +152,7 @@ void setConnection(Transfer& transfer, const zvHttpSettings& settings) {
 void setCertificates(Transfer& transfer, const zvHttpSettings& settings) {
     const auto setPath = [&](CURLoption option, const zvString& path) {
         if (!path.empty()) {
-            transfer.set(option, zvPath::native(path).c_str());
+            transfer.set(option, zvPlatform::textForLibraries(zvPath::native(path)).c_str());
         }
     };
     setPath(CURLOPT_CAINFO, settings.caFile);

@@ -70,6 +70,7 @@ void serve(const std::string& folder, int status) {
 int runProgram(int argc, char** argv) {
     CLI::App program(
         "Receives what gateway programs post, on a free port of this host, until it is stopped.");
+    program.allow_windows_style_options(false);  // "/" begins a path
     std::string folder;
     int status = 200;
     program.add_option("folder", folder, "Gets the file \"url\", and N.form with the body of the N-th post")

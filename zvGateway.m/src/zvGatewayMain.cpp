@@ -76,7 +76,7 @@ The last line on standard error, and in the log, is what became of the event.)";
 
 int fail(zvExitCode code, const std::string& message) {
     zvConsole::flush();
-    std::fprintf(stderr, "zvgateway: %s\n", zvShownArguments::masked(message).c_str());
+    zvConsole::complain(message);
     return static_cast<int>(code);
 }
 
@@ -167,9 +167,10 @@ void declareRoad(CLI::App& program, zvRoadOptions& options) {
 }
 
 // Declares the program's options, and runs what the command line asks for.
-int runProgram(int argc, char** argv) {
+int runProgram(const std::vector<std::string>& arguments) {
     CLI::App program("Takes one event through the gateway: zvgateway key=value ...", "zvgateway");
     program.footer(footer);
+    program.allow_windows_style_options(false);  // before the subcommands; "/" begins a path
     program.set_version_flag("--version", "zvgateway " ZV_VERSION);
     zvRoadSession session;
     declareRoad(program, session.options);
@@ -197,7 +198,7 @@ int runProgram(int argc, char** argv) {
     program.allow_extras();  // after the subcommands, which would inherit it
 
     try {
-        program.parse(argc, argv);
+        program.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
     } catch (const CLI::ParseError& error) {
         if (error.get_exit_code() != 0) {
             throw zvProgramFailure{zvExitCode::usage, "options", "",
@@ -232,16 +233,16 @@ int runProgram(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    zvCommonUtils::adoptUserLocale();
+    const std::vector<std::string> arguments = zvProcess::takeArguments(argc, argv);
     zvProcess::reportFullFiles();
     try {
         zvHomeSettings::adoptSecretKeys();
-        zvShownArguments::setCommandLine({argv + 1, argv + argc});
+        zvShownArguments::setCommandLine(arguments);
         // Before anything can be printed, also of a command line that cannot be parsed.
-        if (std::find(argv + 1, argv + argc, std::string("--json")) != argv + argc) {
+        if (std::find(arguments.begin(), arguments.end(), "--json") != arguments.end()) {
             zvConsole::leaveStandardOutput();
         }
-        return runProgram(argc, argv);
+        return runProgram(arguments);
     } catch (const zvProgramFailure& failure) {
         return fail(failure);
     } catch (const zvInterruption& interruption) {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "zvPlatform.h"
+#include "zvProcess.h"
 #include "zvServerAnswer.h"
 #include "zvTestSupport.h"
 
@@ -74,6 +75,7 @@ TEST_F(zvSecretValuesTest, NoPartOfASecretIsLeftAtTheLimit) {
 }
 
 TEST_F(zvSecretValuesTest, AnAnswerIsShownWhateverItsBytes) {
+    zvProcess::takeArguments(0, nullptr);  // the encoding of the program's texts
     const zvSecretValues secrets(m_args, "http://host/");
     const std::string cut = "\xef\xbf\xbd";
     const struct {
@@ -104,9 +106,11 @@ TEST_F(zvSecretValuesTest, AnAnswerIsShownWhateverItsBytes) {
         EXPECT_EQ(sink->m_pWriteFunction(bytes.data(), 1, bytes.size(), sink), bytes.size());
         EXPECT_EQ(answer.text(), shown);
     }
-    std::setlocale(LC_ALL, "C");
-    EXPECT_EQ(zvServerAnswer::shown("x\xc3\xa4\xf0\x9f\x98\x80y", 100, secrets).size(), 4U);
-    zvPlatform::adoptUserLocale();
+    if (!onWindows) {  // where the texts do not depend on the locale
+        std::setlocale(LC_ALL, "C");
+        EXPECT_EQ(zvServerAnswer::shown("x\xc3\xa4\xf0\x9f\x98\x80y", 100, secrets).size(), 4U);
+        zvPlatform::adoptUserLocale();
+    }
 }
 
 }  // namespace

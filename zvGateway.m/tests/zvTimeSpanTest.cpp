@@ -2,9 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <ctime>
-
+#include "zvPlatform.h"
 #include "zvUtcTime.h"
 
 namespace {
@@ -21,8 +19,7 @@ TEST(zvTimeSpanTest, SpansAreANumberAndAUnit) {
 }
 
 TEST(zvTimeSpanTest, InstantsAreSpansBeforeNowOrLocalDates) {
-    ::setenv("TZ", "UTC-2", 1);  // two hours east
-    ::tzset();
+    zvPlatform::setEnvironment("TZ", "UTC-2");  // two hours east
     constexpr std::int64_t now = 1'795'615'200;
     EXPECT_EQ(zvTimeSpan::parseInstant("1h", now), now - 3600);
     EXPECT_EQ(zvTimeSpan::parseInstant("2026-11-25", now), zvUtcTime::toSeconds("2026-11-24T22:00:00"));

@@ -13,7 +13,8 @@
 /// The platform seam: the system calls that the library needs, with one source file per system. No other file
 /// of the library includes a system header or tests a system's macro.
 ///
-/// Paths may use "\" or "/" as separator on every system. Narrow text is in the process's locale.
+/// Paths may use "\" or "/" as separator on every system. Narrow text is in the process's locale, or UTF-8
+/// once adoptUtf8() was called.
 namespace zvPlatform {
 
 /// Handle of an open file, never 0; refusedHandle if it could not be opened.
@@ -26,6 +27,14 @@ std::string nativePath(const char* path);
 std::filesystem::path pathOf(const std::string& path);
 /// The path as narrow text; empty if the locale cannot encode it.
 std::string textOf(const std::filesystem::path& path);
+
+/// Narrow text in the encoding in which other libraries take it, which on Windows is the code page. There a
+/// path that the code page lacks, alone or in a list with semicolons, is replaced by its short form.
+std::string textForLibraries(const std::string& text);
+
+/// Why the system would take a path for another one than it names, or for none: empty if it does not. Windows
+/// has names of devices in every folder, and drops what some names end in.
+std::string nameFault(const std::string& path);
 
 /// The system's error number of the last failed createDirectory, createFile or closeHandle.
 unsigned long lastError();
@@ -53,6 +62,8 @@ struct CloseFile {
 using File = std::unique_ptr<std::FILE, CloseFile>;
 /// Opens a file for reading as text; null for a directory and on failure.
 File openForReading(const char* path);
+/// Opens a file for writing, byte for byte, and empties it; null, with errno set, on failure.
+File openForWriting(const char* path);
 /// Opens a directory, so that what is opened below it later is below this one, whatever its name leads to by
 /// then; refusedHandle on failure.
 Handle openDirectory(const std::filesystem::path& path);
@@ -76,7 +87,8 @@ bool removeFile(const char* path);
 /// @return true if every path was a directory and has been removed.
 bool removeTree(const char* arguments);
 
-/// Loads a dynamic library by path, or by name in the system's search order, for the life of the process.
+/// Loads a dynamic library by path, or by name in the system's search order, for the life of the process. The
+/// libraries that it needs may lie beside it, or, as Java's runtime does, in the folder above.
 /// Null on failure.
 void* loadLibrary(const char* name);
 /// Null if `library` is null or has no such function.
@@ -95,6 +107,9 @@ void setEnvironment(const char* name, const char* value);
 /// For the start of main(): sets the user's locale, with C.UTF-8's characters where it is "C" or one that the
 /// system lacks. Numbers keep the point: they are for programs, whatever the user's decimal point.
 void adoptUserLocale();
+/// For the start of main() of a program whose narrow texts are UTF-8 whatever the locale, which is the
+/// user's.
+void adoptUtf8();
 /// The locale's decimal point.
 const char* decimalPoint();
 

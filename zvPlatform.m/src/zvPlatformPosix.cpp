@@ -153,6 +153,10 @@ std::filesystem::path pathOf(const std::string& path) { return nativePath(path.c
 
 std::string textOf(const std::filesystem::path& path) { return path.string(); }
 
+std::string textForLibraries(const std::string& text) { return text; }
+
+std::string nameFault(const std::string&) { return {}; }
+
 unsigned long lastError() { return static_cast<unsigned long>(lastFailure); }
 
 std::string errorText(unsigned long error) {
@@ -194,6 +198,8 @@ File openForReading(const char* path) {
         file != nullptr && ::fstat(::fileno(file.get()), &status) == 0 && S_ISDIR(status.st_mode);
     return isDirectory ? nullptr : std::move(file);
 }
+
+File openForWriting(const char* path) { return File(std::fopen(nativePath(path).c_str(), "wb")); }
 
 Handle openDirectory(const std::filesystem::path& path) {
     return handleOf(::open(path.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
@@ -286,6 +292,11 @@ void adoptUserLocale() {
         std::setlocale(LC_CTYPE, "C.UTF-8");
     }
     std::setlocale(LC_NUMERIC, "C");
+}
+
+void adoptUtf8() {
+    adoptUserLocale();
+    zvTextCodec::adoptUtf8();
 }
 
 const char* decimalPoint() { return nl_langinfo(RADIXCHAR); }

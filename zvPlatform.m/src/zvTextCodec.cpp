@@ -1,8 +1,10 @@
 #include "zvTextCodec.h"
 
 #include <algorithm>
+#include <atomic>
 #include <climits>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 #include <cwchar>
 
@@ -14,8 +16,13 @@ namespace {
 constexpr char32_t lastCharacter = 0x10FFFF;  // some runtimes decode to values beyond it
 constexpr bool unitsAreWideCharacters = sizeof(wchar_t) == sizeof(wchar16);
 
-// Whether the locale's encoding is UTF-8, tested by decoding one character.
-bool isUtf8Locale() {
+std::atomic<bool> adoptedUtf8{false};
+
+// Whether narrow text is UTF-8: adopted, or the locale's encoding, tested by decoding one character.
+bool isUtf8() {
+    if (adoptedUtf8.load(std::memory_order_relaxed)) {
+        return true;
+    }
     constexpr char euro[] = "\xE2\x82\xAC";
     std::mbstate_t state{};
     wchar_t character = 0;
@@ -190,17 +197,21 @@ bool encode(const wchar16* text, std::size_t length, Take take) {
 
 }  // namespace
 
+void adoptUtf8() { adoptedUtf8 = true; }
+
+bool isUtf8Adopted() { return adoptedUtf8; }
+
 std::size_t wideLength(const char* text) {
     const std::size_t bytes = std::strlen(text);
     if (isAscii(text, bytes)) {
         return bytes;
     }
     std::size_t units = 0;
-    if (isUtf8Locale() && decodeUtf8(text, [&units](wchar16) { ++units; })) {
+    if (isUtf8() && decodeUtf8(text, [&units](wchar16) { ++units; })) {
         return units;
     }
     units = 0;
-    const bool valid = decode(text, [&units](wchar_t character) {
+    const bool valid = !isUtf8Adopted() && decode(text, [&units](wchar_t character) {
         units += unitsOf(character);
         return true;
     });
@@ -221,12 +232,12 @@ std::size_t widen(const char* text, wchar16* out, std::size_t capacity) {
             ++written;
         }
     };
-    if (isUtf8Locale() && decodeUtf8(text, put)) {
+    if (isUtf8() && decodeUtf8(text, put)) {
         // Never half a surrogate pair: drop a high one at the end of the capacity.
         return written > 0 && zvSurrogate::isHigh(out[written - 1]) ? written - 1 : written;
     }
     written = 0;
-    const bool valid = decode(text, [&](wchar_t character) {
+    const bool valid = !isUtf8Adopted() && decode(text, [&](wchar_t character) {
         const std::size_t units = unitsOf(character);
         if (units > capacity - written) {
             return false;
@@ -248,7 +259,7 @@ std::size_t narrowLength(const wchar16* text, std::size_t length) {
     if (isAscii(text, length)) {
         return length;
     }
-    if (isUtf8Locale()) {
+    if (isUtf8()) {
         return utf8Length(text, length);
     }
     std::size_t bytes = 0;
@@ -256,12 +267,17 @@ std::size_t narrowLength(const wchar16* text, std::size_t length) {
     return valid ? bytes : unconvertible;
 }
 
+std::size_t longestUnit() {
+    constexpr std::size_t longestInUtf8 = 3;
+    return isUtf8Adopted() ? longestInUtf8 : MB_CUR_MAX;
+}
+
 std::size_t narrow(const wchar16* text, std::size_t length, char* out) {
     if (isAscii(text, length)) {
         std::transform(text, text + length, out, [](wchar16 unit) { return static_cast<char>(unit); });
         return length;
     }
-    if (isUtf8Locale()) {
+    if (isUtf8()) {
         return encodeUtf8(text, length, out, 0);
     }
     std::size_t written = 0;
@@ -283,6 +299,9 @@ std::size_t fromUtf8(const char* text, wchar16* out) {
 }
 
 std::size_t nextSeparator(std::string_view path, std::size_t from) {
+    if (isUtf8Adopted()) {
+        return path.find_first_of("\\/", from);
+    }
     std::size_t at = from;
     while (at < path.size()) {
         const char first = path[at];
@@ -301,7 +320,7 @@ std::size_t nextSeparator(std::string_view path, std::size_t from) {
 }
 
 std::size_t lastSeparator(std::string_view path) {
-    if (isAscii(path.data(), path.size())) {
+    if (isUtf8Adopted() || isAscii(path.data(), path.size())) {
         return path.find_last_of("\\/");
     }
     std::size_t last = std::string_view::npos;

@@ -7,7 +7,8 @@
 
 #include "zvTypes.h"
 
-/// Converts between narrow text (multibyte, in the process's locale) and wide text (UTF-16 code units).
+/// Converts between narrow text (multibyte, in the process's locale, or UTF-8 once adopted) and wide text
+/// (UTF-16 code units).
 ///
 /// Nothing here allocates: callers provide the buffer, sized by a measurement or by an upper bound. Where
 /// wchar_t is wider than a code unit, surrogate pairs are joined and split as needed.
@@ -15,6 +16,10 @@ namespace zvTextCodec {
 
 /// Returned for text that cannot be converted.
 constexpr std::size_t unconvertible = static_cast<std::size_t>(-1);
+
+/// From now on narrow text is UTF-8 whatever the locale, for a system that has no such locale.
+void adoptUtf8();
+bool isUtf8Adopted();
 
 /// Whether `text` is ASCII, which is the same in every encoding. No early exit, so that the compiler can
 /// vectorise the loop.
@@ -38,8 +43,10 @@ std::size_t widen(const char* text, wchar16* out, std::size_t capacity);
 /// `unconvertible` if the locale cannot encode them.
 std::size_t narrowLength(const wchar16* text, std::size_t length);
 
-/// Converts `text` to the bytes that narrowLength() counts, at most MB_CUR_MAX per code unit, without a
-/// terminator.
+/// The bytes that a code unit takes at most.
+std::size_t longestUnit();
+
+/// Converts `text` to the bytes that narrowLength() counts, without a terminator.
 /// @return the number of bytes written; `unconvertible`, with `out` partly written, if the locale cannot
 /// encode them.
 std::size_t narrow(const wchar16* text, std::size_t length, char* out);

@@ -114,7 +114,7 @@ void zvXMLWriter::write(DOMDocument& document, XMLFormatTarget& target, const zv
 
 void zvXMLWriter::toFile(const MemBufFormatTarget& bytes, const zvString& path) {
     const std::string name = zvPath::native(path);
-    zvPlatform::File file(std::fopen(name.c_str(), "wb"));
+    zvPlatform::File file = zvPlatform::openForWriting(name.c_str());
     if (file == nullptr) {
         refuse(name.c_str());
     }

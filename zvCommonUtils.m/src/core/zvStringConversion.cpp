@@ -22,7 +22,7 @@ char* narrowed(const wchar16* text, int length, int& bytes) {
     // conversion.
     constexpr std::size_t usualSize = 8192;
     char usual[usualSize];
-    const bool isUsual = units * MB_CUR_MAX <= usualSize;
+    const bool isUsual = units * zvTextCodec::longestUnit() <= usualSize;
     const std::size_t needed =
         isUsual ? zvTextCodec::narrow(text, units, usual) : zvTextCodec::narrowLength(text, units);
     if (needed == 0 || needed > longestText) {  // as `unconvertible` is

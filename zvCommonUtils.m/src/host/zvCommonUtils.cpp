@@ -69,6 +69,8 @@ void zvCommonUtils::sleep(unsigned long milliseconds) { zvPlatform::sleep(millis
 
 void zvCommonUtils::adoptUserLocale() { zvPlatform::adoptUserLocale(); }
 
+void zvCommonUtils::adoptUtf8() { zvPlatform::adoptUtf8(); }
+
 bool zvCommonUtils::validBooleanValue(const zvString& text) {
     return text.equalsIgnoreCase("true") || text.equalsIgnoreCase("false");
 }

@@ -36,6 +36,10 @@ public:
     /// where that is "C" or one that the system lacks, and with the decimal point of "C". Nothing else in the
     /// library changes the locale.
     static void adoptUserLocale();
+    /// The same for a program whose narrow texts are UTF-8 whatever the locale: those that it gives to the
+    /// library and gets from it, paths included. On Windows, where no locale has UTF-8, such a program's
+    /// texts and names of files may have any character.
+    static void adoptUtf8();
     /// Whether `text` is "true" or "false", case-insensitively.
     static bool validBooleanValue(const zvString& text);
 };

@@ -120,8 +120,16 @@ bool zvDirFileUtils::isAccessible(const zvString& path, int mode) {
 }
 
 zvString zvDirFileUtils::getAccessError(const zvString& path, int mode) {
+    const zvString fault = getNameError(path);
+    if (!fault.empty()) {
+        return fault;
+    }
     const unsigned long error = zvPlatform::accessError(zvCharString(path).data(), mode);
     return error == 0 ? zvString() : zvString(zvPlatform::errorText(error).c_str());
+}
+
+zvString zvDirFileUtils::getNameError(const zvString& path) {
+    return zvPlatform::nameFault(zvCharString(path).data()).c_str();
 }
 
 zvString zvDirFileUtils::nativePath(const zvString& path) { return zvPath::withNativeDelimiters(path); }

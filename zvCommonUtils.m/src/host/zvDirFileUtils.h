@@ -34,6 +34,10 @@ public:
     enum AccessMode : int { existence = 0, writable = 2, readable = 4, readAndWrite = 6 };
     /// Whether the file or directory is accessible; false for a `mode` that is not one of AccessMode's.
     static bool isAccessible(const zvString& path, int mode);
+    /// Why the system would take a path for another one than it names, or for none; empty if it does not.
+    /// Windows has names of devices in every folder, as "aux.txt", drops a dot or a blank at the end of a
+    /// name, and lacks some characters.
+    static zvString getNameError(const zvString& path);
     /// The system's reason why the path is not accessible in that mode; empty if it is.
     static zvString getAccessError(const zvString& path, int mode);
     /// The path with this system's delimiters, for other libraries.

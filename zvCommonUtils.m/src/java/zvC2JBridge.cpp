@@ -141,9 +141,9 @@ bool zvC2JBridge::initialize() {
     }
     logger.debug("classpath=[", classPath.c_str(), "]");
     zvJvmOptionList options;
-    options.addClassPath(classPath.c_str());
+    options.addClassPath(zvPlatform::textForLibraries(classPath).c_str());
     for (const std::string& option : m_options) {
-        options.add(option.c_str());
+        options.add(zvPlatform::textForLibraries(option).c_str());
     }
     addEndHooks(options);
     if (!startMachine(options)) {

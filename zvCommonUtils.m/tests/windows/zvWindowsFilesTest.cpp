@@ -47,6 +47,28 @@ TEST_F(zvWindowsFilesTest, NamesMayHaveCharactersThatTheLocaleCannotEncode) {
     EXPECT_TRUE(isThere(u"\u4E2D \u20AC"));
 }
 
+TEST_F(zvWindowsFilesTest, NamesThatTheSystemWouldChangeAreRefused) {
+    m_folder.write("a", "");
+    for (const char* const name : {"NUL", "nul", "aux.txt", "COM1", "lpt9.x.y", "con .x", "NUL\\file", "a.",
+                                   "a ", "a. \\b", "a:stream", "a?", "a*", "a|b", "a\"b", "a\tb"}) {
+        const zvString path = inFolder(name).c_str();
+        EXPECT_FALSE(zvDirFileUtils::getNameError(path).empty()) << name;
+        EXPECT_EQ(zvDirFileUtils::getAccessError(path, 0), zvDirFileUtils::getNameError(path)) << name;
+        EXPECT_EQ(zvDirFileUtils::createDirectory(path).getResult(), -1) << name;
+        zvDirFileUtils::createFile(path);
+        EXPECT_EQ(zvPlatform::openForReading(zvCharString(path).data()), nullptr) << name;
+        EXPECT_EQ(zvPlatform::openForWriting(zvCharString(path).data()), nullptr) << name;
+    }
+    EXPECT_EQ(std::distance(fs::directory_iterator(m_folder.path()), {}), 1) << "nothing was made";
+    EXPECT_TRUE(fs::is_empty(m_folder.path() / "a")) << "nor written";
+    for (const char* const name :
+         {"null", "aux1", "COM0", "COM10", "console.txt", ".a", "..", "a.b", " a", "x\\..\\y"}) {
+        EXPECT_TRUE(zvDirFileUtils::getNameError(inFolder(name).c_str()).empty()) << name;
+    }
+    EXPECT_TRUE(zvDirFileUtils::getNameError("\\\\server\\share\\a").empty()) << "UNC";
+    EXPECT_FALSE(zvDirFileUtils::getNameError("\\\\server\\share\\aux").empty());
+}
+
 TEST_F(zvWindowsFilesTest, FailuresHaveTheSystemsErrorNumbers) {
     m_folder.write("file", "");
     const struct {

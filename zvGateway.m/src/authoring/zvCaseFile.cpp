@@ -31,7 +31,7 @@ std::string contentOf(const std::string& name) {
     }
     if (error) {
         throw zvProgramFailure{zvExitCode::usage, "cases", zvConsole::printable(name.c_str()),
-                               error.message()};
+                               zvProcess::messageOf(error)};
     }
     return content;
 }

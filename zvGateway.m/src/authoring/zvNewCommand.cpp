@@ -1,6 +1,5 @@
 #include "zvNewCommand.h"
 
-#include <cstdio>
 #include <filesystem>
 #include <system_error>
 
@@ -12,6 +11,7 @@
 #include "zvNewConfigurationXml.h"
 #include "zvNewFileServerProperties.h"
 #include "zvNewLogXml.h"
+#include "zvProcess.h"
 #include "zvReplacedFile.h"
 
 namespace fs = std::filesystem;
@@ -23,6 +23,7 @@ struct NewFile {
     const char* content;
     const char* purpose;
 };
+constexpr std::size_t nameColumns = 40;
 constexpr NewFile files[] = {
     {"config/client-config.ini", zvNewClientConfigIni, "where events are posted"},
     {"config/customization-config.xml", zvNewConfigurationXml, "the mapping between the two systems"},
@@ -55,16 +56,15 @@ zvExitCode zvNewCommand::run() const {
         }
     }
     if (error) {
-        throw failure(folder, error.message());
+        throw failure(folder, zvProcess::messageOf(error));
     }
     for (const NewFile& file : files) {
         zvReplacedFile::write((home / file.name).string(), file.content);
-        std::printf("  %-40s %s\n", file.name, file.purpose);
+        zvConsole::write("  " + zvConsole::padded(file.name, nameColumns) + " " + file.purpose + "\n");
     }
     const std::string shown = zvConsole::printablePath(folder.c_str());
-    std::printf(
-        "to go on\n  export GATEWAY_HOME=%s\n  zvgateway check --home --offline\n"
-        "  zvgateway test %s/config/customization-cases.yaml\n",
-        shown.c_str(), shown.c_str());
+    zvConsole::write("to go on\n  export GATEWAY_HOME=" + shown +
+                     "\n  zvgateway check --home --offline\n  zvgateway test " + shown +
+                     "/config/customization-cases.yaml\n");
     return zvExitCode::success;
 }

@@ -101,9 +101,7 @@ void zvCheckReport::addUnreadable(const zvString& name, const zvProgramFailure& 
     m_files.push_back({name, m_inFile, false});
     m_inFile = {};
     zvConsole::flush();
-    std::fprintf(
-        stderr, "zvgateway: %s\n",
-        zvShownArguments::masked(failure.step + ": " + failure.subject + ": " + failure.reason).c_str());
+    zvConsole::complain(failure.step + ": " + failure.subject + ": " + failure.reason);
 }
 
 void zvCheckReport::count(const zvFinding& finding, zvExitCode exitCode) {

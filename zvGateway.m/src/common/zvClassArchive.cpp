@@ -39,7 +39,7 @@ fs::path cacheFolder() {
          {variable("XDG_CACHE_HOME"), variable("LOCALAPPDATA"), home.empty() ? home : home / ".cache"}) {
         // Java would take a list of files for two archives.
         if (!folder.empty() &&
-            folder.native().find(static_cast<fs::path::value_type>(':'), 2) == std::string::npos) {
+            folder.native().find(static_cast<fs::path::value_type>(':'), 2) == fs::path::string_type::npos) {
             return folder / "zvgateway";
         }
     }
@@ -140,7 +140,7 @@ std::string zvClassArchive::make() {
         case zvProcess::Lock::heldByAnother:
             return "";
         default:
-            return error.message();
+            return zvProcess::messageOf(error);
     }
 }
 
@@ -164,7 +164,7 @@ std::string zvClassArchive::makeLocked() {
     if (error) {
         std::error_code ignored;
         fs::remove(part, ignored);
-        return error.message();
+        return zvProcess::messageOf(error);
     }
     return isMade ? "" : "this Java makes no archive of classes; Java 13 and later do";
 }
@@ -181,7 +181,7 @@ std::error_code zvClassArchive::keep(const fs::path& made) {
     }
     m_file = m_folder / (m_strPrefix + hashOf(content) + suffix);
     if (!error) {
-        fs::rename(made, m_file, error);
+        zvProcess::replaceFile(made, m_file, error);
     }
     return error;
 }

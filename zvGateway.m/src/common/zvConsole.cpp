@@ -47,8 +47,14 @@ void leaveStandardOutput() {
 
 bool hasLeftStandardOutput() { return out == stderr; }
 
+void write(const std::string& text) { zvProcess::write(stdout, text); }
+
+void complain(const std::string& message) {
+    zvProcess::write(stderr, "zvgateway: " + zvShownArguments::masked(message) + "\n");
+}
+
 void print(const std::string& answer) {
-    std::fputs(zvShownArguments::masked(answer).c_str(), answers);
+    zvProcess::write(answers, zvShownArguments::masked(answer));
     answered = true;
 }
 
@@ -83,7 +89,7 @@ void note(const std::string& text) { outcome(text, false); }
 void outcome(const std::string& text, bool isFailure) {
     if (!quiet || isFailure) {
         rewrite("");
-        std::fprintf(stderr, "%s\n", zvShownArguments::masked(text).c_str());
+        zvProcess::write(stderr, zvShownArguments::masked(text) + "\n");
     }
 }
 
@@ -92,11 +98,10 @@ void fact(const std::string& name, const std::string& value) {
         return;
     }
     rewrite("");
-    if (heading != nullptr) {
-        std::fprintf(out, "%s\n", heading);
-        heading = nullptr;
-    }
-    std::fprintf(out, "  %-22s %s\n", name.c_str(), zvShownArguments::masked(value).c_str());
+    constexpr std::size_t nameColumns = 22;
+    const std::string indent = heading == nullptr ? "  " : std::string(heading) + "\n  ";
+    heading = nullptr;
+    zvProcess::write(out, indent + padded(name, nameColumns) + " " + zvShownArguments::masked(value) + "\n");
     std::fflush(out);
 }
 
@@ -113,7 +118,7 @@ std::size_t rewritableColumns() {
 void rewrite(const std::string& line) {
     if (lineIsRewritable || !line.empty()) {
         const std::string blanks(lineIsRewritable ? rewritableColumns() : 0, ' ');
-        std::fprintf(out, "\r%s\r%s", blanks.c_str(), line.c_str());
+        zvProcess::write(out, "\r" + blanks + "\r" + line);
         std::fflush(out);
         lineIsRewritable = !line.empty();
     }
@@ -130,6 +135,11 @@ zvString shortened(const zvString& text, std::size_t columns) {
         }
     }
     return used <= columns ? text : "..." + text.substr(fitting, text.size() - fitting);
+}
+
+std::string padded(std::string text, std::size_t length) {
+    text.append(length - std::min(length, text.size()), ' ');
+    return text;
 }
 
 std::string size(double bytes) {

@@ -14,6 +14,10 @@ namespace zvConsole {
 /// standard error. Throws the zvProgramFailure of a system that cannot.
 void leaveStandardOutput();
 bool hasLeftStandardOutput();
+/// Writes an answer to standard output as it is, in pieces or whole.
+void write(const std::string& text);
+/// Says on standard error why the program fails, or what it cannot do, with its secrets masked.
+void complain(const std::string& message);
 /// Prints the answer of a run whose standard output was left to it.
 void print(const std::string& answer);
 /// Whether print() was called.
@@ -54,6 +58,8 @@ void rewrite(const std::string& line);
 
 /// The text, its beginning replaced by "..." if it would take more columns.
 zvString shortened(const zvString& text, std::size_t columns);
+/// The text with blanks after it, up to this number of bytes.
+std::string padded(std::string text, std::size_t length);
 /// A size as in "4.2 MB", and what moved per second as in "12.5 MB/s".
 std::string size(double bytes);
 std::string rate(double bytes, double milliseconds);

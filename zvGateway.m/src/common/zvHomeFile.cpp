@@ -27,7 +27,7 @@ std::string zvHomeFile::read(const zvString& path, std::string& error) {
     if (!code) {
         code = zvProcess::readToEnd(descriptor, longest, content);
     }
-    error = code ? code.message() : "";
+    error = code ? zvProcess::messageOf(code) : "";
     return content;
 }
 

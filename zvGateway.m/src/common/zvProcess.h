@@ -15,6 +15,16 @@
 /// for what is the same on all, and no other file of the program includes a system header.
 namespace zvProcess {
 
+/// For the start of main(): adopts the encoding of the program's narrow texts, paths included, and returns
+/// its arguments in it, without its own name. It is the user's locale's, and on Windows UTF-8, whatever the
+/// code page.
+std::vector<std::string> takeArguments(int argc, char** argv);
+/// Writes text for people to a standard stream as it can be read there: on a Windows console as wide text.
+void write(std::FILE* stream, const std::string& text);
+
+/// The system's words for an error.
+std::string messageOf(const std::error_code& error);
+
 /// The number by which the system knows this process.
 unsigned long id();
 /// This machine's name in its network; empty when the system does not tell it.
@@ -42,6 +52,8 @@ public:
     /// Takes the lock; to be called once. The file is created if need be; a link, and what is no regular
     /// file, is refused. `error` is the reason of a refusal.
     Lock take(const std::filesystem::path& file, std::error_code& error);
+    /// Before the end of the object's life, so that a file that is removed is gone on every system.
+    void release();
 
 private:
     std::intptr_t m_handle = -1;  // of the open file, to which the lock belongs
@@ -63,6 +75,17 @@ std::error_code appendToFile(const std::filesystem::path& file, const std::strin
 
 /// Returns once what was appended to the file is on the disk. An empty error for success.
 std::error_code flushToDisk(const std::filesystem::path& file);
+
+/// Creates a file for writing, byte for byte; null, with errno set, if there is one of this name or it cannot
+/// be created.
+std::FILE* createFile(const std::filesystem::path& file);
+/// Gives a file the name of another one, which it replaces. On Windows one that another program has open is
+/// waited for, for a moment.
+void replaceFile(const std::filesystem::path& from, const std::filesystem::path& to, std::error_code& error);
+/// Copies a file, and replaces another one by the copy.
+void copyFile(const std::filesystem::path& from, const std::filesystem::path& to, std::error_code& error);
+/// Removes a file or a folder with all that is in it, and links without what they lead to.
+void removeTree(const std::filesystem::path& path, std::error_code& error);
 
 /// A descriptor from which the file is read; -1 and the reason in `error` if it cannot be opened.
 int openForReading(const std::filesystem::path& file, std::error_code& error);

@@ -13,6 +13,7 @@
 #include <cstdlib>
 
 #include "zvCharString.h"
+#include "zvCommonUtils.h"
 #include "zvDirFileUtils.h"
 #include "zvNativePath.h"
 #include "zvProcess.h"
@@ -20,6 +21,15 @@
 std::filesystem::path toNativePath(const zvString& path) {
     return zvCharString(zvDirFileUtils::nativePath(path)).data();
 }
+
+std::vector<std::string> zvProcess::takeArguments(int argc, char** argv) {
+    zvCommonUtils::adoptUserLocale();
+    return {argv + (argc > 0 ? 1 : 0), argv + argc};
+}
+
+void zvProcess::write(std::FILE* stream, const std::string& text) { std::fputs(text.c_str(), stream); }
+
+std::string zvProcess::messageOf(const std::error_code& error) { return error.message(); }
 
 unsigned long zvProcess::id() { return static_cast<unsigned long>(::getpid()); }
 
@@ -76,9 +86,12 @@ zvProcess::Lock zvProcess::FileLock::take(const std::filesystem::path& file, std
     return error.value() == EAGAIN || error.value() == EACCES ? Lock::heldByAnother : Lock::refused;
 }
 
-zvProcess::FileLock::~FileLock() {
+zvProcess::FileLock::~FileLock() { release(); }
+
+void zvProcess::FileLock::release() {
     if (m_handle >= 0) {
         ::close(static_cast<int>(m_handle));
+        m_handle = -1;
     }
 }
 
@@ -164,6 +177,24 @@ std::error_code zvProcess::appendToFile(const std::filesystem::path& file, const
         error = lastError();
     }
     return error;
+}
+
+std::FILE* zvProcess::createFile(const std::filesystem::path& file) {
+    return std::fopen(file.c_str(), "wbx");
+}
+
+void zvProcess::replaceFile(const std::filesystem::path& from, const std::filesystem::path& to,
+                            std::error_code& error) {
+    std::filesystem::rename(from, to, error);
+}
+
+void zvProcess::copyFile(const std::filesystem::path& from, const std::filesystem::path& to,
+                         std::error_code& error) {
+    std::filesystem::copy_file(from, to, std::filesystem::copy_options::overwrite_existing, error);
+}
+
+void zvProcess::removeTree(const std::filesystem::path& path, std::error_code& error) {
+    std::filesystem::remove_all(path, error);
 }
 
 int zvProcess::openForReading(const std::filesystem::path& file, std::error_code& error) {

@@ -2,18 +2,81 @@
 #include <io.h>
 #include <windows.h>
 
+#include <shellapi.h>
+
+#include <algorithm>
 #include <array>
 #include <atomic>
-#include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <string>
 
+#include "zvCommonUtils.h"
 #include "zvNativePath.h"
 #include "zvProcess.h"
 
-std::filesystem::path toNativePath(const zvString& path) {
-    return std::wstring(path.data(), path.data() + path.size());
+namespace {
+
+std::wstring widened(const std::string& text) { return toNativePath(text.c_str()).native(); }
+
+// Whatever the text: what is no UTF-16 is replaced.
+std::string narrowed(const wchar_t* text) {
+    const int size = ::WideCharToMultiByte(CP_UTF8, 0, text, -1, nullptr, 0, nullptr, nullptr);
+    std::string narrow(static_cast<std::size_t>(size), '\0');
+    ::WideCharToMultiByte(CP_UTF8, 0, text, -1, narrow.data(), size, nullptr, nullptr);
+    narrow.resize(narrow.empty() ? 0 : narrow.size() - 1);
+    return narrow;
+}
+
+HANDLE handleOf(std::FILE* stream) { return reinterpret_cast<HANDLE>(::_get_osfhandle(_fileno(stream))); }
+
+}  // namespace
+
+// The narrow command line lacks what the code page lacks.
+std::vector<std::string> zvProcess::takeArguments(int, char**) {
+    zvCommonUtils::adoptUtf8();
+    int count = 0;
+    std::vector<std::string> arguments;
+    wchar_t** const texts = ::CommandLineToArgvW(::GetCommandLineW(), &count);
+    for (int i = 1; i < count; ++i) {
+        arguments.push_back(narrowed(texts[i]));
+    }
+    ::LocalFree(texts);
+    return arguments;
+}
+
+// A console shows wide text whatever its code page; everything else gets UTF-8.
+void zvProcess::write(std::FILE* stream, const std::string& text) {
+    DWORD mode = 0;
+    const HANDLE console = handleOf(stream);
+    if (::GetConsoleMode(console, &mode) == 0) {
+        std::fputs(text.c_str(), stream);
+        return;
+    }
+    constexpr std::size_t longestPiece = 8192;  // what every console takes at once
+    const std::wstring wide = widened(text);
+    DWORD written = 0;
+    std::fflush(stream);
+    for (std::size_t at = 0; at < wide.size(); at += written) {
+        const std::size_t count = std::min<std::size_t>(wide.size() - at, longestPiece);
+        if (::WriteConsoleW(console, wide.data() + at, static_cast<DWORD>(count), &written, nullptr) == 0 ||
+            written == 0) {
+            return;
+        }
+    }
+}
+
+// The standard library's text is in the code page.
+std::string zvProcess::messageOf(const std::error_code& error) {
+    wchar_t* text = nullptr;
+    if (error.category() == std::system_category()) {
+        ::FormatMessageW(
+            FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
+            nullptr, static_cast<DWORD>(error.value()), 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
+    }
+    std::string message = text == nullptr ? error.message() : narrowed(text);
+    ::LocalFree(text);
+    return message.erase(message.find_last_not_of(".\r\n ") + 1);
 }
 
 unsigned long zvProcess::id() { return ::GetCurrentProcessId(); }
@@ -36,79 +99,7 @@ zvProcess::Function zvProcess::findLoggerFunction(const char* name) {
 }
 
 void zvProcess::setEnvironment(const char* name, const char* value) {
-    ::_putenv((std::string(name) + "=" + value).c_str());
-}
-
-namespace {
-
-// A link opens itself, which is refused, as are folders and pipes.
-HANDLE openRegular(const std::filesystem::path& file, DWORD access, DWORD creation) {
-    const HANDLE handle =
-        ::CreateFileW(file.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                      creation, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
-    FILE_ATTRIBUTE_TAG_INFO info{};
-    if (handle == INVALID_HANDLE_VALUE) {
-        return handle;
-    }
-    if (::GetFileType(handle) == FILE_TYPE_DISK &&
-        ::GetFileInformationByHandleEx(handle, FileAttributeTagInfo, &info, sizeof(info)) != 0 &&
-        (info.FileAttributes & (FILE_ATTRIBUTE_REPARSE_POINT | FILE_ATTRIBUTE_DIRECTORY)) == 0) {
-        return handle;
-    }
-    ::CloseHandle(handle);
-    ::SetLastError(ERROR_INVALID_PARAMETER);
-    return INVALID_HANDLE_VALUE;
-}
-
-// Locks a byte far beyond the end, where the lock keeps nobody from reading. False for one that another
-// process holds.
-bool lockByte(HANDLE handle, DWORD flags) {
-    OVERLAPPED place{};
-    place.OffsetHigh = MAXLONG;
-    return ::LockFileEx(handle, flags | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &place) != 0;
-}
-
-}  // namespace
-
-zvProcess::Lock zvProcess::FileLock::take(const std::filesystem::path& file, std::error_code& error) {
-    const auto lastError = [] {
-        return std::error_code(static_cast<int>(::GetLastError()), std::system_category());
-    };
-    const HANDLE handle = openRegular(file, GENERIC_READ | GENERIC_WRITE, OPEN_ALWAYS);
-    if (handle == INVALID_HANDLE_VALUE) {
-        error = lastError();
-        return Lock::refused;
-    }
-    // Whoever asks by isLocked() holds it for a moment.
-    constexpr int tries = 5;
-    constexpr DWORD pause = 20;
-    for (int i = 0; i < tries; ++i) {
-        if (lockByte(handle, LOCKFILE_EXCLUSIVE_LOCK)) {
-            m_handle = reinterpret_cast<std::intptr_t>(handle);
-            return Lock::taken;
-        }
-        error = lastError();
-        ::Sleep(pause);
-    }
-    ::CloseHandle(handle);
-    return error.value() == ERROR_LOCK_VIOLATION ? Lock::heldByAnother : Lock::refused;
-}
-
-zvProcess::FileLock::~FileLock() {
-    if (m_handle != -1) {
-        ::CloseHandle(reinterpret_cast<HANDLE>(m_handle));
-    }
-}
-
-// The system tells no more than whether a lock can be taken.
-bool zvProcess::isLocked(const std::filesystem::path& file) {
-    const HANDLE handle = openRegular(file, GENERIC_READ | GENERIC_WRITE, OPEN_EXISTING);
-    if (handle == INVALID_HANDLE_VALUE) {
-        return false;
-    }
-    const bool isHeld = !lockByte(handle, 0) && ::GetLastError() == ERROR_LOCK_VIOLATION;
-    ::CloseHandle(handle);
-    return isHeld;
+    ::_wputenv((widened(name) + L'=' + widened(value)).c_str());
 }
 
 // As the runtime takes a command line apart: blanks and quotes inside quotes, backslashes before quotes
@@ -131,7 +122,7 @@ bool zvProcess::run(const std::filesystem::path& program, const std::vector<std:
     constexpr std::chrono::milliseconds pause(10);
     std::wstring command = quoted(program.wstring());
     for (const std::string& argument : arguments) {
-        command += L" " + quoted(std::filesystem::path(argument).wstring());
+        command += L" " + quoted(widened(argument));
     }
     STARTUPINFOW startup{};
     startup.cb = sizeof(startup);
@@ -159,81 +150,10 @@ bool zvProcess::run(const std::filesystem::path& program, const std::vector<std:
 std::int64_t zvProcess::toSeconds(std::tm utc) { return ::_mkgmtime64(&utc); }
 
 std::string zvProcess::hostName() {
-    std::array<char, MAX_COMPUTERNAME_LENGTH + 1> name{};
+    std::array<wchar_t, MAX_COMPUTERNAME_LENGTH + 1> name{};
     DWORD length = static_cast<DWORD>(name.size());
-    return ::GetComputerNameA(name.data(), &length) != 0 ? name.data() : "";
+    return ::GetComputerNameW(name.data(), &length) != 0 ? narrowed(name.data()) : "";
 }
-
-std::error_code zvProcess::appendToFile(const std::filesystem::path& file, const std::string& text,
-                                        bool isDurable) {
-    const auto lastError = [] {
-        return std::error_code(static_cast<int>(::GetLastError()), std::system_category());
-    };
-    const HANDLE handle = openRegular(file, FILE_APPEND_DATA | FILE_READ_ATTRIBUTES, OPEN_ALWAYS);
-    if (handle == INVALID_HANDLE_VALUE) {
-        return lastError();
-    }
-    std::error_code error;
-    DWORD written = 0;
-    if (::WriteFile(handle, text.data(), static_cast<DWORD>(text.size()), &written, nullptr) == 0 ||
-        (isDurable && ::FlushFileBuffers(handle) == 0)) {
-        error = lastError();
-    }
-    ::CloseHandle(handle);
-    return error;
-}
-
-int zvProcess::openForReading(const std::filesystem::path& file, std::error_code& error) {
-    const int descriptor = ::_wopen(file.c_str(), _O_RDONLY | _O_BINARY);
-    error = {descriptor < 0 ? errno : 0, std::generic_category()};
-    return descriptor;
-}
-
-int zvProcess::openRegularFile(const std::filesystem::path& file, std::error_code& error) {
-    const HANDLE handle = openRegular(file, GENERIC_READ, OPEN_EXISTING);
-    if (handle == INVALID_HANDLE_VALUE) {
-        error = {static_cast<int>(::GetLastError()), std::system_category()};
-        return -1;
-    }
-    error.clear();
-    return ::_open_osfhandle(reinterpret_cast<std::intptr_t>(handle), _O_RDONLY | _O_BINARY);
-}
-
-bool zvProcess::isPrivate(int) { return true; }
-
-bool zvProcess::makePrivateFolder(const std::filesystem::path& folder) {
-    std::error_code error;
-    std::filesystem::create_directories(folder, error);
-    return std::filesystem::is_directory(folder, error);
-}
-
-std::error_code zvProcess::readToEnd(int descriptor, std::size_t limit, std::string& content) {
-    constexpr std::size_t blockSize = 4096;
-    std::array<char, blockSize> block{};
-    std::error_code error;
-    content.clear();
-    for (int count = 1; count != 0 && !error;) {
-        count = ::_read(descriptor, block.data(), static_cast<unsigned>(block.size()));
-        if (count > 0) {
-            content.append(block.data(), static_cast<std::size_t>(count));
-        } else if (count < 0) {
-            error = {errno, std::generic_category()};
-        }
-        if (content.size() > limit) {
-            error = std::make_error_code(std::errc::file_too_large);
-        }
-    }
-    close(descriptor);
-    return error;
-}
-
-void zvProcess::close(int descriptor) { ::_close(descriptor); }
-
-zvProcess::NewFileRights::NewFileRights(int) {}
-zvProcess::NewFileRights::~NewFileRights() = default;
-
-// The system has no such limit.
-void zvProcess::reportFullFiles() {}
 
 std::FILE* zvProcess::reserveStandardOutput() {
     std::fflush(stdout);
@@ -257,8 +177,13 @@ namespace {
 std::atomic<int> noted{0};
 
 BOOL WINAPI note(DWORD event) {
-    const int signal = event == CTRL_C_EVENT ? SIGINT : SIGTERM;
-    return noted.exchange(signal) == 0 ? TRUE : FALSE;
+    const bool isKey = event == CTRL_C_EVENT || event == CTRL_BREAK_EVENT;
+    const bool isFirst = noted.exchange(event == CTRL_C_EVENT ? SIGINT : SIGTERM) == 0;
+    if (isFirst && !isKey) {
+        // The window is closed, or the system ends: the process has until this function returns.
+        ::Sleep(INFINITE);
+    }
+    return isFirst ? TRUE : FALSE;
 }
 
 }  // namespace

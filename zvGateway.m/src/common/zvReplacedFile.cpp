@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "zvConsole.h"
+#include "zvDirFileUtils.h"
 #include "zvFailure.h"
 #include "zvProcess.h"
 
@@ -18,8 +19,8 @@ zvProgramFailure failure(const std::string& file, const std::string& reason) {
 }
 
 // 0, or the runtime's number for what went wrong.
-int writeNew(const std::string& file, const std::string& content) {
-    std::FILE* const stream = std::fopen(file.c_str(), "wbx");
+int writeNew(const fs::path& file, const std::string& content) {
+    std::FILE* const stream = zvProcess::createFile(file);
     if (stream == nullptr) {
         return errno;
     }
@@ -32,6 +33,9 @@ int writeNew(const std::string& file, const std::string& content) {
 }  // namespace
 
 void zvReplacedFile::write(const std::string& file, const std::string& content) {
+    if (const zvString fault = zvDirFileUtils::getNameError(file.c_str()); !fault.empty()) {
+        throw failure(file, zvConsole::printable(fault));
+    }
     std::error_code error;
     if (fs::exists(file, error) && !fs::is_regular_file(file, error)) {
         throw failure(file, "it exists and is not a regular file");
@@ -39,14 +43,15 @@ void zvReplacedFile::write(const std::string& file, const std::string& content) 
     const std::string temporary = file + "." + std::to_string(zvProcess::id()) + ".part";
     const int writeError = writeNew(temporary, content);
     if (writeError == 0) {
-        fs::rename(temporary, file, error);
+        zvProcess::replaceFile(temporary, file, error);
     } else {
         error = {writeError, std::generic_category()};
     }
     if (error) {
         if (writeError != EEXIST) {
-            std::remove(temporary.c_str());
+            std::error_code ignored;
+            fs::remove(temporary, ignored);
         }
-        throw failure(file, error.message());
+        throw failure(file, zvProcess::messageOf(error));
     }
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "zvConsole.h"
+#include "zvDirFileUtils.h"
 #include "zvFailure.h"
 #include "zvProcess.h"
 #include "zvSecrets.h"
@@ -23,10 +24,13 @@ zvStepFailure failure(const std::string& source, const std::string& reason) {
 }
 
 int openFile(const std::string& file) {
+    if (const zvString fault = zvDirFileUtils::getNameError(file.c_str()); !fault.empty()) {
+        throw failure(file, zvConsole::printable(fault));
+    }
     std::error_code error;
     const int descriptor = zvProcess::openForReading(file, error);
     if (error) {
-        throw failure(file, error.message());
+        throw failure(file, zvProcess::messageOf(error));
     }
     return descriptor;
 }
@@ -35,7 +39,7 @@ std::string contentOf(int descriptor, const std::string& source) {
     std::string content;
     const std::error_code error = zvProcess::readToEnd(descriptor, mostBytes, content);
     if (error) {
-        throw failure(source, error.message());
+        throw failure(source, zvProcess::messageOf(error));
     }
     return content;
 }
@@ -67,7 +71,7 @@ std::vector<fs::path> filesIn(const std::string& folder) {
         }
     }
     if (error) {
-        throw failure(folder, error.message());
+        throw failure(folder, zvProcess::messageOf(error));
     }
     std::sort(files.begin(), files.end());
     return files;

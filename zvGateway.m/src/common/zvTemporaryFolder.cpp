@@ -18,5 +18,5 @@ zvTemporaryFolder::zvTemporaryFolder() {
 
 zvTemporaryFolder::~zvTemporaryFolder() {
     std::error_code ignored;
-    fs::remove_all(m_path, ignored);
+    zvProcess::removeTree(m_path, ignored);
 }

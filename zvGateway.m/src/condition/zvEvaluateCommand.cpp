@@ -6,8 +6,8 @@
 #include "zvConditionExplanation.h"
 #include "zvConsole.h"
 #include "zvDataTypeWords.h"
+#include "zvProcess.h"
 #include "zvSecrets.h"
-#include "zvShownArguments.h"
 #include "zvTypedValue.h"
 
 namespace {
@@ -42,15 +42,14 @@ void printFault(const zvString& condition, int position) {
     const std::string before = zvConsole::printable(condition.substr(begin, position - begin));
     const std::string after = zvConsole::printable(condition.substr(position, context));
     const int columns = condition.substr(begin, position - begin).size();
-    std::fprintf(stderr, "  %s%s\n  %*s\n", before.c_str(), after.c_str(), columns + 1, "^");
+    const std::string indent(static_cast<std::size_t>(columns), ' ');
+    zvProcess::write(stderr, "  " + before + after + "\n  " + indent + "^\n");
 }
-
-std::string shown(const zvString& message) { return zvShownArguments::masked(zvConsole::printable(message)); }
 
 zvExitCode refuse(const zvString& condition, const zvException& exception) {
     const zvResult result = exception.getResult();
     const zvString position = result.getAdditionalInformation();
-    std::fprintf(stderr, "zvgateway: condition: %s\n", shown(result.getMessage()).c_str());
+    zvConsole::complain("condition: " + zvConsole::printable(result.getMessage()));
     if (!position.empty() && zvSecrets::keyIn(condition) == nullptr) {
         printFault(condition, zvString::convertUnicodeToInt(position));
     }
@@ -70,7 +69,7 @@ zvExitCode zvEvaluateCommand::run() const {
     const zvString text(condition.c_str());
     try {
         const bool outcome = evaluate(zvCndParsingUtils::createConditionStructure(text), context);
-        std::printf("%s\n", outcome ? "true" : "false");
+        zvConsole::write(outcome ? "true\n" : "false\n");
         return zvExitCode::success;
     } catch (const zvException& exception) {
         return refuse(text, exception);
@@ -83,7 +82,7 @@ bool zvEvaluateCommand::evaluate(const zvCndCondition& parsed, const zvCndContex
     }
     const zvConditionExplanation explanation(parsed, context);
     for (const std::string& line : explanation.lines()) {
-        std::printf("%s\n", line.c_str());
+        zvConsole::write(line + "\n");
     }
     return explanation.outcome();
 }

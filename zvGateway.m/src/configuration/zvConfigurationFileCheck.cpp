@@ -46,7 +46,8 @@ std::string keepStandardInput(const zvTemporaryFolder& folder) {
     std::string content;
     const std::error_code error = zvProcess::readToEnd(standardInputDescriptor, longestInput, content);
     if (error) {
-        throw zvProgramFailure{zvExitCode::configuration, "configuration", standardInput, error.message()};
+        throw zvProgramFailure{zvExitCode::configuration, "configuration", standardInput,
+                               zvProcess::messageOf(error)};
     }
     zvReplacedFile::write(file, content);
     return file;

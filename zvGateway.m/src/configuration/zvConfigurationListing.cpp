@@ -1,19 +1,23 @@
 #include "zvConfigurationListing.h"
 
-#include <cstdio>
 #include <string>
 
 #include "zvConfigurationNames.h"
 #include "zvConsole.h"
 
 using zvConfigurationNames::quoted;
+using zvConsole::padded;
 using zvConsole::printable;
+using zvConsole::write;
 
 namespace {
 
+constexpr std::size_t nameColumns = 20;
+constexpr std::size_t extensionColumns = 10;
+
 void printHeading(const char* heading, int count) {
     if (count > 0) {
-        std::printf("\n%s\n", heading);
+        write(std::string("\n") + heading + "\n");
     }
 }
 
@@ -28,20 +32,19 @@ void printAttribute(const zvCfgAttribute& attribute) {
     attribute.optionalAttributes().forEach([&more](const zvString& name, const zvString& value) {
         more += "  " + printable(name) + " " + quoted(value);
     });
-    std::printf("    %-20s -> %-20s %s%s\n", printable(attribute.localName()).c_str(),
-                printable(attribute.remoteName()).c_str(),
-                zvConfigurationNames::dataType(attribute.getDataType()).c_str(), more.c_str());
+    write("    " + padded(printable(attribute.localName()), nameColumns) + " -> " +
+          padded(printable(attribute.remoteName()), nameColumns) + " " +
+          zvConfigurationNames::dataType(attribute.getDataType()) + more + "\n");
 }
 
 void printObject(const zvCfgObject& object) {
-    std::printf("  %s  (%s)\n", zvConfigurationNames::object(object).c_str(),
-                printable(object.getOotbTypeStr()).c_str());
+    write("  " + zvConfigurationNames::object(object) + "  (" + printable(object.getOotbTypeStr()) + ")\n");
     const zvConfigurationNames::Rule rule = zvConfigurationNames::rule(object);
     if (!rule.written.empty()) {
-        std::printf("    when %s\n", printable(rule.written).c_str());
+        write("    when " + printable(rule.written) + "\n");
     }
     if (!rule.read.empty()) {
-        std::printf("    read as %s\n", printable(rule.read).c_str());
+        write("    read as " + printable(rule.read) + "\n");
     }
     for (int i = 0; i < object.numAttributes(); ++i) {
         printAttribute(*object.getAttribute(i));
@@ -49,12 +52,12 @@ void printObject(const zvCfgObject& object) {
 }
 
 void printState(const zvCfgLcmState& state) {
-    std::printf("    %d  %s -> %s  key %s\n", state.getIndex(), quoted(state.localName()).c_str(),
-                quoted(state.remoteName()).c_str(), quoted(state.key()).c_str());
+    write("    " + std::to_string(state.getIndex()) + "  " + quoted(state.localName()) + " -> " +
+          quoted(state.remoteName()) + "  key " + quoted(state.key()) + "\n");
     for (int i = 0; i < state.numOutgoingTransitions(); ++i) {
         const zvCfgTransition& transition = *state.getOutgoingTransition(i);
-        std::printf("         %s to %s\n", zvConfigurationNames::transition(transition.getType()),
-                    quoted(transition.toState()).c_str());
+        write(std::string("         ") + zvConfigurationNames::transition(transition.getType()) + " to " +
+              quoted(transition.toState()) + "\n");
     }
 }
 
@@ -78,12 +81,12 @@ void zvConfigurationListing::printFiles() const {
     printHeading("file types", m_configuration.numFiles());
     for (int i = 0; i < m_configuration.numFiles(); ++i) {
         const zvCfgFile& file = *m_configuration.getFileAt(i);
-        std::printf("  %s\n", zvConfigurationNames::object(file).c_str());
+        write("  " + zvConfigurationNames::object(file) + "\n");
         file.forEachFileExtension([](const zvCfgFileExtension& extension) {
-            std::printf("    %-10s %-6s %s %s\n", printable(extension.getName()).c_str(),
-                        extension.getTransferMode() == zvTransferModeAscii ? "ASCII" : "BINARY",
-                        extension.isImportAllowed() ? "import" : "      ",
-                        extension.isExportAllowed() ? "export" : "");
+            write("    " + padded(printable(extension.getName()), extensionColumns) +
+                  (extension.getTransferMode() == zvTransferModeAscii ? " ASCII " : " BINARY") +
+                  (extension.isImportAllowed() ? " import" : "       ") +
+                  (extension.isExportAllowed() ? " export\n" : " \n"));
         });
     }
 }
@@ -94,11 +97,11 @@ void zvConfigurationListing::printViews() const {
         const zvString collection = m_configuration.getViewCollectionAt(i);
         const zvCfgViewList& views = *m_configuration.getViewsInCollection(collection);
         const zvCfgView* const first = m_configuration.getDefaultViewInCollection(collection);
-        std::printf("  collection %s\n", quoted(collection).c_str());
+        write("  collection " + quoted(collection) + "\n");
         for (int k = 0; k < views.size(); ++k) {
             const zvCfgView& view = *views.get(k);
-            std::printf("    %d  %s -> %s%s\n", view.getIndex(), quoted(view.getLocalName()).c_str(),
-                        quoted(view.getRemoteName()).c_str(), &view == first ? "  default" : "");
+            write("    " + std::to_string(view.getIndex()) + "  " + quoted(view.getLocalName()) + " -> " +
+                  quoted(view.getRemoteName()) + (&view == first ? "  default\n" : "\n"));
         }
     }
 }
@@ -107,7 +110,7 @@ void zvConfigurationListing::printLifecycles() const {
     printHeading("lifecycles", m_configuration.numLifecycles());
     for (int i = 0; i < m_configuration.numLifecycles(); ++i) {
         const zvCfgLcmGraph& lifecycle = *m_configuration.getLifecycleAt(i);
-        std::printf("  lifecycle %s\n", quoted(lifecycle.getObjectType()).c_str());
+        write("  lifecycle " + quoted(lifecycle.getObjectType()) + "\n");
         for (int k = 0; k < lifecycle.numStates(); ++k) {
             printState(*lifecycle.getStateAt(k));
         }

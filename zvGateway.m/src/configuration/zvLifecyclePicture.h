@@ -17,8 +17,8 @@ public:
     zvLifecyclePicture& operator=(const zvLifecyclePicture&) = delete;
     virtual ~zvLifecyclePicture() = default;
 
-    /// Null when what draws, or Graphviz, on which it stands, is not there.
-    static std::unique_ptr<zvLifecyclePicture> load();
+    /// Null, with the reason, when what draws, or Graphviz, on which it stands, is not there.
+    static std::unique_ptr<zvLifecyclePicture> load(std::string& reason);
 
     /// The "svg" element in UTF-8, to stand in an HTML page. Every id in it begins with `id`. Empty for a
     /// lifecycle that is too large to be read as a picture, or that cannot be laid out.

@@ -1,6 +1,5 @@
 #include "zvShowCommand.h"
 
-#include <cstdio>
 #include <filesystem>
 #include <system_error>
 
@@ -16,8 +15,8 @@ zvExitCode zvShowCommand::run() const {
     const zvCfgConfigManager& configuration = *zvCfgConfigManager::getCfgConfigManager();
     const std::string system = zvConsole::printable(reading.pdmSystemName());
     if (page.empty()) {
-        std::printf("%s%s%s\n", zvConsole::printable(file.c_str()).c_str(), system.empty() ? "" : "  to  ",
-                    system.c_str());
+        zvConsole::write(zvConsole::printable(file.c_str()) + (system.empty() ? "" : "  to  ") + system +
+                         "\n");
         zvConfigurationListing(configuration).print();
         return zvExitCode::success;
     }
@@ -28,10 +27,10 @@ zvExitCode zvShowCommand::run() const {
     }
     const zvString title =
         "Mapping configuration" + (system.empty() ? zvString() : " for " + reading.pdmSystemName());
-    const std::unique_ptr<zvLifecyclePicture> picture = zvLifecyclePicture::load();
+    std::string reason;
+    const std::unique_ptr<zvLifecyclePicture> picture = zvLifecyclePicture::load(reason);
     if (picture == nullptr) {
-        std::fprintf(stderr,
-                     "zvgateway: lifecycles have no pictures: zvGraphvizPicture.so cannot be loaded\n");
+        zvConsole::complain("lifecycles have no pictures: " + reason);
     }
     zvReplacedFile::write(page, zvConfigurationPage(configuration, title, picture.get()).html());
     return zvExitCode::success;

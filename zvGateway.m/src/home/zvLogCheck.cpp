@@ -71,7 +71,7 @@ std::string appendError(const fs::path& file) {
     std::error_code error;
     if (fs::is_regular_file(file, error)) {
         error = zvProcess::appendToFile(file, "", false);
-        return error ? error.message() : "";
+        return error ? zvProcess::messageOf(error) : "";
     }
     if (fs::is_directory(file, error)) {
         return std::make_error_code(std::errc::is_a_directory).message();

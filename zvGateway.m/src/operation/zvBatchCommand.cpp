@@ -16,6 +16,7 @@
 #include "zvEventArguments.h"
 #include "zvHomeSettings.h"
 #include "zvInterruption.h"
+#include "zvProcess.h"
 #include "zvUtf8Text.h"
 
 namespace fs = std::filesystem;
@@ -45,7 +46,7 @@ zvExitCode zvBatchCommand::run(zvEventRunner& runner) {
         std::error_code error;
         const fs::file_status status = fs::status(file, error);
         if (!fs::exists(status) || fs::is_directory(status)) {
-            throw failure(error ? error.message() : "it is no file");
+            throw failure(error ? zvProcess::messageOf(error) : "it is no file");
         }
         size = fs::is_regular_file(status) ? static_cast<double>(fs::file_size(file, error)) : 0;
         opened.open(file, std::ios::binary);
@@ -146,7 +147,7 @@ zvEventOutcome zvBatchCommand::runIn(const std::string& root, const zvBatchEntry
     if (error) {
         zvEventOutcome outcome;
         outcome.setFailure({zvExitCode::shadowDirectory, "shadow directory",
-                            printable((fs::path(root) / directory).string()), error.message()});
+                            printable((fs::path(root) / directory).string()), zvProcess::messageOf(error)});
         return outcome;
     }
     arguments.push_back("EventShadowDir=" + directory);

@@ -87,7 +87,7 @@ zvFoundEvent zvFoundEvent::in(const fs::path& directory, zvEventHistory::Detail 
     std::error_code error;
     event.fault = event.history.read(record, detail, error);
     if (error && error != std::errc::no_such_file_or_directory) {
-        event.fault = error.message();
+        event.fault = zvProcess::messageOf(error);
     }
     if (!event.fault.empty()) {
         event.state = State::unreadable;
@@ -108,6 +108,6 @@ void zvFoundEvent::forEachIn(const fs::path& root, zvEventHistory::Detail detail
     }
     if (error) {
         throw zvProgramFailure{zvExitCode::shadowDirectory, "events",
-                               zvConsole::printable(root.string().c_str()), error.message()};
+                               zvConsole::printable(root.string().c_str()), zvProcess::messageOf(error)};
     }
 }

@@ -79,7 +79,7 @@ void zvPruneCommand::remove(const zvFoundEvent& event) {
     std::error_code error;
     zvProcess::FileLock lock;
     if (lock.take(record, error) != zvProcess::Lock::taken) {
-        throw zvStepFailure{printable(record), error.message()};
+        throw zvStepFailure{printable(record), zvProcess::messageOf(error)};
     }
     std::vector<fs::path> others;
     for (fs::directory_iterator entry(event.directory, error), end; !error && entry != end;
@@ -91,12 +91,15 @@ void zvPruneCommand::remove(const zvFoundEvent& event) {
     others.push_back(record);
     others.push_back(event.directory);
     for (std::size_t i = 0; i < others.size() && !error; ++i) {
-        fs::remove_all(others[i], error);
+        if (others[i] == event.directory) {
+            lock.release();
+        }
+        zvProcess::removeTree(others[i], error);
         if (error) {
-            throw zvStepFailure{printable(others[i]), error.message()};
+            throw zvStepFailure{printable(others[i]), zvProcess::messageOf(error)};
         }
     }
     if (error) {
-        throw zvStepFailure{printable(event.directory), error.message()};
+        throw zvStepFailure{printable(event.directory), zvProcess::messageOf(error)};
     }
 }

@@ -7,6 +7,7 @@
 #include "zvArgumentTexts.h"
 #include "zvConsole.h"
 #include "zvInterruption.h"
+#include "zvProcess.h"
 #include "zvUtf8Text.h"
 
 namespace fs = std::filesystem;
@@ -120,7 +121,7 @@ zvEventOutcome zvResumeCommand::outcomeOf(const zvFoundEvent& event, zvEventRunn
     std::error_code error;
     const std::string place = fs::absolute(root, error).lexically_normal().string();
     if (!fault.empty() || error) {
-        return refused(event, fault.empty() ? error.message() : fault);
+        return refused(event, fault.empty() ? zvProcess::messageOf(error) : fault);
     }
     std::vector<std::string> arguments = texts.take();
     arguments.push_back("RootShadowDir=" + place);

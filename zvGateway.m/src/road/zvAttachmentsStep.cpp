@@ -9,6 +9,7 @@
 #include "zvException.h"
 #include "zvFindingList.h"
 #include "zvNativePath.h"
+#include "zvProcess.h"
 
 namespace fs = std::filesystem;
 
@@ -82,7 +83,7 @@ void zvAttachmentsStep::copyList(const zvString& file) const {
     const bool isItself = fs::equivalent(from, to, error);
     if (!isItself && !error) {
         const fs::perms own = fs::status(to, error).permissions();
-        fs::copy_file(from, to, fs::copy_options::overwrite_existing, error);
+        zvProcess::copyFile(from, to, error);
         // The copy has got the rights of the list.
         std::error_code refused;
         fs::permissions(to, own, refused);
@@ -92,7 +93,7 @@ void zvAttachmentsStep::copyList(const zvString& file) const {
         fs::last_write_time(to, fs::last_write_time(from, error), error);
     }
     if (error) {
-        throw failure(target, error.message());
+        throw failure(target, zvProcess::messageOf(error));
     }
     zvConsole::fact("list", zvConsole::printablePath(target));
 }

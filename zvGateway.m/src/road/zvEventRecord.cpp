@@ -9,6 +9,7 @@
 #include "zvFailure.h"
 #include "zvFileStamp.h"
 #include "zvNativePath.h"
+#include "zvProcess.h"
 #include "zvSecrets.h"
 #include "zvUtcTime.h"
 #include "zvUtf8Text.h"
@@ -28,7 +29,7 @@ std::string nameOf(const zvString& path) {
 // Texts for people are in the locale's encoding.
 std::string toUtf8(const std::string& text) { return zvUtf8::encode(text.c_str()); }
 
-std::string messageOf(const std::error_code& error) { return error ? error.message() : ""; }
+std::string messageOf(const std::error_code& error) { return error ? zvProcess::messageOf(error) : ""; }
 
 zvStepFailure failure(const fs::path& file, const std::string& reason) {
     return {zvConsole::printable(file.string().c_str()), reason};
@@ -69,7 +70,7 @@ zvEventRecord::zvEventRecord(const zvString& file) : m_file(toNativePath(file)) 
         throw zvStepFailure(held);
     }
     if (lock == zvProcess::Lock::refused) {
-        throw failure(m_file, error.message());
+        throw failure(m_file, zvProcess::messageOf(error));
     }
     read();
 }
@@ -78,7 +79,7 @@ void zvEventRecord::read() {
     std::error_code error;
     const std::string fault = m_history.read(m_file, zvEventHistory::Detail::all, error);
     if (error || !fault.empty()) {
-        throw failure(m_file, error ? error.message() : fault);
+        throw failure(m_file, error ? zvProcess::messageOf(error) : fault);
     }
     m_strEventId = fromUtf8(m_history.eventId);
 }
@@ -221,7 +222,7 @@ void zvEventRecord::append(const ordered_json& line, bool isDurable) {
     m_history.hasTornEnd = static_cast<bool>(error);
     m_bIdentitySecured = m_bIdentitySecured || (isDurable && !error);
     if (error && m_strFault.empty()) {
-        m_strFault = error.message();
+        m_strFault = zvProcess::messageOf(error);
     }
 }
 

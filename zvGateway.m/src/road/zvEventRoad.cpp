@@ -73,8 +73,7 @@ void zvEventRoad::endWithProcess() {
         "the Java machine ends the process; its own words stand above, or in its file hs_err_pid*.log");
     end(&failure);
     zvConsole::outcome(m_outcome.text(), true);
-    std::fprintf(stderr, "zvgateway: %s: %s: %s\n", failure.step.c_str(), failure.subject.c_str(),
-                 failure.reason.c_str());
+    zvConsole::complain(failure.step + ": " + failure.subject + ": " + failure.reason);
     zvConsole::flush();
     std::fflush(nullptr);
     std::_Exit(static_cast<int>(failure.exitCode));

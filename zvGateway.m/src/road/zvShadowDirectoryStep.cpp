@@ -9,6 +9,7 @@
 #include "zvDirFileUtils.h"
 #include "zvHomeSettings.h"
 #include "zvNativePath.h"
+#include "zvProcess.h"
 
 namespace fs = std::filesystem;
 
@@ -133,7 +134,7 @@ void zvShadowDirectoryStep::makeDirectoryAfter2038(const zvString& root) {
             return;
         }
         if (error) {
-            throw failure(root, error.message());
+            throw failure(root, zvProcess::messageOf(error));
         }
     }
 }
@@ -141,6 +142,9 @@ void zvShadowDirectoryStep::makeDirectoryAfter2038(const zvString& root) {
 void zvShadowDirectoryStep::resumeIn(const zvString& name) {
     if (!isPlainName(name)) {
         throw failure(name, "\"EventShadowDir\" has to be the name of a directory below \"RootShadowDir\"");
+    }
+    if (const zvString fault = zvDirFileUtils::getNameError(m_event.directory()); !fault.empty()) {
+        throw failure(name, zvConsole::printable(fault));
     }
     requireOwnKind(m_event.directory(), fs::file_type::directory, "it is no directory");
     m_event.arguments->setEventArgument("DataFileName", name + "_data.xml");
