@@ -9,12 +9,12 @@
 /// for one of the log nor have a terminal do something.
 namespace zvLogText {
 
-/// Decodes a program's text: from the locale's encoding, and where no locale has UTF-8, from UTF-8 if it is that,
-/// since a program may have adopted it.
+/// Decodes a program's text: from the locale's encoding, and where no locale has UTF-8, from UTF-8 if it is
+/// that, since a program may have adopted it.
 log4cxx::LogString decoded(std::string_view text);
 
-/// Decodes the text. Control characters but tabs, ends of lines and what turns the direction of writing become
-/// escapes such as "\n", "\x1b" and "\u202e".
+/// Decodes the text. Control characters but tabs, ends of lines and what turns the direction of writing
+/// become escapes such as "\n", "\x1b" and "\u202e".
 log4cxx::LogString onOneLine(std::string_view text);
 
 /// The same, but line feeds stay, and each line after the first one is indented.

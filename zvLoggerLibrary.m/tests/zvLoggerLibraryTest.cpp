@@ -57,8 +57,8 @@ protected:
     void closeLogs() const {
         const fs::path other = m_folder.parent_path() / "other.xml";
         const std::string file = (m_folder.parent_path() / "other.log").string();
-        std::ofstream(other) << std::regex_replace(configuration("off", ""), std::regex("\"File\" value=\"[^\"]*"),
-                                                   "\"File\" value=\"" + file);
+        std::ofstream(other) << std::regex_replace(
+            configuration("off", ""), std::regex("\"File\" value=\"[^\"]*"), "\"File\" value=\"" + file);
         InitializeLogger(other.string().c_str());
     }
 
@@ -284,8 +284,8 @@ TEST_F(zvLoggerLibraryTest, ALoggerWithoutAppendersIsSilent) {
 
 TEST_F(zvLoggerLibraryTest, LogsUntilTheProcessHasEnded) {
     // A file this small is rolled over at every line, which exercises most of log4cxx.
-    const std::string parameters = parameter("MaxFileSize", "10") + parameter("MaxBackupIndex", "9") +
-                                   parameter("Encoding", "UTF-8");
+    const std::string parameters =
+        parameter("MaxFileSize", "10") + parameter("MaxBackupIndex", "9") + parameter("Encoding", "UTF-8");
     ASSERT_TRUE(
         run(write("log4cxx.xml", configuration("info", parameters, "RollingFileAppender")), "program", 1));
     EXPECT_EQ(lines(), (Lines{"INFO|test.program|test/program.cpp|0|" + zvLoggerTestMessage("program", 0),
@@ -367,7 +367,9 @@ TEST_F(zvLoggerLibraryTest, ARequiredLogThatCannotBeOpenedIsRefused) {
 }
 
 TEST_F(zvLoggerLibraryTest, TheFilesAreWhereTheirNamesSay) {
-    const auto folder = m_folder / fs::u8path("Gr\xC3\xB6\xC3\x9F" "e \xE2\x82\xAC");
+    const auto folder = m_folder / fs::u8path(
+                                       "Gr\xC3\xB6\xC3\x9F"
+                                       "e \xE2\x82\xAC");
     fs::create_directories(folder);
     const std::string content = std::regex_replace(configuration("info", ""), std::regex("logs.out[.]log"),
                                                    folder.filename().u8string() + "/\xC3\xBC.log");
@@ -389,7 +391,8 @@ TEST_F(zvLoggerLibraryTest, EveryLineOfAnEventCarriesItsIdentity) {
         closeLogs();
         fs::remove_all(m_folder / "logs");
         SetLogEventId("before");
-        const std::string content = configuration("info", parameter("Encoding", "UTF-8"), "FileAppender", pattern);
+        const std::string content =
+            configuration("info", parameter("Encoding", "UTF-8"), "FileAppender", pattern);
         ASSERT_TRUE(InitializeLogger(write(std::to_string(content.size()) + ".xml", content).c_str()));
         LogInfoMessage("a", "1", "f", 1);
         SetLogEventId("gr\xC3\xBC");
@@ -409,9 +412,12 @@ TEST_F(zvLoggerLibraryTest, EveryLineOfAnEventCarriesItsIdentity) {
 TEST_F(zvLoggerLibraryTest, TheSampleHomeTellsTheOffsetFromUtc) {
     zvPlatform::setEnvironment("GATEWAY_HOME", m_folder.string().c_str());
     // The last one has summer time all year. On Windows the zone is the system's.
-    const auto zones = onWindows ? std::vector<const char*>{""}
-                                 : std::vector{"UTC", "Europe/Berlin", "Asia/Kathmandu", "America/St_Johns",
-                                               "Pacific/Kiritimati", "AST4ADT,0/0,J365/25"};
+    const auto zones = onWindows ? std::vector<const char*>{""} : std::vector{"UTC",
+                                                                              "Europe/Berlin",
+                                                                              "Asia/Kathmandu",
+                                                                              "America/St_Johns",
+                                                                              "Pacific/Kiritimati",
+                                                                              "AST4ADT,0/0,J365/25"};
     for (const char* const zone : zones) {
         fs::remove_all(m_folder / "logs");
         zvPlatform::setEnvironment("TZ", zone);
