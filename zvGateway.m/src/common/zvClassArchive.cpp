@@ -59,7 +59,7 @@ std::string identity(const fs::path& library, const std::vector<std::string>& op
     std::string text = library.string() + '\n' + fileStamp(library) + '\n' + classPath;
     std::istringstream entries(classPath);
     for (std::string entry; std::getline(entries, entry, listSeparator);) {
-        text += '\n' + fileStamp(entry);
+        text += '\n' + fileStamp(fs::u8path(entry));
     }
     for (const std::string& option : options) {
         text += '\n' + option;

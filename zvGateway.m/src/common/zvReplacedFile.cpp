@@ -36,14 +36,16 @@ void zvReplacedFile::write(const std::string& file, const std::string& content) 
     if (const zvString fault = zvDirFileUtils::getNameError(file.c_str()); !fault.empty()) {
         throw failure(file, zvConsole::printable(fault));
     }
+    const fs::path path = fs::u8path(file);
     std::error_code error;
-    if (fs::exists(file, error) && !fs::is_regular_file(file, error)) {
+    if (fs::exists(path, error) && !fs::is_regular_file(path, error)) {
         throw failure(file, "it exists and is not a regular file");
     }
-    const std::string temporary = file + "." + std::to_string(zvProcess::id()) + ".part";
+    fs::path temporary = path;
+    temporary += "." + std::to_string(zvProcess::id()) + ".part";
     const int writeError = writeNew(temporary, content);
     if (writeError == 0) {
-        zvProcess::replaceFile(temporary, file, error);
+        zvProcess::replaceFile(temporary, path, error);
     } else {
         error = {writeError, std::generic_category()};
     }

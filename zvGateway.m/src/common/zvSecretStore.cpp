@@ -28,7 +28,7 @@ int openFile(const std::string& file) {
         throw failure(file, zvConsole::printable(fault));
     }
     std::error_code error;
-    const int descriptor = zvProcess::openForReading(file, error);
+    const int descriptor = zvProcess::openForReading(std::filesystem::u8path(file), error);
     if (error) {
         throw failure(file, zvProcess::messageOf(error));
     }
@@ -65,7 +65,7 @@ zvString toText(const std::string& bytes) {
 std::vector<fs::path> filesIn(const std::string& folder) {
     std::vector<fs::path> files;
     std::error_code error;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+    for (fs::directory_iterator entry(fs::u8path(folder), error), end; !error && entry != end; entry.increment(error)) {
         if (entry->path().filename().string().front() != '.' && !entry->is_directory()) {
             files.push_back(entry->path());
         }

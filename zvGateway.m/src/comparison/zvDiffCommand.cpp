@@ -33,9 +33,10 @@ zvExitCode zvDiffCommand::run() const {
 }
 
 void zvDiffCommand::refuseToReplaceInput() const {
+    namespace fs = std::filesystem;
     for (const std::string& file : {before, after}) {
         std::error_code error;
-        if (!page.empty() && std::filesystem::equivalent(file, page, error)) {
+        if (!page.empty() && fs::equivalent(fs::u8path(file), fs::u8path(page), error)) {
             throw zvProgramFailure{zvExitCode::usage, "output", zvConsole::printable(page.c_str()),
                                    "it is one of the configurations"};
         }

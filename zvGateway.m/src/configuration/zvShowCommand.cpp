@@ -20,8 +20,9 @@ zvExitCode zvShowCommand::run() const {
         zvConfigurationListing(configuration).print();
         return zvExitCode::success;
     }
+    namespace fs = std::filesystem;
     std::error_code error;
-    if (std::filesystem::equivalent(file, page, error)) {
+    if (fs::equivalent(fs::u8path(file), fs::u8path(page), error)) {
         throw zvProgramFailure{zvExitCode::usage, "output", zvConsole::printable(page.c_str()),
                                "it is the configuration itself"};
     }

@@ -35,7 +35,7 @@ zvEventOutcome refused(const std::string& reason) {
 
 zvExitCode zvBatchCommand::run(zvEventRunner& runner) {
     if (name.empty()) {
-        name = fs::path(file).filename().string();
+        name = fs::u8path(file).filename().string();
     }
     const auto failure = [this](const std::string& reason) {
         return zvProgramFailure{zvExitCode::usage, "batch", printable(file), reason};
@@ -44,12 +44,12 @@ zvExitCode zvBatchCommand::run(zvEventRunner& runner) {
     double size = 0;
     if (file != "-") {
         std::error_code error;
-        const fs::file_status status = fs::status(file, error);
+        const fs::file_status status = fs::status(fs::u8path(file), error);
         if (!fs::exists(status) || fs::is_directory(status)) {
             throw failure(error ? zvProcess::messageOf(error) : "it is no file");
         }
-        size = fs::is_regular_file(status) ? static_cast<double>(fs::file_size(file, error)) : 0;
-        opened.open(file, std::ios::binary);
+        size = fs::is_regular_file(status) ? static_cast<double>(fs::file_size(fs::u8path(file), error)) : 0;
+        opened.open(fs::u8path(file), std::ios::binary);
         if (!opened.is_open()) {
             throw failure("it cannot be opened");
         }
@@ -71,7 +71,7 @@ zvExitCode zvBatchCommand::run(zvEventRunner& runner) {
 zvBatchInput::Format zvBatchCommand::inputFormat() const {
     std::string word = format;
     if (word.empty()) {
-        const std::string extension = fs::path(file).extension().string();
+        const std::string extension = fs::u8path(file).extension().string();
         word = extension.empty() ? "" : extension.substr(1);
     }
     const auto* const found = std::find_if(std::begin(formats), std::end(formats),
@@ -126,7 +126,7 @@ zvEventOutcome zvBatchCommand::take(const zvBatchEntry& entry, zvEventRunner& ru
 zvEventOutcome zvBatchCommand::runIn(const std::string& root, const zvBatchEntry& entry,
                                      std::vector<std::string> arguments, zvEventRunner& runner) const {
     const std::string directory = directoryName(entry);
-    const zvFoundEvent event = zvFoundEvent::in(fs::path(root) / directory, zvEventHistory::Detail::state);
+    const zvFoundEvent event = zvFoundEvent::in(fs::u8path(root) / directory, zvEventHistory::Detail::state);
     const bool isOfThisRun =
         event.history.pid == zvProcess::id() && event.history.host == zvProcess::hostName();
     if (event.state == zvFoundEvent::State::arrived && isRecordedAs(event.history, entry)) {
@@ -142,12 +142,12 @@ zvEventOutcome zvBatchCommand::runIn(const std::string& root, const zvBatchEntry
     {
         std::string fault;  // the road tells it
         const zvProcess::NewFileRights rights(zvHomeSettings::shadowMask(fault));
-        fs::create_directory(fs::path(root) / directory, error);
+        fs::create_directory(fs::u8path(root) / directory, error);
     }
     if (error) {
         zvEventOutcome outcome;
         outcome.setFailure({zvExitCode::shadowDirectory, "shadow directory",
-                            printable((fs::path(root) / directory).string()), zvProcess::messageOf(error)});
+                            printable((fs::u8path(root) / directory).string()), zvProcess::messageOf(error)});
         return outcome;
     }
     arguments.push_back("EventShadowDir=" + directory);

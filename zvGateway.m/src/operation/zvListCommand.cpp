@@ -70,12 +70,13 @@ zvExitCode zvListCommand::run() {
     if (!asJson) {
         printRow({"DIRECTORY", "ID", "EVENT", "OBJECT", "STATE", "AGE", "TRIES", "REASON"});
     }
-    zvFoundEvent::forEachIn(root, zvEventHistory::Detail::state, [this](const zvFoundEvent& event) {
-        if (isWanted(event)) {
-            ++m_counts[static_cast<std::size_t>(event.state)];
-            asJson ? printJson(event) : print(event);
-        }
-    });
+    zvFoundEvent::forEachIn(std::filesystem::u8path(root), zvEventHistory::Detail::state,
+                            [this](const zvFoundEvent& event) {
+                                if (isWanted(event)) {
+                                    ++m_counts[static_cast<std::size_t>(event.state)];
+                                    asJson ? printJson(event) : print(event);
+                                }
+                            });
     printTotal();
     return zvExitCode::success;
 }
@@ -135,12 +136,13 @@ void zvListCommand::printTotal() const {
 
 void zvListCommand::writePage() {
     zvEventListPage events(m_now);
-    zvFoundEvent::forEachIn(root, zvEventHistory::Detail::all, [&](const zvFoundEvent& event) {
-        if (isWanted(event)) {
-            ++m_counts[static_cast<std::size_t>(event.state)];
-            events.add(event);
-        }
-    });
+    zvFoundEvent::forEachIn(std::filesystem::u8path(root), zvEventHistory::Detail::all,
+                            [&](const zvFoundEvent& event) {
+                                if (isWanted(event)) {
+                                    ++m_counts[static_cast<std::size_t>(event.state)];
+                                    events.add(event);
+                                }
+                            });
     zvReplacedFile::write(page, events.html(root));
     printTotal();
 }

@@ -37,7 +37,7 @@ zvExitCode zvPruneCommand::run() {
                                zvConsole::printable(olderThan.c_str()) + " is no time like 12h or 30d"};
     }
     const std::int64_t before = zvUtcTime::nowInSeconds() - *span;
-    zvFoundEvent::forEachIn(root, zvEventHistory::Detail::state, [&](const zvFoundEvent& event) {
+    zvFoundEvent::forEachIn(fs::u8path(root), zvEventHistory::Detail::state, [&](const zvFoundEvent& event) {
         if (zvProcess::notedSignal() == 0 && isDue(event, before)) {
             prune(event);
         }

@@ -49,13 +49,14 @@ zvExitCode zvResumeCommand::run(zvEventRunner& runner) {
     if (all) {
         const long open = countOpen();
         long taken = 0;
-        zvFoundEvent::forEachIn(root, zvEventHistory::Detail::state, [&](const zvFoundEvent& event) {
-            if (isOpen(event) && zvProcess::notedSignal() == 0) {
-                ++taken;
-                tally.add(outcomeOf(event, runner), 0,
-                          static_cast<double>(taken) / static_cast<double>(std::max(open, taken)));
-            }
-        });
+        zvFoundEvent::forEachIn(
+            fs::u8path(root), zvEventHistory::Detail::state, [&](const zvFoundEvent& event) {
+                if (isOpen(event) && zvProcess::notedSignal() == 0) {
+                    ++taken;
+                    tally.add(outcomeOf(event, runner), 0,
+                              static_cast<double>(taken) / static_cast<double>(std::max(open, taken)));
+                }
+            });
     }
     double taken = 0;
     for (const std::string& name : events) {
@@ -71,26 +72,27 @@ zvExitCode zvResumeCommand::run(zvEventRunner& runner) {
 
 long zvResumeCommand::countOpen() const {
     long count = 0;
-    zvFoundEvent::forEachIn(root, zvEventHistory::Detail::state,
+    zvFoundEvent::forEachIn(fs::u8path(root), zvEventHistory::Detail::state,
                             [&count](const zvFoundEvent& event) { count += isOpen(event) ? 1 : 0; });
     return count;
 }
 
 fs::path zvResumeCommand::find(const std::string& event) const {
-    fs::path named = fs::path(root) / event;
+    fs::path named = fs::u8path(root) / fs::u8path(event);
     std::error_code error;
-    if (fs::path(event).filename() == event && event != "." && event != ".." &&
+    if (fs::u8path(event).filename().string() == event && event != "." && event != ".." &&
         fs::is_directory(named, error)) {
         return named;
     }
     constexpr std::size_t shortest = 8;
     std::vector<fs::path> found;
     if (event.size() >= shortest) {
-        zvFoundEvent::forEachIn(root, zvEventHistory::Detail::state, [&](const zvFoundEvent& candidate) {
-            if (candidate.history.eventId.compare(0, event.size(), event) == 0) {
-                found.push_back(candidate.directory);
-            }
-        });
+        zvFoundEvent::forEachIn(fs::u8path(root), zvEventHistory::Detail::state,
+                                [&](const zvFoundEvent& candidate) {
+                                    if (candidate.history.eventId.compare(0, event.size(), event) == 0) {
+                                        found.push_back(candidate.directory);
+                                    }
+                                });
     }
     if (found.size() != 1) {
         throw zvProgramFailure{zvExitCode::usage, "events", printable(event),
@@ -119,7 +121,7 @@ zvEventOutcome zvResumeCommand::outcomeOf(const zvFoundEvent& event, zvEventRunn
         fault = fault.empty() ? texts.add(key, value) : fault;
     }
     std::error_code error;
-    const std::string place = fs::absolute(root, error).lexically_normal().string();
+    const std::string place = fs::absolute(fs::u8path(root), error).lexically_normal().string();
     if (!fault.empty() || error) {
         return refused(event, fault.empty() ? zvProcess::messageOf(error) : fault);
     }
