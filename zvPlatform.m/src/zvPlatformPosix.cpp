@@ -199,6 +199,8 @@ File openForReading(const char* path) {
     return isDirectory ? nullptr : std::move(file);
 }
 
+File openBytes(const char* path) { return openForReading(path); }
+
 File openForWriting(const char* path) { return File(std::fopen(nativePath(path).c_str(), "wb")); }
 
 Handle openDirectory(const std::filesystem::path& path) {

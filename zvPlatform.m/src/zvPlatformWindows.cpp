@@ -169,6 +169,10 @@ bool isRegularFile(HANDLE handle) {
            (facts.dwFileAttributes & others) == 0;
 }
 
+File open(const char* path, const wchar_t* mode) {
+    return File(isNameable(widened(path).c_str()) ? ::_wfopen(unlimited(path).c_str(), mode) : nullptr);
+}
+
 }  // namespace
 
 std::string nativePath(const char* path) { return path; }
@@ -257,9 +261,9 @@ unsigned long accessError(const char* path, int mode) {
     return ::_waccess(unlimited(path).c_str(), mode) == 0 ? 0 : _doserrno;
 }
 
-File openForReading(const char* path) {
-    return File(isNameable(widened(path).c_str()) ? ::_wfopen(unlimited(path).c_str(), L"r") : nullptr);
-}
+File openForReading(const char* path) { return open(path, L"r"); }
+
+File openBytes(const char* path) { return open(path, L"rb"); }
 
 File openForWriting(const char* path) {
     if (!isNameable(widened(path).c_str())) {

@@ -2,12 +2,9 @@
 
 #include <cstdio>
 #include <utility>
-#include <xercesc/util/BinFileInputStream.hpp>
 
-#include "zvCharString.h"
 #include "zvXMLText.h"
 
-using xercesc::BinFileInputStream;
 using xercesc::BinInputStream;
 using xercesc::MemoryManager;
 
@@ -53,13 +50,8 @@ zvXMLSource::zvXMLSource(const zvString& systemId, std::unique_ptr<BinInputStrea
                          zvXMLReadGuard& guard, MemoryManager* memory)
     : InputSource(zvXMLChars(systemId).get(), memory), m_pStream(std::move(stream)), m_guard(guard) {}
 
-std::unique_ptr<BinInputStream> zvXMLSource::streamOf(const zvString& path, MemoryManager* memory) {
-    auto stream = std::make_unique<BinFileInputStream>(zvCharString(path).data(), memory);
-    return stream->getIsOpen() ? std::move(stream) : nullptr;
-}
-
 std::unique_ptr<BinInputStream> zvXMLSource::streamOf(zvPlatform::File file) {
-    return std::make_unique<FileStream>(std::move(file));
+    return file == nullptr ? nullptr : std::make_unique<FileStream>(std::move(file));
 }
 
 BinInputStream* zvXMLSource::makeStream() const {

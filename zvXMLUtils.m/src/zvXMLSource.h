@@ -28,11 +28,8 @@ public:
     zvXMLSource(const zvString& systemId, std::unique_ptr<xercesc::BinInputStream> stream,
                 zvXMLReadGuard& guard, xercesc::MemoryManager* memory);
 
-    /// A file, opened by its name in this process's locale: the XML library's own conversion of names may
-    /// know another encoding. Null if it cannot be opened.
-    static std::unique_ptr<xercesc::BinInputStream> streamOf(const zvString& path,
-                                                             xercesc::MemoryManager* memory);
-    /// A file that is open.
+    /// A file that was opened here: the XML library's own conversion of names may know another encoding. Null
+    /// for null.
     static std::unique_ptr<xercesc::BinInputStream> streamOf(zvPlatform::File file);
 
     /// Owned by the caller; null for a source that cannot be opened, and the second time.
