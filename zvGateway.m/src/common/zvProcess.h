@@ -84,6 +84,8 @@ std::FILE* createFile(const std::filesystem::path& file);
 void replaceFile(const std::filesystem::path& from, const std::filesystem::path& to, std::error_code& error);
 /// Copies a file, and replaces another one by the copy.
 void copyFile(const std::filesystem::path& from, const std::filesystem::path& to, std::error_code& error);
+/// What is at a path itself, and not what a link leads to.
+std::filesystem::file_status statusOf(const std::filesystem::path& path, std::error_code& error);
 /// Removes a file or a folder with all that is in it, and links without what they lead to.
 void removeTree(const std::filesystem::path& path, std::error_code& error);
 
