@@ -140,6 +140,8 @@ public:
     SignalsUntouched& operator=(const SignalsUntouched&) = delete;
     ~SignalsUntouched();
 };
+/// Options with which a Java machine leaves them alone, where it installs its own while others are ignored.
+std::vector<std::string> signalOptions();
 /// The number of the signal that was noted; 0 for none.
 int notedSignal();
 

@@ -345,4 +345,6 @@ zvProcess::SignalsUntouched::~SignalsUntouched() {
     setMask(SIG_UNBLOCK);
 }
 
+std::vector<std::string> zvProcess::signalOptions() { return {}; }
+
 int zvProcess::notedSignal() { return noted; }
