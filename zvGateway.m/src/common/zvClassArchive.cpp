@@ -116,7 +116,7 @@ zvClassArchive::State zvClassArchive::look(const fs::path& file) const {
     std::string content;
     std::error_code error;
     const bool isWhole = file.filename().string().rfind(m_strPrefix, 0) == 0 &&
-                         fs::is_regular_file(fs::symlink_status(file, error)) && !isOld(file) &&
+                         fs::is_regular_file(zvProcess::statusOf(file, error)) && !isOld(file) &&
                          readOwn(file, content) && file.filename() == m_strPrefix + hashOf(content) + suffix;
     return !isWhole ? State::missing : content.empty() ? State::unmakable : State::usable;
 }

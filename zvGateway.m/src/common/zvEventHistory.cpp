@@ -83,7 +83,7 @@ bool zvEventHistory::isRecorded(const zvString& key, const zvString& value) {
 }
 
 std::string zvEventHistory::read(const std::filesystem::path& file, Detail detail, std::error_code& error) {
-    const std::filesystem::file_status status = std::filesystem::symlink_status(file, error);
+    const std::filesystem::file_status status = zvProcess::statusOf(file, error);
     if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
         return "it is no regular file";
     }

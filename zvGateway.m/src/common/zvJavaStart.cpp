@@ -96,6 +96,7 @@ zvString zvJavaStart::prepare() {
     zvFSClient::setJavaEndObserver(zvProcessEnd::notify);
     const Choice choice;
     add(choice.own);
+    add(zvProcess::signalOptions());
     if (isDelivered && choice.wantsArchive) {
         const zvClassArchive archive(choice.all());
         add(archive.options());

@@ -84,6 +84,8 @@ std::FILE* createFile(const std::filesystem::path& file);
 void replaceFile(const std::filesystem::path& from, const std::filesystem::path& to, std::error_code& error);
 /// Copies a file, and replaces another one by the copy.
 void copyFile(const std::filesystem::path& from, const std::filesystem::path& to, std::error_code& error);
+/// What is at a path itself, and not what a link leads to.
+std::filesystem::file_status statusOf(const std::filesystem::path& path, std::error_code& error);
 /// Removes a file or a folder with all that is in it, and links without what they lead to.
 void removeTree(const std::filesystem::path& path, std::error_code& error);
 
@@ -138,6 +140,8 @@ public:
     SignalsUntouched& operator=(const SignalsUntouched&) = delete;
     ~SignalsUntouched();
 };
+/// Options with which a Java machine leaves them alone, where it installs its own while others are ignored.
+std::vector<std::string> signalOptions();
 /// The number of the signal that was noted; 0 for none.
 int notedSignal();
 

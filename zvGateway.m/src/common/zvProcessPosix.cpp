@@ -193,6 +193,10 @@ void zvProcess::copyFile(const std::filesystem::path& from, const std::filesyste
     std::filesystem::copy_file(from, to, std::filesystem::copy_options::overwrite_existing, error);
 }
 
+std::filesystem::file_status zvProcess::statusOf(const std::filesystem::path& path, std::error_code& error) {
+    return std::filesystem::symlink_status(path, error);
+}
+
 void zvProcess::removeTree(const std::filesystem::path& path, std::error_code& error) {
     std::filesystem::remove_all(path, error);
 }
@@ -340,5 +344,7 @@ zvProcess::SignalsUntouched::~SignalsUntouched() {
     setHandlers(note);
     setMask(SIG_UNBLOCK);
 }
+
+std::vector<std::string> zvProcess::signalOptions() { return {}; }
 
 int zvProcess::notedSignal() { return noted; }

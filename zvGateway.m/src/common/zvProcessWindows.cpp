@@ -190,8 +190,10 @@ BOOL WINAPI note(DWORD event) {
 
 void zvProcess::noteSignals() { ::SetConsoleCtrlHandler(note, TRUE); }
 
-// The handler that was added last is called first.
 zvProcess::SignalsUntouched::SignalsUntouched() = default;
-zvProcess::SignalsUntouched::~SignalsUntouched() { noteSignals(); }
+zvProcess::SignalsUntouched::~SignalsUntouched() = default;
+
+// The handler that is added last is called first, and Java's ends the process.
+std::vector<std::string> zvProcess::signalOptions() { return {"-Xrs"}; }
 
 int zvProcess::notedSignal() { return noted; }

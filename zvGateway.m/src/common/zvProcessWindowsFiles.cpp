@@ -165,6 +165,16 @@ void zvProcess::copyFile(const std::filesystem::path& from, const std::filesyste
     error = attempt([&] { return ::CopyFileW(from.c_str(), to.c_str(), FALSE) != 0; });
 }
 
+// The standard library does not know links and junctions.
+std::filesystem::file_status zvProcess::statusOf(const std::filesystem::path& path, std::error_code& error) {
+    const DWORD attributes = ::GetFileAttributesW(path.c_str());
+    const bool isLink =
+        attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+    error.clear();
+    return isLink ? std::filesystem::file_status(std::filesystem::file_type::symlink)
+                  : std::filesystem::status(path, error);
+}
+
 // The standard library's function follows links and junctions.
 void zvProcess::removeTree(const std::filesystem::path& path, std::error_code& error) {
     const DWORD attributes = ::GetFileAttributesW(path.c_str());

@@ -102,7 +102,7 @@ void zvFoundEvent::forEachIn(const fs::path& root, zvEventHistory::Detail detail
     std::error_code error;
     for (fs::directory_iterator entry(root, error), end; !error && entry != end; entry.increment(error)) {
         std::error_code ignored;
-        if (entry->symlink_status(ignored).type() == fs::file_type::directory) {
+        if (zvProcess::statusOf(entry->path(), ignored).type() == fs::file_type::directory) {
             visit(in(entry->path(), detail));
         }
     }

@@ -21,8 +21,11 @@ std::uintmax_t sizeOf(const fs::path& directory) {
     for (fs::recursive_directory_iterator entry(directory, error), end; !error && entry != end;
          entry.increment(error)) {
         std::error_code ignored;
-        if (entry->symlink_status(ignored).type() == fs::file_type::regular) {
+        const fs::file_type type = zvProcess::statusOf(entry->path(), ignored).type();
+        if (type == fs::file_type::regular) {
             bytes += entry->file_size(ignored);
+        } else if (type == fs::file_type::symlink) {
+            entry.disable_recursion_pending();
         }
     }
     return bytes;

@@ -30,7 +30,7 @@ bool isPlainName(const zvString& name) {
 // Of the file itself, and not of what a link leads to.
 fs::file_status statusOf(const zvString& file) {
     std::error_code error;
-    return fs::symlink_status(toNativePath(file), error);
+    return zvProcess::statusOf(toNativePath(file), error);
 }
 
 // Whoever may write into the root could lead the event's data elsewhere, or keep it waiting at a pipe.
