@@ -27,7 +27,10 @@ void zvComparisonCommand::declare(CLI::App& program) {
 zvExitCode zvComparisonCommand::run() {
     const zvCaseOutcomes cases(m_cases);
     if (!m_cases.empty()) {
-        m_diff.runCases = [&cases] { return cases.run(); };
+        m_diff.runCases = [&cases] {
+            zvCoverage coverage(*zvCfgConfigManager::getCfgConfigManager());
+            return cases.run(coverage);
+        };
     }
     return m_diff.run();
 }

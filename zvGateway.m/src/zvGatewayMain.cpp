@@ -11,6 +11,7 @@
 #include "zvCommonUtils.h"
 #include "zvComparisonCommand.h"
 #include "zvConsole.h"
+#include "zvDisplayCommand.h"
 #include "zvEvaluateCommand.h"
 #include "zvEventRoad.h"
 #include "zvException.h"
@@ -25,7 +26,6 @@
 #include "zvRoadSession.h"
 #include "zvSecretOptions.h"
 #include "zvSecrets.h"
-#include "zvShowCommand.h"
 #include "zvShownArguments.h"
 
 namespace {
@@ -128,14 +128,6 @@ void goWithoutHome() {
     }
 }
 
-void declareShow(CLI::App& program, zvShowCommand& command) {
-    CLI::App& show = *program.add_subcommand("show", "Prints a configuration for people");
-    show.add_option("file", command.file, "The configuration file")->required();
-    show.add_option("--html", command.page, "Writes it as a page with a search field and pictures instead");
-    show.footer(
-        "Exit code 6 for a configuration that is not read to its end, 2 for a page that cannot be written.");
-}
-
 void declarePrepareJava(CLI::App& program, zvPrepareJavaCommand& command) {
     CLI::App& prepare =
         *program.add_subcommand("prepare-java", "Makes the archive of classes with which Java starts sooner");
@@ -184,8 +176,8 @@ int runProgram(int argc, char** argv) {
     eval.footer("Prints true or false. Exit code 2 for an invalid condition or attribute.");
     zvCheckCommand checking(session);
     checking.declare(program);
-    zvShowCommand showing;
-    declareShow(program, showing);
+    zvDisplayCommand showing;
+    showing.declare(program);
     zvComparisonCommand comparison;
     comparison.declare(program);
     zvOperationCommands operation;

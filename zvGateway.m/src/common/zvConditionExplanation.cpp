@@ -1,6 +1,5 @@
 #include "zvConditionExplanation.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "zvCndConditionFactory.h"
@@ -14,9 +13,6 @@ using zvConditionTree::childrenOf;
 using zvConditionTree::isComparison;
 
 namespace {
-
-// A line indented further than this is no easier to read.
-constexpr std::size_t deepestIndent = 40;
 
 const char* nameOf(zvCndConditionTypeEnum type) {
     return type == zvCndConditionAnd ? "AND" : type == zvCndConditionOr ? "OR" : "NOT";
@@ -104,9 +100,14 @@ std::vector<std::string> zvConditionExplanation::lines() const {
     std::vector<std::string> lines;
     lines.reserve(m_nodes.size());
     for (const Node& node : m_nodes) {
-        lines.push_back(std::string(2 * std::min(node.depth, deepestIndent), ' ') + describe(node));
+        lines.push_back(zvConditionTree::indentOf(node.depth) + describe(node));
     }
     return lines;
+}
+
+zvString zvConditionExplanation::textOf(const zvCndCondition& part) {
+    const zvCndConditionTypeEnum type = part->getConditionType();
+    return isComparison(type) ? zvCndParsingUtils::createConditionString(part) : zvString(nameOf(type));
 }
 
 std::string zvConditionExplanation::describe(const Node& node) const {
@@ -119,7 +120,7 @@ std::string zvConditionExplanation::describe(const Node& node) const {
     if (const char* const secret = secretKeyIn(comparison)) {
         return std::string("{") + secret + "} compared with " + zvSecrets::mask + ": " + outcome;
     }
-    const std::string text = zvConsole::printable(zvCndParsingUtils::createConditionString(node.condition));
+    const std::string text = zvConsole::printable(textOf(node.condition));
     if (!node.outcome.has_value()) {
         return text + ": " + outcome;
     }

@@ -28,6 +28,9 @@ public:
     /// One line for each part, children below their parents in the order of evaluation.
     std::vector<std::string> lines() const;
 
+    /// What a line says of a part without its outcome: a comparison's text, or AND, OR, NOT.
+    static zvString textOf(const zvCndCondition& part);
+
 private:
     void evaluate(const zvCndCondition& condition);
     std::string describe(const Node& node) const;

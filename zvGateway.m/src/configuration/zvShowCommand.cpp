@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <optional>
 #include <system_error>
 
 #include "zvConfigurationListing.h"
@@ -33,6 +34,8 @@ zvExitCode zvShowCommand::run() const {
         std::fprintf(stderr,
                      "zvgateway: lifecycles have no pictures: zvGraphvizPicture.so cannot be loaded\n");
     }
-    zvReplacedFile::write(page, zvConfigurationPage(configuration, title, picture.get()).html());
+    const std::optional<zvTestedCases> cases = runCases ? std::optional(runCases()) : std::nullopt;
+    zvReplacedFile::write(
+        page, zvConfigurationPage(configuration, title, picture.get(), cases ? &*cases : nullptr).html());
     return zvExitCode::success;
 }
