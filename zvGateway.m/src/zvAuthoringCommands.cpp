@@ -30,6 +30,7 @@ void zvAuthoringCommands::declare(CLI::App& program) {
         ->required();
     map.add_flag("--explain", m_map.explain,
                  "Also why: the candidates, every part of their rules, where each attribute comes from");
+    map.add_flag("--json", m_map.asJson, "One JSON document on standard output");
     map.footer(
         "Nothing else is done: no directory is made and nothing is sent. Other arguments are not looked at. "
         "Exit code 6 for a\nconfiguration that cannot be read, 7 for an object that is refused.");

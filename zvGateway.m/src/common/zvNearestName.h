@@ -9,9 +9,10 @@
 /// Finds the name that was meant by one that is not known.
 namespace zvNearestName {
 
-/// For the end of a message, as in `; did you mean "rev"?`: the first of the `known` names that differ from
-/// `name` in the fewest characters, case not counted. Empty when each differs in more than a third of them,
-/// and for a name of more than 64 characters.
+/// The first of the `known` names that differ from `name` in the fewest characters, case not counted. Empty
+/// when each differs in more than a third of them, and for a name of more than 64 characters.
+zvString find(const zvString& name, const std::vector<zvString>& known);
+/// The same for the end of a message, as in `; did you mean "rev"?`. Empty for none.
 std::string suggestion(const zvString& name, const std::vector<zvString>& known);
 
 }  // namespace zvNearestName
