@@ -41,7 +41,8 @@ void zvAuthoringCommands::declare(CLI::App& program) {
         "Exit code 2 for a\nfolder that is not empty or cannot be made.");
     CLI::App& test = *program.add_subcommand("test", "Runs the cases of a configuration");
     test.add_option("files", m_test.files, "Files of cases; - for standard input")->required();
-    test.add_option("--config", m_test.configuration, "The configuration, instead of what the files name");
+    test.add_option("--config", m_test.configuration,
+                    "The configuration, instead of what the files name; - for standard input");
     test.add_option("--junit", m_test.junit, "Writes the outcome for CI servers to this file");
     test.add_flag("--coverage", m_test.showsGaps, "Lists everything that no case reaches, not the first ten");
     test.add_flag("--require-coverage", m_test.requiresCoverage,

@@ -1,6 +1,7 @@
 #include "zvDisplayCommand.h"
 
 #include "zvCaseOutcomes.h"
+#include "zvStandardInput.h"
 
 namespace {
 
@@ -14,7 +15,7 @@ written.)";
 
 void zvDisplayCommand::declare(CLI::App& program) {
     CLI::App& show = *program.add_subcommand("show", "Prints a configuration for people");
-    show.add_option("file", m_show.file, "The configuration file")->required();
+    show.add_option("file", m_show.file, "The configuration file; - for standard input")->required();
     CLI::Option* const page = show.add_option("--html", m_show.page,
                                               "Writes it as a page with a search field and pictures instead");
     show.add_option("--cases", m_cases, "Files of cases: the page marks what none of them reaches")
@@ -24,6 +25,9 @@ void zvDisplayCommand::declare(CLI::App& program) {
 }
 
 zvExitCode zvDisplayCommand::run() {
+    std::vector<std::string> inputs = m_cases;
+    inputs.push_back(m_show.file);
+    zvStandardInput::requireOnceAtMost(inputs);
     const zvCaseOutcomes cases(m_cases);
     if (!m_cases.empty()) {
         m_show.runCases = [&cases] {

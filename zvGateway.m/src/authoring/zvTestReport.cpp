@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "zvConsole.h"
+#include "zvStandardInput.h"
 #include "zvUtf8.h"
 
 using nlohmann::ordered_json;
@@ -14,7 +15,7 @@ namespace {
 constexpr std::size_t gapsShown = 10;
 
 std::string shownFile(const std::string& name) {
-    return name == "-" ? "standard input" : zvConsole::printable(name.c_str());
+    return zvConsole::printable(zvStandardInput::nameOf(name).c_str());
 }
 
 // What is printable is in the process's locale.

@@ -17,7 +17,7 @@ zvExitCode zvShowCommand::run() const {
     const zvCfgConfigManager& configuration = *zvCfgConfigManager::getCfgConfigManager();
     const std::string system = zvConsole::printable(reading.pdmSystemName());
     if (page.empty()) {
-        std::printf("%s%s%s\n", zvConsole::printable(file.c_str()).c_str(), system.empty() ? "" : "  to  ",
+        std::printf("%s%s%s\n", reading.input().shownName().c_str(), system.empty() ? "" : "  to  ",
                     system.c_str());
         zvConfigurationListing(configuration).print();
         return zvExitCode::success;
