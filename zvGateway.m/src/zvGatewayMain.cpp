@@ -22,6 +22,7 @@
 #include "zvOperationCommands.h"
 #include "zvPrepareJavaCommand.h"
 #include "zvProcess.h"
+#include "zvProcessEnd.h"
 #include "zvRoadReport.h"
 #include "zvRoadSession.h"
 #include "zvSecretOptions.h"
@@ -100,6 +101,12 @@ zvExitCode takeEvent(zvRoadSession& session, std::vector<std::string> arguments)
     }
     zvProcess::noteSignals();
     zvEventRoad road(session, std::move(arguments));
+    const zvProcessEnd unexpected([&road] {
+        const zvEventOutcome& outcome = road.outcome();
+        zvConsole::outcome(outcome.text(), true);
+        return static_cast<zvExitCode>(
+            fail({outcome.exitCode, outcome.step, outcome.subject, outcome.reason}));
+    });
     try {
         road.run();
     } catch (const zvProgramFailure&) {

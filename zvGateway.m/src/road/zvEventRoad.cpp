@@ -1,8 +1,5 @@
 #include "zvEventRoad.h"
 
-#include <cstdio>
-#include <cstdlib>
-
 #include "zvArgumentsStep.h"
 #include "zvAttachmentsStep.h"
 #include "zvConfigurationStep.h"
@@ -56,7 +53,7 @@ void zvEventRoad::run() {
     zvShownArguments::setEvent(m_event.commandLine);
     m_event.eventId = eventIdOf(m_event.commandLine);
     m_event.logContext.setEventId(m_event.eventId);
-    const zvProcessEnd unexpected([this] { endWithProcess(); });
+    const zvProcessEnd unexpected([this] { return endWithProcess(); });
     try {
         walk();
     } catch (const zvProgramFailure& failure) {
@@ -66,18 +63,13 @@ void zvEventRoad::run() {
     end(nullptr);
 }
 
-// Called within a step, by a library that ends the process. Nothing of it has to be cleaned up.
-void zvEventRoad::endWithProcess() {
+// Called within a step, by a library that ends the process.
+zvExitCode zvEventRoad::endWithProcess() {
     const zvProgramFailure failure = m_event.report.stop(
         "Java",
         "the Java machine ends the process; its own words stand above, or in its file hs_err_pid*.log");
     end(&failure);
-    zvConsole::outcome(m_outcome.text(), true);
-    std::fprintf(stderr, "zvgateway: %s: %s: %s\n", failure.step.c_str(), failure.subject.c_str(),
-                 failure.reason.c_str());
-    zvConsole::flush();
-    std::fflush(nullptr);
-    std::_Exit(static_cast<int>(failure.exitCode));
+    return failure.exitCode;
 }
 
 void zvEventRoad::walk() {
