@@ -7,6 +7,7 @@
 #include "zvEventId.h"
 #include "zvGatewayHomeStep.h"
 #include "zvInterruption.h"
+#include "zvJavaStart.h"
 #include "zvMappingStep.h"
 #include "zvPostStep.h"
 #include "zvProcessEnd.h"
@@ -65,9 +66,7 @@ void zvEventRoad::run() {
 
 // Called within a step, by a library that ends the process.
 zvExitCode zvEventRoad::endWithProcess() {
-    const zvProgramFailure failure = m_event.report.stop(
-        "Java",
-        "the Java machine ends the process; its own words stand above, or in its file hs_err_pid*.log");
+    const zvProgramFailure failure = m_event.report.stop("Java", zvJavaStart::endReason);
     end(&failure);
     return failure.exitCode;
 }
