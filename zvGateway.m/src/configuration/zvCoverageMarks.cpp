@@ -76,9 +76,9 @@ std::string zvCoverageMarks::ofRule(const zvCfgObject& object) const {
 }
 
 std::string zvCoverageMarks::ofAttribute(const zvCfgAttribute& attribute) const {
-    std::string marks;
+    std::string all;
     for (const zvCoverageSummary::Gap* const gap : gapsOf(&attribute)) {
-        marks += (marks.empty() ? "" : "<br>") + mark("not reached: " + gap->what);
+        all += (all.empty() ? "not reached: " : ", ") + gap->what;
     }
-    return marks;
+    return all.empty() ? all : mark(all);
 }
