@@ -2,6 +2,7 @@
 
 #include "zvCfgTransitionPath.h"
 #include "zvConsole.h"
+#include "zvNearestName.h"
 
 using zvConsole::printable;
 
@@ -80,9 +81,8 @@ void zvMappingReport::addUnmapped(Facts& facts) const {
         if (value.isKnown) {
             facts.emplace_back("without a mapping", name);
         } else {
-            const std::string meant =
-                value.meant.empty() ? "" : "; did you mean \"" + printable(value.meant) + "\"?";
-            facts.emplace_back("warning", "the object has no attribute \"" + name + "\"" + meant);
+            facts.emplace_back("warning", "the object has no attribute \"" + name + '"' +
+                                              zvNearestName::question(value.meant));
         }
     }
 }

@@ -48,7 +48,10 @@ zvString zvNearestName::find(const zvString& name, const std::vector<zvString>& 
     return nearest == nullptr ? zvString() : *nearest;
 }
 
+std::string zvNearestName::question(const zvString& found) {
+    return found.empty() ? "" : "; did you mean \"" + zvConsole::printable(found) + "\"?";
+}
+
 std::string zvNearestName::suggestion(const zvString& name, const std::vector<zvString>& known) {
-    const zvString nearest = find(name, known);
-    return nearest.empty() ? "" : "; did you mean \"" + zvConsole::printable(nearest) + "\"?";
+    return question(find(name, known));
 }

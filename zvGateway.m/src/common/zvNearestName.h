@@ -12,7 +12,9 @@ namespace zvNearestName {
 /// The first of the `known` names that differ from `name` in the fewest characters, case not counted. Empty
 /// when each differs in more than a third of them, and for a name of more than 64 characters.
 zvString find(const zvString& name, const std::vector<zvString>& known);
-/// The same for the end of a message, as in `; did you mean "rev"?`. Empty for none.
+/// A name that was found for the end of a message, as in `; did you mean "rev"?`. Empty for none.
+std::string question(const zvString& found);
+/// Both.
 std::string suggestion(const zvString& name, const std::vector<zvString>& known);
 
 }  // namespace zvNearestName
