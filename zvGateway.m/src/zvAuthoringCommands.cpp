@@ -30,6 +30,7 @@ void zvAuthoringCommands::declare(CLI::App& program) {
         ->required();
     map.add_flag("--explain", m_map.explain,
                  "Also why: the candidates, every part of their rules, where each attribute comes from");
+    map.add_flag("--json", m_map.asJson, "One JSON document on standard output");
     map.footer(
         "Nothing else is done: no directory is made and nothing is sent. Other arguments are not looked at. "
         "Exit code 6 for a\nconfiguration that cannot be read, 7 for an object that is refused.");
@@ -40,7 +41,8 @@ void zvAuthoringCommands::declare(CLI::App& program) {
         "Exit code 2 for a\nfolder that is not empty or cannot be made.");
     CLI::App& test = *program.add_subcommand("test", "Runs the cases of a configuration");
     test.add_option("files", m_test.files, "Files of cases; - for standard input")->required();
-    test.add_option("--config", m_test.configuration, "The configuration, instead of what the files name");
+    test.add_option("--config", m_test.configuration,
+                    "The configuration, instead of what the files name; - for standard input");
     test.add_option("--junit", m_test.junit, "Writes the outcome for CI servers to this file");
     test.add_flag("--coverage", m_test.showsGaps, "Lists everything that no case reaches, not the first ten");
     test.add_flag("--require-coverage", m_test.requiresCoverage,

@@ -3,6 +3,7 @@
 #include "zvCheckReport.h"
 #include "zvConfigurationFileCheck.h"
 #include "zvHomeCheck.h"
+#include "zvProcessEnd.h"
 #include "zvSecretOptions.h"
 
 namespace {
@@ -44,6 +45,7 @@ void zvCheckCommand::declare(CLI::App& program) {
 
 zvExitCode zvCheckCommand::run() {
     zvCheckReport report(m_bJson, m_bStrict);
+    const zvProcessEnd unexpected([&report] { return report.finish(); });
     if (looksAtHome()) {
         checkHome(report);
     }

@@ -1,6 +1,7 @@
 #include "zvComparisonCommand.h"
 
 #include "zvCaseOutcomes.h"
+#include "zvStandardInput.h"
 
 namespace {
 
@@ -16,8 +17,10 @@ that cannot be read and a page that cannot be written.)";
 
 void zvComparisonCommand::declare(CLI::App& program) {
     CLI::App& diff = *program.add_subcommand("diff", "Says what differs between two configurations");
-    diff.add_option("old", m_diff.before, "The configuration file that is in use")->required();
-    diff.add_option("new", m_diff.after, "The configuration file that takes its place")->required();
+    diff.add_option("old", m_diff.before, "The configuration file that is in use; - for standard input")
+        ->required();
+    diff.add_option("new", m_diff.after, "The configuration file that takes its place; - for standard input")
+        ->required();
     diff.add_option("--cases", m_cases, "Files of cases: also says whose outcome changes")->take_all();
     diff.add_flag("--json", m_diff.asJson, "One JSON document on standard output");
     diff.add_option("--html", m_diff.page, "Writes a page, with both side by side, instead");
@@ -25,9 +28,15 @@ void zvComparisonCommand::declare(CLI::App& program) {
 }
 
 zvExitCode zvComparisonCommand::run() {
+    std::vector<std::string> inputs = m_cases;
+    inputs.insert(inputs.end(), {m_diff.before, m_diff.after});
+    zvStandardInput::requireOnceAtMost(inputs);
     const zvCaseOutcomes cases(m_cases);
     if (!m_cases.empty()) {
-        m_diff.runCases = [&cases] { return cases.run(); };
+        m_diff.runCases = [&cases] {
+            zvCoverage coverage(*zvCfgConfigManager::getCfgConfigManager());
+            return cases.run(coverage);
+        };
     }
     return m_diff.run();
 }

@@ -11,6 +11,7 @@
 #include "zvCommonUtils.h"
 #include "zvComparisonCommand.h"
 #include "zvConsole.h"
+#include "zvDisplayCommand.h"
 #include "zvEvaluateCommand.h"
 #include "zvEventRoad.h"
 #include "zvException.h"
@@ -21,11 +22,11 @@
 #include "zvOperationCommands.h"
 #include "zvPrepareJavaCommand.h"
 #include "zvProcess.h"
+#include "zvProcessEnd.h"
 #include "zvRoadReport.h"
 #include "zvRoadSession.h"
 #include "zvSecretOptions.h"
 #include "zvSecrets.h"
-#include "zvShowCommand.h"
 #include "zvShownArguments.h"
 
 namespace {
@@ -100,6 +101,12 @@ zvExitCode takeEvent(zvRoadSession& session, std::vector<std::string> arguments)
     }
     zvProcess::noteSignals();
     zvEventRoad road(session, std::move(arguments));
+    const zvProcessEnd unexpected([&road] {
+        const zvEventOutcome& outcome = road.outcome();
+        zvConsole::outcome(outcome.text(), true);
+        return static_cast<zvExitCode>(
+            fail({outcome.exitCode, outcome.step, outcome.subject, outcome.reason}));
+    });
     try {
         road.run();
     } catch (const zvProgramFailure&) {
@@ -126,14 +133,6 @@ void goWithoutHome() {
     if (zvCommonUtils::getEnvironmentalVariable(variable).empty()) {
         zvProcess::setEnvironment(zvCharString(variable).data(), "no-gateway-home");
     }
-}
-
-void declareShow(CLI::App& program, zvShowCommand& command) {
-    CLI::App& show = *program.add_subcommand("show", "Prints a configuration for people");
-    show.add_option("file", command.file, "The configuration file")->required();
-    show.add_option("--html", command.page, "Writes it as a page with a search field and pictures instead");
-    show.footer(
-        "Exit code 6 for a configuration that is not read to its end, 2 for a page that cannot be written.");
 }
 
 void declarePrepareJava(CLI::App& program, zvPrepareJavaCommand& command) {
@@ -185,8 +184,8 @@ int runProgram(const std::vector<std::string>& arguments) {
     eval.footer("Prints true or false. Exit code 2 for an invalid condition or attribute.");
     zvCheckCommand checking(session);
     checking.declare(program);
-    zvShowCommand showing;
-    declareShow(program, showing);
+    zvDisplayCommand showing;
+    showing.declare(program);
     zvComparisonCommand comparison;
     comparison.declare(program);
     zvOperationCommands operation;

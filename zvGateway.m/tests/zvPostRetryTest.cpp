@@ -80,9 +80,7 @@ TEST(zvPostRetryTest, TheBackOffDoublesAndHasJitter) {
     }
 }
 
-class zvPostRetrySettingsTest : public zvLoggedTest {};
-
-TEST_F(zvPostRetrySettingsTest, SettingsAreReadOrTold) {
+TEST(zvPostRetryTest, SettingsAreReadOrTold) {
     const struct {
         const char* lines;
         int retries;
@@ -97,8 +95,7 @@ TEST_F(zvPostRetrySettingsTest, SettingsAreReadOrTold) {
                  {"http-retries=2x\nhttp-retry-delay=nan\n", 5, 1, 2},
                  {"http-retries= \nhttp-retry-delay=1e3\n", 5, 1, 2}};
     for (const auto& [lines, retries, delay, count] : cases) {
-        m_folder.write("config/client-config.ini", lines);
-        zvClientSettings settings;
+        zvClientSettings settings{zvClientConfigFile(lines)};
         const zvPostRetry retry = zvPostRetry::read(settings);
         EXPECT_EQ(retry.retries, retries) << lines;
         EXPECT_EQ(retry.delay, delay) << lines;

@@ -79,6 +79,15 @@ TEST_F(zvXMLHostileTest, RefusesWhatExplodes) {
     }
 }
 
+// A large document may take the memory for it.
+TEST_F(zvXMLHostileTest, LimitsTheTextOfEntities) {
+    const std::string entity = "<!ENTITY e '" + std::string(16'000, 'x') + "'>";
+    const std::string comment = "<r><!--" + std::string(1'000'000, '.') + "-->";
+    const std::string expected = "XML document refused: parser has encountered more than '2000' entity ";
+    EXPECT_EQ(32'000'007U, outcome(document(entity, comment + repeated("&e;", 2'000) + "</r>")).size());
+    EXPECT_EQ(0U, outcome(document(entity, comment + repeated("&e;", 2'001) + "</r>")).find(expected));
+}
+
 TEST_F(zvXMLHostileTest, EndlessErrorsAreCutOff) {
     const std::string huge(200'000, 't');
     EXPECT_NE("loaded ",

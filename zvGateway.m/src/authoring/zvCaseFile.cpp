@@ -9,23 +9,25 @@
 #include "zvFailure.h"
 #include "zvNativePath.h"
 #include "zvProcess.h"
+#include "zvStandardInput.h"
 #include "zvYamlReader.h"
 
 namespace {
 
-constexpr int standardInput = 0;
 constexpr std::size_t longest = 256'000'000;
 
 std::string contentOf(const std::string& name) {
     std::error_code error;
     std::string content;
     const std::filesystem::path file = toNativePath(name.c_str());
-    if (name != "-" && std::filesystem::exists(file, error) &&
+    const bool isStandardInput = zvStandardInput::isMeantBy(name);
+    if (!isStandardInput && std::filesystem::exists(file, error) &&
         !std::filesystem::is_regular_file(file, error)) {
         throw zvProgramFailure{zvExitCode::usage, "cases", zvConsole::printable(name.c_str()),
                                "it is no regular file"};
     }
-    const int descriptor = name == "-" ? standardInput : zvProcess::openForReading(file, error);
+    const int descriptor =
+        isStandardInput ? zvStandardInput::descriptor : zvProcess::openForReading(file, error);
     if (descriptor >= 0) {
         error = zvProcess::readToEnd(descriptor, longest, content);
     }
@@ -76,7 +78,7 @@ void zvCaseFile::requireFaultless() const {
     if (faults.areNone()) {
         return;
     }
-    const std::string shown = name == "-" ? "standard input" : zvConsole::printable(name.c_str());
+    const std::string shown = zvConsole::printable(zvStandardInput::nameOf(name).c_str());
     for (const zvCaseFault& fault : faults.first()) {
         std::string line = shown;
         for (const int number : {fault.position.line, fault.position.column}) {

@@ -10,8 +10,7 @@ zvCaseOutcomes::zvCaseOutcomes(const std::vector<std::string>& files) {
     }
 }
 
-std::vector<zvCaseOutcome> zvCaseOutcomes::run() const {
-    zvCoverage coverage(*zvCfgConfigManager::getCfgConfigManager());
+std::vector<zvCaseOutcome> zvCaseOutcomes::run(zvCoverage& coverage) const {
     std::vector<zvCaseOutcome> outcomes;
     for (const zvCaseFile& file : m_files) {
         for (const zvCase& test : file.cases) {
@@ -21,7 +20,8 @@ std::vector<zvCaseOutcome> zvCaseOutcomes::run() const {
             }
             outcomes.push_back(
                 {"case \"" + zvCaseRun::nameOf(test) + "\" of " + zvConsole::printable(file.name.c_str()),
-                 test.line, texts.empty() ? "passed" : "failed: " + zvConsole::joined(texts, "; ")});
+                 test.line, texts.empty(),
+                 texts.empty() ? "passed" : "failed: " + zvConsole::joined(texts, "; ")});
         }
     }
     return outcomes;

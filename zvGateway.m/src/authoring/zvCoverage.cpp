@@ -18,6 +18,8 @@ constexpr const char* systems[] = {"local", "remote"};
 
 std::string quoted(const zvString& text) { return '"' + printable(text) + '"'; }
 
+std::string nameOf(const zvCfgObject& object) { return printable(zvCfgDescription::ofObject(object)); }
+
 }  // namespace
 
 zvCoverage::Trace& zvCoverage::traceOf(const zvCfgObject& object) {
@@ -81,7 +83,7 @@ class zvCoverage::Counting {
 public:
     explicit Counting(const zvCoverage& coverage) : m_coverage(coverage) {}
 
-    Summary summary() {
+    zvCoverageSummary summary() {
         const zvCfgConfigManager& configuration = m_coverage.m_configuration;
         for (int i = 0; i < configuration.numObjects(); ++i) {
             count(*configuration.getObjectAt(i));
@@ -97,13 +99,16 @@ public:
     }
 
 private:
-    bool add(Count& count, bool isReached, int line, const std::string& text) {
+    using Gap = zvCoverageSummary::Gap;
+    using Count = zvCoverageSummary::Count;
+
+    void add(Count& count, bool isReached, Gap gap) {
         ++count.total;
-        count.reached += isReached ? 1U : 0U;
-        if (!isReached) {
-            m_gaps.push_back({line, text});
+        if (isReached) {
+            ++count.reached;
+        } else {
+            m_gaps.push_back(std::move(gap));
         }
-        return isReached;
     }
 
     void count(const zvCfgObject& object) {
@@ -113,8 +118,9 @@ private:
         const Directions directions = reachable(object);
         for (std::size_t i = 0; i < directions.size(); ++i) {
             if (directions[i]) {
-                add(m_objects, trace.taken[i], object.getPosition().line,
-                    printable(zvCfgDescription::ofObject(object)) + ": from the " + systems[i] + " system");
+                add(m_objects, trace.taken[i],
+                    {object.getPosition().line, nameOf(object),
+                     std::string("from the ") + systems[i] + " system", &object, std::nullopt});
             }
         }
         countRule(object, trace);
@@ -149,28 +155,29 @@ private:
             const zvCndConditionTypeEnum type = node.condition->getConditionType();
             isOperand.resize(node.depth + 1);
             if (node.depth == 0 || isOperand[node.depth]) {
-                countPart(object, node, i < trace.outcomes.size() ? trace.outcomes[i] : Directions{});
+                countPart(object, i, node, i < trace.outcomes.size() ? trace.outcomes[i] : Directions{});
             }
             isOperand.push_back(type == zvCndConditionAnd || type == zvCndConditionOr);
         }
     }
 
-    void countPart(const zvCfgObject& object, const zvConditionExplanation::Node& node,
+    void countPart(const zvCfgObject& object, std::size_t number, const zvConditionExplanation::Node& node,
                    const std::array<bool, 2>& outcomes) {
         const bool isRule = node.depth == 0;
-        const std::string name = printable(zvCfgDescription::ofObject(object)) + ": ";
-        for (std::size_t i = 0; i < outcomes.size(); ++i) {
-            const char* const outcome = i == 0 ? "false" : "true";
-            ++(isRule ? m_rules : m_branches).total;
-            (isRule ? m_rules : m_branches).reached += outcomes[i] ? 1U : 0U;
-            if (!outcomes[i]) {
-                m_gaps.push_back(
-                    {object.getPosition().line,
-                     name +
-                         (isRule ? "the mapping rule"
-                                 : printable(zvCndParsingUtils::createConditionString(node.condition))) +
-                         " is never " + outcome});
+        for (const bool outcome : {false, true}) {
+            Count& count = isRule ? m_rules : m_branches;
+            ++count.total;
+            if (outcomes[outcome ? 1 : 0]) {
+                ++count.reached;
+                continue;
             }
+            // Made for a gap alone: the text of a large part is long.
+            const std::string part =
+                isRule ? "the mapping rule"
+                       : printable(zvCndParsingUtils::createConditionString(node.condition));
+            m_gaps.push_back({object.getPosition().line, nameOf(object),
+                              part + " is never " + (outcome ? "true" : "false"), &object,
+                              zvCoverageSummary::MissingOutcome{number, outcome}});
         }
     }
 
@@ -179,26 +186,28 @@ private:
             const zvCfgAttribute& attribute = *object.getAttribute(i);
             const auto at = static_cast<std::size_t>(i);
             const bool isTraced = at < trace.carried.size();
-            const std::string name =
-                printable(zvCfgDescription::ofObject(object)) + ", " + quoted(attribute.anyName());
+            const std::string name = nameOf(object) + ", " + quoted(attribute.anyName());
             const int line = attribute.getPosition().line;
             const bool isSent = !attribute.localName().empty() && !attribute.remoteName().empty();
             for (std::size_t d = 0; isSent && d < directions.size(); ++d) {
                 if (directions[d]) {
-                    add(m_attributes, isTraced && trace.carried[at][d], line,
-                        name + ": no value from the " + systems[d] + " system");
+                    add(m_attributes, isTraced && trace.carried[at][d],
+                        {line, name, std::string("no value from the ") + systems[d] + " system", &attribute,
+                         std::nullopt});
                 }
             }
             if (attribute.isDefaultValueSpecified() && (directions[0] || directions[1])) {
-                add(m_defaults, isTraced && trace.defaulted[at], line, name + ": the default");
+                add(m_defaults, isTraced && trace.defaulted[at],
+                    {line, name, "the default", &attribute, std::nullopt});
             }
         }
     }
 
     void count(const zvCfgFile& file) {
         file.forEachFileExtension([&](const zvCfgFileExtension& extension) {
-            add(m_extensions, m_coverage.m_extensions.count(&extension) > 0, file.getPosition().line,
-                printable(zvCfgDescription::ofObject(file)) + ": extension " + quoted(extension.getName()));
+            add(m_extensions, m_coverage.m_extensions.count(&extension) > 0,
+                {file.getPosition().line, nameOf(file), "extension " + quoted(extension.getName()),
+                 &extension, std::nullopt});
         });
     }
 
@@ -207,10 +216,12 @@ private:
             const zvCfgLcmState& state = *lifecycle.getStateAt(i);
             for (int k = 0; k < state.numOutgoingTransitions(); ++k) {
                 const zvCfgTransition& transition = *state.getOutgoingTransition(k);
-                add(m_transitions, m_coverage.m_transitions.count(&transition) > 0, state.getPosition().line,
-                    printable(zvCfgDescription::ofLifecycle(lifecycle.getObjectType())) + ": " +
-                        printable(zvCfgTransition::typeName(transition.getType())) + " from " +
-                        quoted(state.localName()) + " to " + quoted(transition.toState()));
+                add(m_transitions, m_coverage.m_transitions.count(&transition) > 0,
+                    {state.getPosition().line,
+                     printable(zvCfgDescription::ofLifecycle(lifecycle.getObjectType())),
+                     printable(zvCfgTransition::typeName(transition.getType())) + " from " +
+                         quoted(state.localName()) + " to " + quoted(transition.toState()),
+                     &transition, std::nullopt});
             }
         }
     }
@@ -225,7 +236,7 @@ private:
     Count m_defaults{"defaults"};
     Count m_extensions{"file types"};
     Count m_transitions{"transitions"};
-    std::vector<Gap> m_gaps;
+    std::vector<zvCoverageSummary::Gap> m_gaps;
 };
 
-zvCoverage::Summary zvCoverage::summary() const { return Counting(*this).summary(); }
+zvCoverageSummary zvCoverage::summary() const { return Counting(*this).summary(); }

@@ -3,12 +3,12 @@
 
 #include <array>
 #include <set>
-#include <string>
 #include <unordered_map>
 #include <vector>
 
 #include "zvCfgConfigManager.h"
 #include "zvCfgTransition.h"
+#include "zvCoverageSummary.h"
 #include "zvMappingTrial.h"
 
 /// Which parts of a configuration the cases have reached.
@@ -21,21 +21,7 @@ public:
     void note(const zvCfgTransition& transition) { m_transitions.insert(&transition); }
     void note(const zvCfgFileExtension& extension) { m_extensions.insert(&extension); }
 
-    struct Count {
-        const char* what = "";
-        std::size_t reached = 0;
-        std::size_t total = 0;
-    };
-    /// What no case reaches. The text is printable.
-    struct Gap {
-        int line;
-        std::string text;
-    };
-    struct Summary {
-        std::vector<Count> counts;
-        std::vector<Gap> gaps;
-    };
-    Summary summary() const;
+    zvCoverageSummary summary() const;
 
 private:
     /// By direction: from the local system, from the remote one.

@@ -4,6 +4,7 @@
 #include "zvCommonUtils.h"
 #include "zvConfigurationReading.h"
 #include "zvConsole.h"
+#include "zvMappingJson.h"
 #include "zvMappingReport.h"
 #include "zvObjectAttribute.h"
 
@@ -45,6 +46,29 @@ struct Request {
             *place = value;
         }
     }
+
+    // The way that is asked for; of an object that is refused there is none.
+    std::optional<zvLifecycleWay> wayOf(const zvMappingTrial& trial) const {
+        return (fromState.empty() && toState.empty()) || !trial.refusal().empty()
+                   ? std::nullopt
+                   : std::optional<zvLifecycleWay>(std::in_place, trial.mapping().object(), fromState,
+                                                   toState);
+    }
+
+    std::optional<zvProgramFailure> failureOf(const zvMappingTrial& trial,
+                                              const std::optional<zvLifecycleWay>& way) const {
+        const auto failure = [](const std::string& subject, const std::string& reason) {
+            return zvProgramFailure{zvExitCode::mapping, "mapping", subject, reason};
+        };
+        if (!trial.refusal().empty()) {
+            return failure(zvConsole::printable(object.type()), trial.refusal());
+        }
+        if (way && !way->exists()) {
+            return failure(zvConsole::printable(fromState) + " -> " + zvConsole::printable(toState),
+                           "the object's lifecycle has no such way");
+        }
+        return std::nullopt;
+    }
 };
 
 std::string configurationOf(const Request& request) {
@@ -67,22 +91,29 @@ zvExitCode zvMapCommand::run() const {
     zvConfigurationReading(configurationOf(request), zvConfigurationReading::InvalidRule::endsTheParse)
         .requireComplete();
     const zvMappingTrial trial(request.object);
+    const std::optional<zvLifecycleWay> way = request.wayOf(trial);
+    const std::optional<zvProgramFailure> failure = request.failureOf(trial, way);
+    if (asJson) {
+        zvConsole::print(zvMappingJson::of(trial, way, explain, failure));
+    } else {
+        print(trial, way);
+    }
+    if (failure) {
+        throw zvProgramFailure(*failure);
+    }
+    return zvExitCode::success;
+}
+
+void zvMapCommand::print(const zvMappingTrial& trial, const std::optional<zvLifecycleWay>& way) const {
     const zvMappingReport report(trial);
     zvConsole::step("mapping");
     if (explain) {
         zvMappingReport::print(report.candidates());
     }
-    if (!trial.refusal().empty()) {
-        throw zvProgramFailure{zvExitCode::mapping, "mapping", zvConsole::printable(request.object.type()),
-                               trial.refusal()};
+    if (trial.refusal().empty()) {
+        zvMappingReport::print(report.object(explain));
     }
-    zvMappingReport::print(report.object(explain));
-    if ((!request.fromState.empty() || !request.toState.empty()) &&
-        !zvMappingReport::printWay(trial.mapping().object(), request.fromState, request.toState)) {
-        throw zvProgramFailure{
-            zvExitCode::mapping, "mapping",
-            zvConsole::printable(request.fromState) + " -> " + zvConsole::printable(request.toState),
-            "the object's lifecycle has no such way"};
+    if (way && way->exists()) {
+        zvMappingReport::print(*way);
     }
-    return zvExitCode::success;
 }

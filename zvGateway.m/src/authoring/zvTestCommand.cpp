@@ -5,8 +5,12 @@
 
 #include "zvConfigurationReading.h"
 #include "zvConsole.h"
+#include "zvStandardInput.h"
 
 zvExitCode zvTestCommand::run() const {
+    std::vector<std::string> inputs = files;
+    inputs.push_back(configuration);
+    zvStandardInput::requireOnceAtMost(inputs);
     const std::vector<zvCaseFile> read = readFiles();
     zvTestReport report(asJson, showsGaps);
     std::vector<std::string> done;

@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "zvConsole.h"
+#include "zvStandardInput.h"
 #include "zvUtf8.h"
 
 using nlohmann::ordered_json;
@@ -14,7 +15,7 @@ namespace {
 constexpr std::size_t gapsShown = 10;
 
 std::string shownFile(const std::string& name) {
-    return name == "-" ? "standard input" : zvConsole::printable(name.c_str());
+    return zvConsole::printable(zvStandardInput::nameOf(name).c_str());
 }
 
 // What is printable is in the process's locale.
@@ -60,14 +61,14 @@ void zvTestReport::endFile() {
     }
 }
 
-void zvTestReport::addCoverage(const std::string& configuration, zvCoverage::Summary summary) {
+void zvTestReport::addCoverage(const std::string& configuration, zvCoverageSummary summary) {
     m_coverage.push_back({configuration, std::move(summary)});
     if (m_bJson) {
         return;
     }
-    const zvCoverage::Summary& added = m_coverage.back().summary;
+    const zvCoverageSummary& added = m_coverage.back().summary;
     std::string text = "coverage of " + zvConsole::printable(configuration.c_str()) + "\n";
-    for (const zvCoverage::Count& count : added.counts) {
+    for (const zvCoverageSummary::Count& count : added.counts) {
         char line[80];
         std::snprintf(line, sizeof line, "  %-12s %zu of %zu\n", count.what, count.reached, count.total);
         text += count.total == 0 ? "" : line;
@@ -75,7 +76,7 @@ void zvTestReport::addCoverage(const std::string& configuration, zvCoverage::Sum
     const std::size_t shown = m_bShowsGaps ? added.gaps.size() : std::min(gapsShown, added.gaps.size());
     for (std::size_t i = 0; i < shown; ++i) {
         text +=
-            "  not reached: line " + std::to_string(added.gaps[i].line) + ": " + added.gaps[i].text + "\n";
+            "  not reached: line " + std::to_string(added.gaps[i].line) + ": " + added.gaps[i].text() + "\n";
     }
     if (shown < added.gaps.size()) {
         text += "  and " + std::to_string(added.gaps.size() - shown) + " more (--coverage lists them)\n";
@@ -127,12 +128,12 @@ void zvTestReport::printJson(int exitCode) const {
     }
     for (const Coverage& coverage : m_coverage) {
         ordered_json member = {{"configuration", toUtf8(coverage.configuration)}};
-        for (const zvCoverage::Count& count : coverage.summary.counts) {
+        for (const zvCoverageSummary::Count& count : coverage.summary.counts) {
             member[count.what] = {{"reached", count.reached}, {"total", count.total}};
         }
         member["notReached"] = ordered_json::array();
-        for (const zvCoverage::Gap& gap : coverage.summary.gaps) {
-            member["notReached"].push_back({{"line", gap.line}, {"text", toUtf8(gap.text)}});
+        for (const zvCoverageSummary::Gap& gap : coverage.summary.gaps) {
+            member["notReached"].push_back({{"line", gap.line}, {"text", toUtf8(gap.text())}});
         }
         json["coverage"].push_back(std::move(member));
     }

@@ -18,7 +18,7 @@ public:
     void beginFile(const std::string& name);
     void add(const zvCase& test, const zvCaseResult& result, std::chrono::duration<double> time);
     void endFile();
-    void addCoverage(const std::string& configuration, zvCoverage::Summary summary);
+    void addCoverage(const std::string& configuration, zvCoverageSummary summary);
     /// Tells the end, with the exit code of the run.
     void finish(int exitCode) const;
     /// The run in JUnit's form.
@@ -41,7 +41,7 @@ private:
     };
     struct Coverage {
         std::string configuration;
-        zvCoverage::Summary summary;
+        zvCoverageSummary summary;
     };
 
     void printJson(int exitCode) const;

@@ -8,6 +8,7 @@ struct zvCaseOutcome {
     /// As in `case "a part in work"`, with its file.
     std::string title;
     int line = 0;
+    bool isPassed = false;
     /// "passed", or what differs from what the case expects.
     std::string text;
 };

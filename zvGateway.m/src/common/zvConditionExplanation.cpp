@@ -1,6 +1,5 @@
 #include "zvConditionExplanation.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "zvCndConditionFactory.h"
@@ -15,22 +14,23 @@ using zvConditionTree::isComparison;
 
 namespace {
 
-// A line indented further than this is no easier to read.
-constexpr std::size_t deepestIndent = 40;
-
 const char* nameOf(zvCndConditionTypeEnum type) {
     return type == zvCndConditionAnd ? "AND" : type == zvCndConditionOr ? "OR" : "NOT";
 }
 
-// The operand's value as the comparison sees it.
-std::string valueOf(const zvCndOperand& operand, const zvCndContext& context) {
+// The operand's value as the comparison sees it; none of a missing attribute.
+std::optional<zvString> valueOf(const zvCndOperand& operand, const zvCndContext& context) {
     if (operand.getValueType() == zvOperandConstant) {
-        return "'" + zvConsole::printable(operand.getValue().getValue()) + "'";
+        return operand.getValue().getValue();
     }
     zvAttribute attribute;
     return context.getAttribute(operand.getValue().getStrValue(), attribute)
-               ? "'" + zvConsole::printable(attribute.getValue().getValue()) + "'"
-               : "no such attribute";
+               ? std::optional(attribute.getValue().getValue())
+               : std::nullopt;
+}
+
+std::string shown(const std::optional<zvString>& value) {
+    return value.has_value() ? "'" + zvConsole::printable(*value) + "'" : "no such attribute";
 }
 
 // The secret key that the comparison has on one of its sides; null for none.
@@ -100,29 +100,49 @@ void zvConditionExplanation::evaluate(const zvCndCondition& root) {
     }
 }
 
+std::vector<zvConditionExplanation::Part> zvConditionExplanation::parts() const {
+    std::vector<Part> parts;
+    parts.reserve(m_nodes.size());
+    for (const Node& node : m_nodes) {
+        parts.push_back(describe(node));
+    }
+    return parts;
+}
+
 std::vector<std::string> zvConditionExplanation::lines() const {
     std::vector<std::string> lines;
     lines.reserve(m_nodes.size());
     for (const Node& node : m_nodes) {
-        lines.push_back(std::string(2 * std::min(node.depth, deepestIndent), ' ') + describe(node));
+        lines.push_back(describe(node).line());
     }
     return lines;
 }
 
-std::string zvConditionExplanation::describe(const Node& node) const {
-    const std::string outcome = !node.outcome.has_value() ? "left out" : *node.outcome ? "true" : "false";
-    const zvCndConditionTypeEnum type = node.condition->getConditionType();
-    if (!isComparison(type)) {
-        return std::string(nameOf(type)) + ": " + outcome;
+zvString zvConditionExplanation::textOf(const zvCndCondition& part) {
+    const zvCndConditionTypeEnum type = part->getConditionType();
+    return isComparison(type) ? zvCndParsingUtils::createConditionString(part) : zvString(nameOf(type));
+}
+
+zvConditionExplanation::Part zvConditionExplanation::describe(const Node& node) const {
+    Part part{node.depth, textOf(node.condition), node.outcome, {}};
+    if (!isComparison(node.condition->getConditionType())) {
+        return part;
     }
     const zvCndComparisonCondition comparison = zvCndConditionFactory::getComparisonCondition(node.condition);
     if (const char* const secret = secretKeyIn(comparison)) {
-        return std::string("{") + secret + "} compared with " + zvSecrets::mask + ": " + outcome;
+        part.text = "{" + zvString(secret) + "} compared with " + zvSecrets::mask;
+    } else if (node.outcome.has_value()) {
+        part.values = {valueOf(comparison->getLHSOperand(), m_context),
+                       valueOf(comparison->getRHSOperand(), m_context)};
     }
-    const std::string text = zvConsole::printable(zvCndParsingUtils::createConditionString(node.condition));
-    if (!node.outcome.has_value()) {
-        return text + ": " + outcome;
-    }
-    return text + "  [" + valueOf(comparison->getLHSOperand(), m_context) + ", " +
-           valueOf(comparison->getRHSOperand(), m_context) + "]: " + outcome;
+    return part;
+}
+
+std::string zvConditionExplanation::Part::line() const {
+    const std::string compared =
+        values.empty() ? "" : "  [" + shown(values.front()) + ", " + shown(values.back()) + "]";
+    return zvConditionTree::indentOf(depth) + zvConsole::printable(text) + compared + ": " +
+           (!outcome.has_value() ? "left out"
+            : *outcome           ? "true"
+                                 : "false");
 }

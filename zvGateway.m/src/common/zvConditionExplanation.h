@@ -22,15 +22,34 @@ public:
         std::optional<bool> outcome;
     };
 
+    /// A part as it may be shown: a comparison that mentions a secret does not have its values.
+    struct Part {
+        std::size_t depth;
+        /// A comparison's text, or AND, OR, NOT.
+        zvString text;
+        std::optional<bool> outcome;
+        /// What a comparison compared, its left and right side; empty for none. A missing attribute has no
+        /// value.
+        std::vector<std::optional<zvString>> values;
+
+        /// One line, indented by the depth.
+        std::string line() const;
+    };
+
     bool outcome() const;
     /// Every part, parents before their children in the order of evaluation.
     const std::vector<Node>& nodes() const { return m_nodes; }
-    /// One line for each part, children below their parents in the order of evaluation.
+    /// The same as they may be shown.
+    std::vector<Part> parts() const;
+    /// One line for each part.
     std::vector<std::string> lines() const;
+
+    /// A comparison's text, or AND, OR, NOT.
+    static zvString textOf(const zvCndCondition& part);
 
 private:
     void evaluate(const zvCndCondition& condition);
-    std::string describe(const Node& node) const;
+    Part describe(const Node& node) const;
 
     const zvCndContext& m_context;
     std::vector<Node> m_nodes;

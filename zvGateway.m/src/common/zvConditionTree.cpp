@@ -1,6 +1,13 @@
 #include "zvConditionTree.h"
 
+#include <algorithm>
+
 #include "zvCndConditionFactory.h"
+
+std::string zvConditionTree::indentOf(std::size_t depth) {
+    constexpr std::size_t deepest = 40;
+    return std::string(2 * std::min(depth, deepest), ' ');
+}
 
 bool zvConditionTree::isComparison(zvCndConditionTypeEnum type) {
     return type >= zvCndConditionEquals && type <= zvCndConditionGreaterThanEquals;

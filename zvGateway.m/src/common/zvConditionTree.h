@@ -1,6 +1,8 @@
 #ifndef ZV_CONDITION_TREE_H
 #define ZV_CONDITION_TREE_H
 
+#include <cstddef>
+#include <string>
 #include <vector>
 
 #include "zvCndCondition.h"
@@ -12,6 +14,10 @@ bool isComparison(zvCndConditionTypeEnum type);
 
 /// The children of a logical condition, in the order of evaluation; none of a comparison.
 std::vector<zvCndCondition> childrenOf(const zvCndCondition& condition);
+
+/// The blanks before the line of a part that is so many levels below the root; of a very deep one no more,
+/// since no indent would help to read it.
+std::string indentOf(std::size_t depth);
 
 }  // namespace zvConditionTree
 

@@ -20,6 +20,8 @@ public:
     /// Takes the event with these arguments, `key=value` each in the locale's encoding. Of the secrets those
     /// in `secretNames` become arguments of it; if that is null, all but the file server's.
     virtual zvEventOutcome run(std::vector<std::string> arguments, const std::set<zvString>* secretNames) = 0;
+    /// What became of the event that is being run, for a zvProcessEnd; null while there is none.
+    virtual const zvEventOutcome* running() const = 0;
 };
 
 #endif

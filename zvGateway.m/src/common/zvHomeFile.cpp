@@ -1,10 +1,12 @@
 #include "zvHomeFile.h"
 
 #include <filesystem>
+#include <map>
 #include <sstream>
 #include <system_error>
 
 #include "zvCommonUtils.h"
+#include "zvFileStamp.h"
 #include "zvNativePath.h"
 #include "zvProcess.h"
 
@@ -34,8 +36,23 @@ std::string zvHomeFile::read(const zvString& path, std::string& error) {
 std::string zvHomeFile::readConfiguration(const char* name) {
     // Without a home, getConfigurationFile() says on standard output that there is none.
     const zvString home = zvCommonUtils::getEnvironmentalVariable(zvCommonUtils::getGatewayHomeEnvVariable());
-    std::string error;
-    return home.empty() ? std::string() : read(zvCommonUtils::getConfigurationFile(name), error);
+    if (home.empty()) {
+        return {};
+    }
+    struct Kept {
+        std::string stamp;
+        std::string content;
+    };
+    static std::map<std::filesystem::path, Kept> all;
+    const zvString file = zvCommonUtils::getConfigurationFile(name);
+    const std::filesystem::path path = toNativePath(file);
+    const std::string stamp = fileStamp(path);
+    Kept& kept = all[path];
+    if (stamp.empty() || stamp != kept.stamp) {
+        std::string error;
+        kept = {stamp, read(file, error)};
+    }
+    return kept.content;
 }
 
 std::vector<std::string> zvHomeFile::lines(const std::string& content) {

@@ -5,23 +5,13 @@
 #include <sstream>
 
 #include "zvCharString.h"
+#include "zvClientConfigFile.h"
 #include "zvClientConfigKey.h"
-#include "zvHomeFile.h"
 #include "zvSecrets.h"
 
 namespace {
 
-// The first line counts, as for every other key.
-zvString valueOf(const std::string& key) {
-    for (const std::string& line : zvHomeFile::lines(zvHomeFile::readConfiguration("client-config.ini"))) {
-        if (line.compare(0, key.size() + 1, key + "=") == 0) {
-            zvString value = line.substr(key.size() + 1).c_str();
-            value.trim();
-            return value;
-        }
-    }
-    return {};
-}
+zvString valueOf(const char* key) { return zvClientConfigFile::ofHome().value(key).value_or(zvString()); }
 
 }  // namespace
 

@@ -9,6 +9,10 @@
 /// How the Java machine of this process starts: with which client, options and archive of classes.
 namespace zvJavaStart {
 
+/// What is told of a machine that ends the process, as one without memory does: see zvProcessEnd.
+constexpr char endReason[] =
+    "the Java machine ends the process; its own words stand above, or in its file hs_err_pid*.log";
+
 /// Makes known the delivered client, unless CLASSPATH names one of the site's own, the options for short
 /// work, unless the environment has others, those of the key "java-options" in the client configuration, and
 /// the archive of the client's classes, if there is one. To be called before Java is needed; again, it does

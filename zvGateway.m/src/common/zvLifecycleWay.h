@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "zvCfgLcmState.h"
+#include "zvCfgObject.h"
 #include "zvCfgTransitionPathList.h"
 
 /// The shortest way between two states of a lifecycle.
@@ -13,6 +14,10 @@ public:
     /// Looks for it in the lifecycles of these object types, one after the other. States are given by local
     /// or remote name.
     zvLifecycleWay(const std::vector<zvString>& types, const zvString& from, const zvString& to);
+
+    /// Looks for it in the object's lifecycle.
+    zvLifecycleWay(const zvCfgObject& object, const zvString& from, const zvString& to)
+        : zvLifecycleWay({object.getLocalCustomType(), object.getOotbTypeStr()}, from, to) {}
 
     bool exists() const { return m_paths.size() > 0; }
     /// Only of a way that exists.

@@ -5,7 +5,8 @@
 #include <utility>
 #include <vector>
 
-#include "zvMappingTrial.h"
+#include "zvLifecycleWay.h"
+#include "zvMappingAccount.h"
 
 /// What became of an object, and why, as facts for people: a name and a text.
 class zvMappingReport {
@@ -13,7 +14,7 @@ public:
     using Facts = std::vector<std::pair<std::string, std::string>>;
 
     /// The trial must live longer.
-    explicit zvMappingReport(const zvMappingTrial& trial) : m_trial(trial) {}
+    explicit zvMappingReport(const zvMappingTrial& trial) : m_account(trial) {}
 
     /// The candidates in their order, each with what came of its rule and of every part of it.
     Facts candidates() const;
@@ -26,15 +27,13 @@ public:
 
     /// As in "Part -> ReleasedPart".
     static std::string typesOf(const zvCfgObject& object);
-    /// Prints the way between two states of the object's lifecycle. False if there is none.
-    static bool printWay(const zvCfgObject& object, const zvString& from, const zvString& to);
+    /// Prints a way that exists.
+    static void print(const zvLifecycleWay& way);
 
 private:
     void addUnmapped(Facts& facts) const;
-    void addWithoutValue(Facts& facts) const;
-    std::string sourceOf(const zvObjectMapping::Attribute& attribute) const;
 
-    const zvMappingTrial& m_trial;
+    const zvMappingAccount m_account;
 };
 
 #endif

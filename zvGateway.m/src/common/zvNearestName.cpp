@@ -33,7 +33,7 @@ int distance(const zvString& left, const zvString& right) {
 
 }  // namespace
 
-std::string zvNearestName::suggestion(const zvString& name, const std::vector<zvString>& known) {
+zvString zvNearestName::find(const zvString& name, const std::vector<zvString>& known) {
     const zvString* nearest = nullptr;
     int least = std::max(1, (name.size() + 1) / 3) + 1;
     for (const zvString& candidate : known) {
@@ -45,5 +45,13 @@ std::string zvNearestName::suggestion(const zvString& name, const std::vector<zv
             nearest = &candidate;
         }
     }
-    return nearest == nullptr ? "" : "; did you mean \"" + zvConsole::printable(*nearest) + "\"?";
+    return nearest == nullptr ? zvString() : *nearest;
+}
+
+std::string zvNearestName::question(const zvString& found) {
+    return found.empty() ? "" : "; did you mean \"" + zvConsole::printable(found) + "\"?";
+}
+
+std::string zvNearestName::suggestion(const zvString& name, const std::vector<zvString>& known) {
+    return question(find(name, known));
 }

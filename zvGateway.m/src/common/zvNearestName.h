@@ -9,9 +9,12 @@
 /// Finds the name that was meant by one that is not known.
 namespace zvNearestName {
 
-/// For the end of a message, as in `; did you mean "rev"?`: the first of the `known` names that differ from
-/// `name` in the fewest characters, case not counted. Empty when each differs in more than a third of them,
-/// and for a name of more than 64 characters.
+/// The first of the `known` names that differ from `name` in the fewest characters, case not counted. Empty
+/// when each differs in more than a third of them, and for a name of more than 64 characters.
+zvString find(const zvString& name, const std::vector<zvString>& known);
+/// A name that was found for the end of a message, as in `; did you mean "rev"?`. Empty for none.
+std::string question(const zvString& found);
+/// Both.
 std::string suggestion(const zvString& name, const std::vector<zvString>& known);
 
 }  // namespace zvNearestName

@@ -124,8 +124,7 @@ std::string openGroup(const std::string& id, const std::string& heading, const s
 
 std::string closeGroup() { return "</article>\n"; }
 
-std::string openTable(const char* cssClass, const zvString& label,
-                      std::initializer_list<const char*> columns) {
+std::string openTable(const char* cssClass, const zvString& label, const std::vector<const char*>& columns) {
     std::string result =
         "<table class=\"" + std::string(cssClass) + "\" aria-label=\"" + escaped(label) + "\"><thead><tr>";
     for (const char* const column : columns) {

@@ -62,8 +62,7 @@ std::string openGroup(const std::string& id, const std::string& heading, const s
 std::string closeGroup();
 
 /// The label is for those who cannot see where the table stands.
-std::string openTable(const char* cssClass, const zvString& label,
-                      std::initializer_list<const char*> columns);
+std::string openTable(const char* cssClass, const zvString& label, const std::vector<const char*>& columns);
 /// The first cell names the row.
 std::string row(std::initializer_list<std::string> cells);
 std::string closeTable();

@@ -1,29 +1,41 @@
 #include "zvProcessEnd.h"
 
+#include <cstdio>
 #include <cstdlib>
 #include <utility>
+#include <vector>
+
+#include "zvConsole.h"
 
 namespace {
 
 // Never destroyed: the process may end while static objects are.
-std::function<void()>& pending() {
-    static auto& atEnd = *new std::function<void()>;
-    return atEnd;
+std::vector<const zvProcessEnd*>& pending() {
+    static auto& objects = *new std::vector<const zvProcessEnd*>;
+    return objects;
 }
 
 }  // namespace
 
-zvProcessEnd::zvProcessEnd(std::function<void()> atEnd) {
+zvProcessEnd::zvProcessEnd(std::function<zvExitCode()> atEnd) : m_atEnd(std::move(atEnd)) {
     static const bool isRegistered = std::atexit(notify) == 0;
     static_cast<void>(isRegistered);
-    pending() = std::move(atEnd);
+    pending().push_back(this);
 }
 
-zvProcessEnd::~zvProcessEnd() { pending() = nullptr; }
+zvProcessEnd::~zvProcessEnd() { pending().pop_back(); }
 
 void zvProcessEnd::notify() {
-    const std::function<void()> atEnd = std::exchange(pending(), nullptr);
-    if (atEnd) {
-        atEnd();
+    std::vector<const zvProcessEnd*> objects = std::exchange(pending(), {});
+    if (objects.empty()) {
+        return;
     }
+    zvExitCode exitCode = zvExitCode::unexpected;
+    for (; !objects.empty(); objects.pop_back()) {
+        exitCode = objects.back()->m_atEnd();
+    }
+    // Nothing of the program has to be cleaned up, and what it would meet is half done.
+    zvConsole::flush();
+    std::fflush(nullptr);
+    std::_Exit(static_cast<int>(exitCode));
 }

@@ -9,6 +9,7 @@
 #include "zvDifferencePage.h"
 #include "zvDifferenceText.h"
 #include "zvReplacedFile.h"
+#include "zvStandardInput.h"
 
 zvExitCode zvDiffCommand::run() const {
     refuseToReplaceInput();
@@ -21,13 +22,15 @@ zvExitCode zvDiffCommand::run() const {
     zvConfigurationComparison comparison(old, now);
     comparison.addOutcomes(outcomes[0], outcomes[1]);
     const zvExitCode code = comparison.count() == 0 ? zvExitCode::success : zvExitCode::differences;
+    const std::string oldName = zvStandardInput::nameOf(before);
+    const std::string newName = zvStandardInput::nameOf(after);
     if (!page.empty()) {
-        zvReplacedFile::write(page, zvDifferencePage::of(comparison, before, after));
+        zvReplacedFile::write(page, zvDifferencePage::of(comparison, oldName, newName));
     }
     if (asJson) {
-        zvConsole::print(zvDifferenceJson::of(comparison, before, after, code));
+        zvConsole::print(zvDifferenceJson::of(comparison, oldName, newName, code));
     } else if (page.empty()) {
-        zvConsole::print(zvDifferenceText::of(comparison, before, after));
+        zvConsole::print(zvDifferenceText::of(comparison, oldName, newName));
     }
     return code;
 }

@@ -1,7 +1,6 @@
 #include "zvDifferencePage.h"
 
-#include <algorithm>
-
+#include "zvConditionTree.h"
 #include "zvConsole.h"
 #include "zvDifferencePageCss.h"
 #include "zvPage.h"
@@ -11,8 +10,6 @@ using zvPage::escaped;
 namespace {
 
 using Side = zvAlignedLine::Side;
-
-constexpr std::size_t deepestIndent = 40;
 
 std::string marked(Side side, const std::string& html) {
     return side == Side::both || html.empty() ? html
@@ -25,8 +22,7 @@ std::string treeOf(const std::vector<zvAlignedLine>& rule, Side side) {
     std::string text = "<pre>";
     for (const zvAlignedLine& line : rule) {
         if (line.side == Side::both || line.side == side) {
-            text += std::string(2 * std::min(line.line.depth, deepestIndent), ' ') +
-                    marked(line.side, escaped(line.line.text));
+            text += zvConditionTree::indentOf(line.line.depth) + marked(line.side, escaped(line.line.text));
         }
         text += '\n';
     }

@@ -1,7 +1,6 @@
 #include "zvDifferenceText.h"
 
-#include <algorithm>
-
+#include "zvConditionTree.h"
 #include "zvConfigurationNames.h"
 #include "zvConsole.h"
 
@@ -11,9 +10,6 @@ using zvConsole::printable;
 namespace {
 
 using Side = zvAlignedLine::Side;
-
-// A line indented further than this is no easier to read.
-constexpr std::size_t deepestIndent = 40;
 
 char signOf(zvChange change) {
     return change == zvChange::added ? '+' : change == zvChange::removed ? '-' : '~';
@@ -38,9 +34,7 @@ std::string treeOf(const std::vector<zvAlignedLine>& rule) {
     std::string text;
     for (const zvAlignedLine& line : rule) {
         const char sign = line.side == Side::both ? ' ' : line.side == Side::before ? '-' : '+';
-        text += signedLine(
-            sign, 6,
-            std::string(2 * std::min(line.line.depth, deepestIndent), ' ') + printable(line.line.text));
+        text += signedLine(sign, 6, zvConditionTree::indentOf(line.line.depth) + printable(line.line.text));
     }
     return text;
 }

@@ -1,5 +1,8 @@
 #include "zvConfigurationPage.h"
 
+#include <utility>
+
+#include "zvCasesSection.h"
 #include "zvConfigurationNames.h"
 #include "zvConfigurationPageCss.h"
 #include "zvConfigurationPageJs.h"
@@ -19,13 +22,6 @@ constexpr char legend[] = R"(<figcaption>
 <span class="promote" aria-hidden="true">&#9472;&#9472;&#9654;</span> promote &emsp;
 <span class="demote" aria-hidden="true">&#9476;&#9476;&#9654;</span> demote</figcaption>
 )";
-
-std::string ruleOf(const zvCfgObject& object) {
-    const zvString written = zvConfigurationNames::rule(object).written;
-    return written.empty() ? ""
-                           : "<dl class=\"rule\" data-row><dt>when\n</dt><dd><code>" + escaped(written) +
-                                 "</code></dd></dl>\n";
-}
 
 // What the page's script makes when it is opened: one element, since a page has thousands of objects.
 std::string toolsOf(const zvCfgObject& object) {
@@ -51,36 +47,6 @@ int numOneSided(const zvCfgObject& object) {
     return count;
 }
 
-std::string attributeRow(const zvCfgAttribute& attribute) {
-    std::string more;
-    attribute.optionalAttributes().forEach([&more](const zvString& name, const zvString& value) {
-        more += (more.empty() ? "" : ", ") + escaped(name) + " = " + escaped(value);
-    });
-    return zvPage::row({nameCell(attribute.localName(), attribute.remoteName(), "remote only"),
-                        nameCell(attribute.remoteName(), attribute.localName(), "local only"),
-                        escaped(attribute.keyName()), zvConfigurationNames::dataType(attribute.getDataType()),
-                        escaped(attribute.getDefaultValue()), more});
-}
-
-std::string extensionRow(const zvCfgFileExtension& extension) {
-    const auto word = [](bool isAllowed) { return isAllowed ? "yes" : "<span class=\"no\">no</span>"; };
-    return zvPage::row({escaped(extension.getName()), word(extension.isImportAllowed()),
-                        word(extension.isExportAllowed()),
-                        extension.getTransferMode() == zvTransferModeAscii ? "ASCII" : "BINARY"});
-}
-
-std::string stateRow(const zvCfgLcmState& state) {
-    std::string transitions;
-    for (int i = 0; i < state.numOutgoingTransitions(); ++i) {
-        const zvCfgTransition& transition = *state.getOutgoingTransition(i);
-        const char* const type = zvConfigurationNames::transition(transition.getType());
-        transitions += (transitions.empty() ? "<span class=\"" : ", <span class=\"") + std::string(type) +
-                       "\">" + type + "</span> to " + escaped(transition.toState());
-    }
-    return zvPage::row({escaped(state.localName()), escaped(state.remoteName()), escaped(state.key()),
-                        std::to_string(state.getIndex()), transitions});
-}
-
 std::string figure(const zvCfgLcmGraph& lifecycle, const std::string& id, const zvLifecyclePicture* picture) {
     if (picture == nullptr) {
         return "<figure>There is no picture: Graphviz was not there to draw it.</figure>\n";
@@ -99,18 +65,75 @@ std::string figure(const zvCfgLcmGraph& lifecycle, const std::string& id, const 
 }  // namespace
 
 zvConfigurationPage::zvConfigurationPage(const zvCfgConfigManager& configuration, const zvString& title,
-                                         const zvLifecyclePicture* picture) {
+                                         const zvLifecyclePicture* picture, const zvTestedCases* cases)
+    : m_pCases(cases), m_marks(cases == nullptr ? zvCoverageMarks() : zvCoverageMarks(cases->coverage)) {
+    std::vector<zvPage::Section> sections{objects, fileTypes, views, lifecycles};
+    if (m_pCases != nullptr) {
+        sections.insert(sections.begin(), zvCasesSection::section);
+    }
     const zvPage::Frame frame{title,
                               "Search types, attributes, rules, extensions, views, states",
-                              {objects, fileTypes, views, lifecycles},
+                              std::move(sections),
                               {zvConfigurationPageCss, zvConfigurationPageCssHash},
                               {zvConfigurationPageJs, zvConfigurationPageJsHash}};
     m_html = zvPage::begin(frame);
+    if (m_pCases != nullptr) {
+        m_html += zvCasesSection::html(*m_pCases, m_anchors);
+    }
     addObjects(configuration);
     addFiles(configuration);
     addViews(configuration);
     addLifecycles(configuration, picture);
     m_html += zvPage::end(frame);
+}
+
+// Of a table that has a column for the marks, if there are any.
+std::vector<const char*> zvConfigurationPage::columns(std::vector<const char*> names) const {
+    if (m_pCases != nullptr) {
+        names.push_back("Coverage");
+    }
+    return names;
+}
+
+std::string zvConfigurationPage::ruleOf(const zvCfgObject& object) const {
+    const zvString written = zvConfigurationNames::rule(object).written;
+    return written.empty() ? ""
+                           : "<dl class=\"rule\" data-row><dt>when\n</dt><dd><code>" + escaped(written) +
+                                 "\n</code></dd>" + m_marks.ofRule(object) + "</dl>\n";
+}
+
+std::string zvConfigurationPage::attributeRow(const zvCfgAttribute& attribute) const {
+    std::string more;
+    attribute.optionalAttributes().forEach([&more](const zvString& name, const zvString& value) {
+        more += (more.empty() ? "" : ", ") + escaped(name) + " = " + escaped(value);
+    });
+    return zvPage::row({nameCell(attribute.localName(), attribute.remoteName(), "remote only"),
+                        nameCell(attribute.remoteName(), attribute.localName(), "local only"),
+                        escaped(attribute.keyName()), zvConfigurationNames::dataType(attribute.getDataType()),
+                        escaped(attribute.getDefaultValue()), more, m_marks.ofAttribute(attribute)});
+}
+
+std::string zvConfigurationPage::extensionRow(const zvCfgFileExtension& extension) const {
+    const auto word = [](bool isAllowed) { return isAllowed ? "yes" : "<span class=\"no\">no</span>"; };
+    return zvPage::row({escaped(extension.getName()), word(extension.isImportAllowed()),
+                        word(extension.isExportAllowed()),
+                        extension.getTransferMode() == zvTransferModeAscii ? "ASCII" : "BINARY",
+                        m_marks.ofExtension(extension)});
+}
+
+std::string zvConfigurationPage::stateRow(const zvCfgLcmState& state) const {
+    std::string transitions;
+    for (int i = 0; i < state.numOutgoingTransitions(); ++i) {
+        const zvCfgTransition& transition = *state.getOutgoingTransition(i);
+        const char* const type = zvConfigurationNames::transition(transition.getType());
+        transitions += (transitions.empty() ? "<span class=\"" : ", <span class=\"") + std::string(type) +
+                       "\">" + type + "</span> to " + escaped(transition.toState());
+        if (const std::string mark = m_marks.ofTransition(transition); !mark.empty()) {
+            transitions += ' ' + mark;
+        }
+    }
+    return zvPage::row({escaped(state.localName()), escaped(state.remoteName()), escaped(state.key()),
+                        std::to_string(state.getIndex()), transitions});
 }
 
 void zvConfigurationPage::addObjects(const zvCfgConfigManager& configuration) {
@@ -134,12 +157,15 @@ void zvConfigurationPage::addObject(const zvCfgObject& object) {
     if (const int count = numOneSided(object); count > 0) {
         more += " <span class=\"soft\">" + std::to_string(count) + " in one system only</span>";
     }
+    more += m_marks.ofObject(object);
     m_html += zvPage::openGroup(m_anchors.add("object", {local, remote}), zvPage::arrow(local, remote), more,
                                 object.numAttributes() + 2) +
               ruleOf(object) + toolsOf(object);
     if (object.numAttributes() > 0) {
-        m_html += zvPage::openTable("attributes", "Attributes of " + local + " to " + remote,
-                                    {"Local name", "Remote name", "Key", "Type", "Default", "Further"});
+        m_html +=
+            zvPage::openTable(m_pCases == nullptr ? "attributes" : "attributes tested",
+                              "Attributes of " + local + " to " + remote,
+                              columns({"Local name", "Remote name", "Key", "Type", "Default", "Further"}));
         for (int i = 0; i < object.numAttributes(); ++i) {
             m_html += attributeRow(*object.getAttribute(i));
         }
@@ -163,7 +189,7 @@ void zvConfigurationPage::addFiles(const zvCfgConfigManager& configuration) {
         m_html += zvPage::openGroup(m_anchors.add("files", {local, remote}), zvPage::arrow(local, remote), "",
                                     count) +
                   zvPage::openTable("extensions", "Extensions of " + local + " to " + remote,
-                                    {"Extension", "Import", "Export", "Transfer"}) +
+                                    columns({"Extension", "Import", "Export", "Transfer"})) +
                   rows + zvPage::closeTable() + zvPage::closeGroup();
     }
     m_html += zvPage::closeSection();

@@ -1,6 +1,7 @@
 #include "zvShowCommand.h"
 
 #include <filesystem>
+#include <optional>
 #include <system_error>
 
 #include "zvConfigurationListing.h"
@@ -15,8 +16,7 @@ zvExitCode zvShowCommand::run() const {
     const zvCfgConfigManager& configuration = *zvCfgConfigManager::getCfgConfigManager();
     const std::string system = zvConsole::printable(reading.pdmSystemName());
     if (page.empty()) {
-        zvConsole::write(zvConsole::printable(file.c_str()) + (system.empty() ? "" : "  to  ") + system +
-                         "\n");
+        zvConsole::write(reading.input().shownName() + (system.empty() ? "" : "  to  ") + system + "\n");
         zvConfigurationListing(configuration).print();
         return zvExitCode::success;
     }
@@ -33,6 +33,8 @@ zvExitCode zvShowCommand::run() const {
     if (picture == nullptr) {
         zvConsole::complain("lifecycles have no pictures: " + reason);
     }
-    zvReplacedFile::write(page, zvConfigurationPage(configuration, title, picture.get()).html());
+    const std::optional<zvTestedCases> cases = runCases ? std::optional(runCases()) : std::nullopt;
+    zvReplacedFile::write(
+        page, zvConfigurationPage(configuration, title, picture.get(), cases ? &*cases : nullptr).html());
     return zvExitCode::success;
 }

@@ -32,53 +32,34 @@ void zvClientConfigCheck::run() {
         addError(m_strFile, zvHomeCheckKind::unreadable, error.c_str());
         return;
     }
-    int number = 0;
-    for (const std::string& line : zvHomeFile::lines(content)) {
-        checkLine(line, ++number);
+    const zvClientConfigFile file(content);
+    for (const zvClientConfigFile::Line& line : file.lines()) {
+        checkLine(line);
     }
-    if (m_lines.count("local-server-url") == 0) {
+    if (!m_bHasUrl) {
         addError(m_strFile, zvHomeCheckKind::missingKey, "\"local-server-url\" is missing");
     }
 }
 
-// No line is shown that has lost its key: it may be a secret.
-void zvClientConfigCheck::checkLine(const std::string& line, int number) {
-    if (line.empty() || line.front() == '#') {
-        return;
-    }
-    const std::size_t separator = line.find('=');
-    const zvTextPosition position{number, 1};
-    if (separator == std::string::npos || separator == 0 || separator + 1 == line.size()) {
-        addError({m_strFile, position}, zvHomeCheckKind::invalidLine,
-                 "it is no name=value, and ends the reading: what follows does not count");
-        return;
-    }
-    const zvString name = line.substr(0, separator).c_str();
-    const zvString value = line.substr(separator + 1).c_str();
-    if (name.empty() || value.empty()) {
-        addError({m_strFile, position}, zvHomeCheckKind::invalidLine,
-                 "its bytes are no text in the locale's encoding");
-        return;
-    }
-    checkKey(name, value, position);
-}
-
-void zvClientConfigCheck::checkKey(const zvString& name, const zvString& value, zvTextPosition position) {
+void zvClientConfigCheck::checkLine(const zvClientConfigFile::Line& line) {
+    using Fault = zvClientConfigFile::Fault;
+    const zvTextPosition position{line.number, 1};
     const zvCheckPlace place(m_strFile, position);
-    const zvClientConfigKey* const key = zvClientConfigKey::find(name);
+    if (line.fault == Fault::noPair || line.fault == Fault::noText) {
+        addError(place, zvHomeCheckKind::invalidLine, line.faultText());
+        return;
+    }
+    const zvClientConfigKey* const key = zvClientConfigKey::find(line.name);
+    m_bHasUrl = m_bHasUrl || (key != nullptr && key->form == Form::url);
     if (key == nullptr) {
         addError(place, zvHomeCheckKind::unknownKey,
-                 "there is no key " + quoted(name) + zvNearestName::suggestion(name, knownKeys()).c_str());
-        return;
+                 "there is no key " + quoted(line.name) +
+                     zvNearestName::suggestion(line.name, knownKeys()).c_str());
+    } else if (line.fault == Fault::repeatedKey) {
+        addError(place, zvHomeCheckKind::repeatedKey, line.faultText());
+    } else {
+        checkValue(*key, line.value, {m_strFile, {line.number, line.name.size() + 2}});
     }
-    const auto [first, isNew] = m_lines.emplace(name, position.line);
-    if (!isNew) {
-        addError(place, zvHomeCheckKind::repeatedKey,
-                 quoted(name) + " is in line " + zvString(first->second) +
-                     " already, which counts; what follows may not be read");
-        return;
-    }
-    checkValue(*key, value, {m_strFile, {position.line, name.size() + 2}});
 }
 
 void zvClientConfigCheck::checkValue(const zvClientConfigKey& key, const zvString& value,

@@ -1,10 +1,10 @@
 #ifndef ZV_CLIENT_CONFIG_CHECK_H
 #define ZV_CLIENT_CONFIG_CHECK_H
 
-#include <map>
 #include <string>
 
 #include "zvCheckReport.h"
+#include "zvClientConfigFile.h"
 #include "zvClientConfigKey.h"
 
 /// Looks at each line of a home's "client-config.ini", and at the files that it names.
@@ -17,8 +17,7 @@ public:
     const zvString& url() const { return m_strUrl; }
 
 private:
-    void checkLine(const std::string& line, int number);
-    void checkKey(const zvString& name, const zvString& value, zvTextPosition position);
+    void checkLine(const zvClientConfigFile::Line& line);
     void checkValue(const zvClientConfigKey& key, const zvString& value, const zvCheckPlace& place);
     void checkFile(const zvClientConfigKey& key, const zvString& value, const zvCheckPlace& place);
     void addError(const zvCheckPlace& place, std::string_view kind, const zvString& text);
@@ -26,7 +25,7 @@ private:
 
     const zvString m_strFile;
     zvCheckReport& m_report;
-    std::map<zvString, int> m_lines;  // of the keys, by their names
+    bool m_bHasUrl = false;
     zvString m_strUrl;
 };
 

@@ -14,6 +14,7 @@
 #include "zvJavaMachine.h"
 #include "zvJavaStart.h"
 #include "zvNearestName.h"
+#include "zvProcessEnd.h"
 
 namespace {
 
@@ -43,6 +44,10 @@ zvFileServerCheck::zvFileServerCheck(const zvString& file, zvCheckReport& report
       m_bDelivered(zvCommonUtils::getEnvironmentalVariable("CLASSPATH").empty()) {}
 
 void zvFileServerCheck::run(bool isOffline) {
+    const zvProcessEnd unexpected([this] {
+        addError(zvCheckPlace("Java"), zvHomeCheckKind::missingJava, zvJavaStart::endReason);
+        return zvExitCode::fileTransfer;
+    });
     const zvString refusal = zvJavaStart::prepare();
     if (!refusal.empty()) {
         addError(zvCheckPlace(client), zvHomeCheckKind::missingClass, refusal);

@@ -18,6 +18,7 @@
 #include "zvLogCheck.h"
 #include "zvNativePath.h"
 #include "zvNearestName.h"
+#include "zvProcessEnd.h"
 
 namespace fs = std::filesystem;
 
@@ -35,6 +36,11 @@ zvString fileOf(const char* name) {
 void zvHomeCheck::run(bool isOffline, const zvSecretStore& secrets) {
     const zvString variable = zvCommonUtils::getGatewayHomeEnvVariable();
     const zvString home = zvCommonUtils::getEnvironmentalVariable(variable);
+    const auto end = [&] { m_report.endFile(home.empty() ? variable : home); };
+    const zvProcessEnd unexpected([&end] {
+        end();
+        return zvExitCode::unexpected;
+    });
     zvLogCheck::keepSilent();
     if (checkFolder(home)) {
         checkLocalServer(isOffline);
@@ -42,7 +48,7 @@ void zvHomeCheck::run(bool isOffline, const zvSecretStore& secrets) {
         checkConfiguration();
         checkFileServer(isOffline, secrets);
     }
-    m_report.endFile(home.empty() ? variable : home);
+    end();
 }
 
 bool zvHomeCheck::checkFolder(const zvString& home) {

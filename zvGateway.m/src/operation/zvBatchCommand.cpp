@@ -56,7 +56,7 @@ zvExitCode zvBatchCommand::run(zvEventRunner& runner) {
     }
     std::ios::sync_with_stdio(false);
     runner.prepare();
-    zvEventTally tally("batch", asJson, true);
+    zvEventTally tally("batch", asJson, true, runner);
     try {
         takeAll(file == "-" ? std::cin : opened, size, runner, tally);
     } catch (const zvStepFailure& fault) {
@@ -83,8 +83,9 @@ void zvBatchCommand::takeAll(std::istream& stream, double size, zvEventRunner& r
     const std::unique_ptr<zvBatchInput> input = zvBatchInput::open(stream, inputFormat());
     zvBatchEntry entry;
     while (zvProcess::notedSignal() == 0 && input->next(entry)) {
+        tally.begin(entry.line);
         const zvEventOutcome outcome = take(entry, runner);
-        tally.add(outcome, entry.line, size > 0 ? static_cast<double>(input->bytes()) / size : -1);
+        tally.add(outcome, size > 0 ? static_cast<double>(input->bytes()) / size : -1);
         const bool isFailure = outcome.exitCode != zvExitCode::success;
         // Without a gateway home no other event arrives either.
         if (isFailure && (stopsOnError || outcome.exitCode == zvExitCode::gatewayHome)) {

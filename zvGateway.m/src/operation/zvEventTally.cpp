@@ -27,13 +27,25 @@ std::string fixed(double value, const char* format) {
 
 }  // namespace
 
-zvEventTally::zvEventTally(std::string verb, bool asJson, bool tellsArrived)
-    : m_strVerb(std::move(verb)), m_bAsJson(asJson), m_bTellsArrived(tellsArrived) {}
+zvEventTally::zvEventTally(std::string verb, bool asJson, bool tellsArrived, const zvEventRunner& runner)
+    : m_strVerb(std::move(verb)), m_bAsJson(asJson), m_bTellsArrived(tellsArrived), m_runner(runner) {}
 
-void zvEventTally::add(const zvEventOutcome& outcome, long line, double share) {
+void zvEventTally::add(const zvEventOutcome& outcome, double share) {
     ++m_counts[static_cast<std::size_t>(outcome.kind)];
-    tellOutcome(outcome, line);
+    tellOutcome(outcome);
     tellProgress(share);
+}
+
+zvExitCode zvEventTally::endWithProcess() {
+    constexpr double unknownShare = -1;
+    if (const zvEventOutcome* const outcome = m_runner.running()) {
+        add(*outcome, unknownShare);
+    }
+    finish();
+    zvConsole::outcome("zvgateway: " + m_strVerb +
+                           ": the process ends; the same command goes on with the events that are left",
+                       true);
+    return zvExitCode::events;
 }
 
 long zvEventTally::count(zvEventOutcome::Kind kind) const { return m_counts[static_cast<std::size_t>(kind)]; }
@@ -42,18 +54,18 @@ bool zvEventTally::hasAllArrived() const {
     return count(zvEventOutcome::Kind::stopped) + count(zvEventOutcome::Kind::heldByAnother) == 0;
 }
 
-void zvEventTally::tellOutcome(const zvEventOutcome& outcome, long line) {
+void zvEventTally::tellOutcome(const zvEventOutcome& outcome) {
     const bool isFailure = outcome.exitCode != zvExitCode::success;
     if (m_bAsJson) {
         nlohmann::ordered_json json;
-        if (line > 0) {
-            json["line"] = line;
+        if (m_line > 0) {
+            json["line"] = m_line;
         }
         json.update(outcome.json());
         zvConsole::print(json.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n");
         zvConsole::flush();
     } else if (isFailure || m_bTellsArrived) {
-        zvConsole::outcome((line > 0 ? "line=" + std::to_string(line) + " " : "") + outcome.text(),
+        zvConsole::outcome((m_line > 0 ? "line=" + std::to_string(m_line) + " " : "") + outcome.text(),
                            isFailure);
     }
 }

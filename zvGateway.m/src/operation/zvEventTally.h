@@ -5,6 +5,8 @@
 #include <string>
 
 #include "zvEventOutcome.h"
+#include "zvEventRunner.h"
+#include "zvProcessEnd.h"
 #include "zvProgressMeter.h"
 
 /// Counts what becomes of many events, and tells it: a line for each on standard error, or an object on
@@ -12,12 +14,13 @@
 class zvEventTally {
 public:
     /// `verb` is what is done with the events, as in "batch"; `tellsArrived` whether those that arrived get a
-    /// line, too.
-    zvEventTally(std::string verb, bool asJson, bool tellsArrived);
+    /// line, too. If the process ends in an event of `runner`, this event and the end are told as well.
+    zvEventTally(std::string verb, bool asJson, bool tellsArrived, const zvEventRunner& runner);
 
-    /// `line` is the input's line that has the event; 0 for none. `share` is how much of the work is done,
-    /// from 0 to 1; less than 0 when nobody knows.
-    void add(const zvEventOutcome& outcome, long line, double share);
+    /// Before an event: `line` is the input's line that has it; 0 for none.
+    void begin(long line) { m_line = line; }
+    /// After it. `share` is how much of the work is done, from 0 to 1; less than 0 when nobody knows.
+    void add(const zvEventOutcome& outcome, double share);
     /// The line at the end.
     void finish();
 
@@ -28,18 +31,22 @@ private:
     using Clock = zvProgressMeter::Clock;
 
     long count(zvEventOutcome::Kind kind) const;
-    void tellOutcome(const zvEventOutcome& outcome, long line);
+    void tellOutcome(const zvEventOutcome& outcome);
     void tellProgress(double share);
     std::string counts() const;
     std::string progress(double share);
+    zvExitCode endWithProcess();
 
     std::string m_strVerb;
     bool m_bAsJson;
     bool m_bTellsArrived;
+    const zvEventRunner& m_runner;
+    long m_line = 0;
     std::array<long, zvEventOutcome::numKinds> m_counts{};
     Clock::time_point m_start = Clock::now();
     Clock::time_point m_lastTold = m_start;
     zvProgressMeter m_meter{0, m_start};
+    const zvProcessEnd m_processEnd{[this] { return endWithProcess(); }};
 };
 
 #endif

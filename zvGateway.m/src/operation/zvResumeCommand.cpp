@@ -45,7 +45,7 @@ zvExitCode zvResumeCommand::run(zvEventRunner& runner) {
                                "it needs either the names of events or --all"};
     }
     runner.prepare();
-    zvEventTally tally("resume", asJson, false);
+    zvEventTally tally("resume", asJson, false, runner);
     if (all) {
         const long open = countOpen();
         long taken = 0;
@@ -53,7 +53,7 @@ zvExitCode zvResumeCommand::run(zvEventRunner& runner) {
             fs::u8path(root), zvEventHistory::Detail::state, [&](const zvFoundEvent& event) {
                 if (isOpen(event) && zvProcess::notedSignal() == 0) {
                     ++taken;
-                    tally.add(outcomeOf(event, runner), 0,
+                    tally.add(outcomeOf(event, runner),
                               static_cast<double>(taken) / static_cast<double>(std::max(open, taken)));
                 }
             });
@@ -62,7 +62,7 @@ zvExitCode zvResumeCommand::run(zvEventRunner& runner) {
     for (const std::string& name : events) {
         if (zvProcess::notedSignal() == 0) {
             const zvFoundEvent event = zvFoundEvent::in(find(name), zvEventHistory::Detail::state);
-            tally.add(outcomeOf(event, runner), 0, ++taken / static_cast<double>(events.size()));
+            tally.add(outcomeOf(event, runner), ++taken / static_cast<double>(events.size()));
         }
     }
     tally.finish();

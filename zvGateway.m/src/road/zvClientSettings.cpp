@@ -1,30 +1,27 @@
 #include "zvClientSettings.h"
 
 #include <charconv>
+#include <utility>
 
 #include "zvCharString.h"
 #include "zvClientConfigKey.h"
-#include "zvCommonUtils.h"
 #include "zvConsole.h"
 #include "zvProgramLog.h"
 
-zvClientSettings::zvClientSettings() {
-    static_cast<void>(m_properties.parse(zvCommonUtils::getConfigurationFile("client-config.ini")));
-}
+zvClientSettings::zvClientSettings(zvClientConfigFile file) : m_file(std::move(file)) {}
 
 double zvClientSettings::number(const char* key, double byDefault) {
-    zvString value = m_properties.getPropertyValue(key);
-    if (value.empty()) {
+    const std::optional<zvString> value = m_file.value(key);
+    if (!value) {
         return byDefault;
     }
-    value.trim();
-    const zvString fault = zvClientConfigKey::find(key)->faultOf(value);
+    const zvString fault = zvClientConfigKey::find(key)->faultOf(*value);
     if (!fault.empty()) {
         m_faults.push_back(std::string(zvCharString(fault).data()) + ": \"" + key +
                            "\" of client-config.ini is left at its default");
         return byDefault;
     }
-    const std::string digits = zvCharString(value).data();
+    const std::string digits = zvCharString(*value).data();
     double number = byDefault;
     std::from_chars(digits.data(), digits.data() + digits.size(), number);
     return number;

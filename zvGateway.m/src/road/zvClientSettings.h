@@ -4,13 +4,13 @@
 #include <string>
 #include <vector>
 
-#include "zvProperties.h"
+#include "zvClientConfigFile.h"
 
 /// The numbers of "client-config.ini" that the road itself needs.
 class zvClientSettings {
 public:
-    /// Reads the file of the gateway home. Without one, every number has its default.
-    zvClientSettings();
+    /// Without lines, every number has its default.
+    explicit zvClientSettings(zvClientConfigFile file = zvClientConfigFile::ofHome());
 
     /// The value of a key if it can be used; otherwise the default. One that cannot be used is then among
     /// faults().
@@ -21,7 +21,7 @@ public:
     void tellFaults() const;
 
 private:
-    zvProperties m_properties;
+    const zvClientConfigFile m_file;
     std::vector<std::string> m_faults;
 };
 

@@ -1,8 +1,5 @@
 #include "zvEventRoad.h"
 
-#include <cstdio>
-#include <cstdlib>
-
 #include "zvArgumentsStep.h"
 #include "zvAttachmentsStep.h"
 #include "zvConfigurationStep.h"
@@ -10,6 +7,7 @@
 #include "zvEventId.h"
 #include "zvGatewayHomeStep.h"
 #include "zvInterruption.h"
+#include "zvJavaStart.h"
 #include "zvMappingStep.h"
 #include "zvPostStep.h"
 #include "zvProcessEnd.h"
@@ -56,7 +54,7 @@ void zvEventRoad::run() {
     zvShownArguments::setEvent(m_event.commandLine);
     m_event.eventId = eventIdOf(m_event.commandLine);
     m_event.logContext.setEventId(m_event.eventId);
-    const zvProcessEnd unexpected([this] { endWithProcess(); });
+    const zvProcessEnd unexpected([this] { return endWithProcess(); });
     try {
         walk();
     } catch (const zvProgramFailure& failure) {
@@ -66,17 +64,11 @@ void zvEventRoad::run() {
     end(nullptr);
 }
 
-// Called within a step, by a library that ends the process. Nothing of it has to be cleaned up.
-void zvEventRoad::endWithProcess() {
-    const zvProgramFailure failure = m_event.report.stop(
-        "Java",
-        "the Java machine ends the process; its own words stand above, or in its file hs_err_pid*.log");
+// Called within a step, by a library that ends the process.
+zvExitCode zvEventRoad::endWithProcess() {
+    const zvProgramFailure failure = m_event.report.stop("Java", zvJavaStart::endReason);
     end(&failure);
-    zvConsole::outcome(m_outcome.text(), true);
-    zvConsole::complain(failure.step + ": " + failure.subject + ": " + failure.reason);
-    zvConsole::flush();
-    std::fflush(nullptr);
-    std::_Exit(static_cast<int>(failure.exitCode));
+    return failure.exitCode;
 }
 
 void zvEventRoad::walk() {

@@ -19,7 +19,7 @@ public:
 
     /// Throws, after the summary, the zvProgramFailure of a step that failed.
     void run();
-    /// What became of the event, once it was run.
+    /// What became of the event, once it was run, or the process ends in it.
     const zvEventOutcome& outcome() const { return m_outcome; }
 
 private:
@@ -27,7 +27,7 @@ private:
     static const Step steps[];
 
     void walk();
-    [[noreturn]] void endWithProcess();
+    zvExitCode endWithProcess();
     void take(const Step& step);
     void recordOutcomes();
     void end(const zvProgramFailure* failure);

@@ -1,5 +1,6 @@
 #include "zvGatewayHomeStep.h"
 
+#include "zvClientConfigFile.h"
 #include "zvCommonUtils.h"
 #include "zvConsole.h"
 #include "zvDirFileUtils.h"
@@ -40,6 +41,10 @@ void checkLog(bool requiresLog) {
 
 void checkLocalServer() {
     const zvString configuration = zvCommonUtils::getConfigurationFile("client-config.ini");
+    const zvClientConfigFile file = zvClientConfigFile::ofHome();
+    if (const zvClientConfigFile::Line* const line = file.firstFaulty()) {
+        throw failure(configuration + ":" + zvString(line->number), zvConsole::printable(line->faultText()));
+    }
     const zvString url = zvGatewayHomeStep::localServerUrl();
     if (url.empty()) {
         const zvString error = zvDirFileUtils::getAccessError(configuration, zvDirFileUtils::readable);

@@ -91,8 +91,13 @@ zvObjectMapping::Values zvMappingStep::attributeValues() const {
 void zvMappingStep::showTransition(const zvCfgObject& object) const {
     const zvString from = m_event.argument("FromState");
     const zvString to = m_event.argument("ToState");
-    if ((!from.empty() || !to.empty()) && !zvMappingReport::printWay(object, from, to)) {
+    if (from.empty() && to.empty()) {
+        return;
+    }
+    const zvLifecycleWay way(object, from, to);
+    if (!way.exists()) {
         throw zvStepFailure{zvConsole::printable(from) + " -> " + zvConsole::printable(to),
                             "the object's lifecycle has no such way"};
     }
+    zvMappingReport::print(way);
 }

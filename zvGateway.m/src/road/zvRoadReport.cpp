@@ -8,6 +8,7 @@
 
 #include "zvConsole.h"
 #include "zvException.h"
+#include "zvFailureJson.h"
 #include "zvInterruption.h"
 #include "zvShownArguments.h"
 
@@ -35,10 +36,6 @@ std::string duration(double milliseconds) {
     char text[width];
     std::snprintf(text, width, "%9.1f ms", milliseconds);
     return text;
-}
-
-nlohmann::ordered_json toJson(const zvProgramFailure& failure) {
-    return {{"step", failure.step}, {"subject", failure.subject}, {"reason", failure.reason}};
 }
 
 // Texts from outside are UTF-8 as a rule; one that is not must not cost the whole answer.
@@ -137,11 +134,11 @@ void zvRoadReport::printJson(zvExitCode exitCode) const {
     json["milliseconds"] = toMicroseconds(milliseconds());
     json["exitCode"] = static_cast<int>(exitCode);
     if (m_failure) {
-        json["failure"] = toJson(*m_failure);
+        json["failure"] = zvFailureJson::of(*m_failure);
     }
     printAnswer(json);
 }
 
 void zvRoadReport::printJson(const zvProgramFailure& failure) {
-    printAnswer({{"exitCode", static_cast<int>(failure.exitCode)}, {"failure", toJson(failure)}});
+    printAnswer({{"exitCode", static_cast<int>(failure.exitCode)}, {"failure", zvFailureJson::of(failure)}});
 }

@@ -20,10 +20,12 @@ void zvRoadRunner::prepare() {
 
 zvEventOutcome zvRoadRunner::run(std::vector<std::string> arguments, const std::set<zvString>* secretNames) {
     zvEventRoad road(m_session, std::move(arguments), secretNames);
+    m_pRunning = &road.outcome();
     try {
         road.run();
     } catch (const zvProgramFailure&) {
         // The outcome has it.
     }
+    m_pRunning = nullptr;
     return road.outcome();
 }

@@ -11,9 +11,11 @@ public:
 
     void prepare() override;
     zvEventOutcome run(std::vector<std::string> arguments, const std::set<zvString>* secretNames) override;
+    const zvEventOutcome* running() const override { return m_pRunning; }
 
 private:
     zvRoadSession& m_session;
+    const zvEventOutcome* m_pRunning = nullptr;
 };
 
 #endif
