@@ -70,5 +70,6 @@ void zvCommonUtils::sleep(unsigned long milliseconds) { zvPlatform::sleep(millis
 void zvCommonUtils::adoptUserLocale() { zvPlatform::adoptUserLocale(); }
 
 bool zvCommonUtils::validBooleanValue(const zvString& text) {
-    return text.equalsIgnoreCase("true") || text.equalsIgnoreCase("false");
+    return text.size() == 4 ? text.equalsIgnoreCase("true")
+                            : text.size() == 5 && text.equalsIgnoreCase("false");
 }
