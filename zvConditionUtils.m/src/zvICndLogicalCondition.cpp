@@ -40,7 +40,9 @@ struct OpenCondition {
     }
 };
 
-// A stack that allocates nothing for trees of a usual depth.
+// A stack that allocates nothing for trees of a usual depth. Its array is deliberately uninitialised:
+// clearing it would take longer than the evaluation.
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
 class OpenConditions {
 public:
     bool empty() const { return m_size == 0; }
@@ -64,8 +66,6 @@ public:
 private:
     static constexpr std::size_t usualDepth = 16;
 
-    // Deliberately uninitialised: clearing it would take longer than the evaluation.
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
     std::array<OpenCondition, usualDepth> m_usual;
     std::vector<OpenCondition> m_deep;
     std::size_t m_size = 0;
