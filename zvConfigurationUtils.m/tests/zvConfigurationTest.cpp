@@ -112,6 +112,7 @@ TEST_F(zvConfigurationTest, ObjectsOfATypeWithTheSameAttributesAreAGroup) {
                      object("Part", "3", "<Attribute LocalName='a' RemoteName='s' DataType='Float'/>"))
             .isOk());
     std::vector<int> groups;
+    groups.reserve(static_cast<std::size_t>(manager().numObjects()));
     for (int i = 0; i < manager().numObjects(); ++i) {
         groups.push_back(manager().getObjectAt(i)->getAttributeGroup());
     }

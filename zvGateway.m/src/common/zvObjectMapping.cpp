@@ -115,6 +115,7 @@ void zvObjectMapping::carry(const zvCfgObject& object) {
 
 void zvObjectMapping::noteUnmapped() {
     std::vector<const zvString*> carried;  // the values that have a place, by their addresses
+    carried.reserve(m_attributes.size());
     for (const Attribute& attribute : m_attributes) {
         carried.push_back(&attribute.value);
     }
