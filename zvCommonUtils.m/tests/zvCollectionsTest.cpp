@@ -3,7 +3,9 @@
 #include <map>
 #include <random>
 #include <string>
+#include <vector>
 
+#include "zvNameTable.h"
 #include "zvReferenceCtr.h"
 #include "zvStringList.h"
 #include "zvStringToAttrMap.h"
@@ -149,6 +151,48 @@ TEST(zvStringToAttrMapTest, FindsManyKeysAndNoOthers) {
         EXPECT_EQ(copy.findAttr(key(i))->value().getIntValue(), i);
         EXPECT_EQ(map.findAttr(key(i + count)), nullptr);
     }
+}
+
+// Names whose hashes are equal, and so more of them than there are slots for.
+TEST(zvNameTableTest, FindsNamesThatCollide) {
+    constexpr std::uint32_t hash = 5;
+    std::vector<zvString> names;
+    for (int i = 0; i < 40; ++i) {
+        names.emplace_back(std::to_string(i).c_str());
+    }
+    zvNameTable<int> table;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        EXPECT_EQ(table.find(viewOf(names[i]), hash), nullptr);
+        EXPECT_TRUE(table.add(viewOf(names[i]), hash, static_cast<int>(i)));
+    }
+    int count = 0;
+    table.forEach([&](zvStringView name, std::uint32_t, int value) {
+        EXPECT_EQ(name, viewOf(names[static_cast<std::size_t>(value)]));
+        ++count;
+    });
+    EXPECT_EQ(count, 40);
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        EXPECT_FALSE(table.add(viewOf(names[i]), hash, -1));
+        ASSERT_NE(table.find(viewOf(names[i]), hash), nullptr) << i;
+        EXPECT_EQ(*table.find(viewOf(names[i]), hash), static_cast<int>(i));
+    }
+}
+
+// Lengths on both sides of those that are compared and hashed in one step.
+TEST(zvStringUnitsTest, TellsEveryUnitOfATextApart) {
+    for (int length = 1; length < 20; ++length) {
+        const zvString text(std::string(static_cast<std::size_t>(length), 'a').c_str());
+        EXPECT_EQ(zvString(text), text);
+        EXPECT_EQ(zvStringUnits::hashOf(zvString(text)), zvStringUnits::hashOf(text));
+        for (int i = 0; i < length; ++i) {
+            const zvString other = text.substr(0, i) + "b" + text.substr(i + 1, length);
+            EXPECT_NE(other, text) << length << ", " << i;
+            EXPECT_TRUE(text < other && !(other < text)) << length << ", " << i;
+            EXPECT_NE(zvStringUnits::hashOf(other), zvStringUnits::hashOf(text)) << length << ", " << i;
+        }
+        EXPECT_TRUE(text < text + "a" && !(text + "a" < text) && text != text + "a");
+    }
+    EXPECT_TRUE(zvString() == zvString("") && zvString() < zvString("a") && !(zvString() < zvString()));
 }
 
 TEST(zvTemplateMapTest, FirstValueWins) {

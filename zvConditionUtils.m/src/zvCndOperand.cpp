@@ -5,7 +5,9 @@
 zvCndOperand::zvCndOperand() = default;
 
 zvCndOperand::zvCndOperand(zvString&& text, zvOperandValueTypeEnum valueType)
-    : m_value(std::move(text)), m_valueType(valueType) {}
+    : m_value(std::move(text)), m_valueType(valueType) {
+    remember();
+}
 
 zvCndOperand::zvCndOperand(const zvCndOperand& other) = default;
 
@@ -15,11 +17,31 @@ zvCndOperand::~zvCndOperand() = default;
 
 zvCndOperand& zvCndOperand::operator=(const zvCndOperand& other) = default;
 
-void zvCndOperand::setValue(const zvValue& value) { m_value = value; }
+void zvCndOperand::setValue(const zvValue& value) {
+    m_value = value;
+    remember();
+}
+
+void zvCndOperand::setValueType(const zvOperandValueTypeEnum& valueType) {
+    m_valueType = valueType;
+    remember();
+}
 
 void zvCndOperand::setText(zvString&& text, zvOperandValueTypeEnum valueType) {
     m_value.setStrValue(std::move(text));
     m_valueType = valueType;
+    remember();
+}
+
+// What every evaluation asks for.
+void zvCndOperand::remember() {
+    if (m_valueType == zvOperandVariable) {
+        m_value.rememberName();
+    } else if (m_valueType == zvOperandConstant) {
+        m_value.rememberConstant();
+    } else {
+        m_value.forget();
+    }
 }
 
 // Short circuit: the text forms of numbers, dates and booleans are never empty.

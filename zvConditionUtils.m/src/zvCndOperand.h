@@ -25,7 +25,7 @@ public:
     zvValue getValue() const { return m_value; }
     void setValue(const zvValue& value);
     zvOperandValueTypeEnum getValueType() const { return m_valueType; }
-    void setValueType(const zvOperandValueTypeEnum& valueType) { m_valueType = valueType; }
+    void setValueType(const zvOperandValueTypeEnum& valueType);
 
     /// Replaces the value with the String `text`.
     void setText(zvString&& text, zvOperandValueTypeEnum valueType);
@@ -36,6 +36,8 @@ public:
     bool hasText() const;
 
 private:
+    void remember();
+
     zvValue m_value;
     zvOperandValueTypeEnum m_valueType = zvOperandConstant;
 };

@@ -44,6 +44,8 @@ protected:
     bool compare(const zvCndContext& context) const;
 
 private:
+    static const zvValue* resolve(const zvCndOperand& operand, const zvCndContext& context);
+
     zvCndOperand m_lhsOperand;
     zvCndOperand m_rhsOperand;
 };

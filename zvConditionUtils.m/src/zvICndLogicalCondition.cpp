@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstddef>
-#include <memory_resource>
 #include <typeinfo>
 #include <utility>
 
@@ -31,25 +30,55 @@ const zvICndLogicalCondition* asPlain(const zvICndCondition& condition) {
 
 // A condition whose children are being evaluated.
 struct OpenCondition {
-    explicit OpenCondition(const zvICndLogicalCondition& condition)
-        : type(condition.getConditionType()), rest(condition.children()) {}
-
     zvCndConditionTypeEnum type;
-    zvCndChildren rest;
+    const zvCndCondition* next;
+    const zvCndCondition* end;
+
+    static OpenCondition of(const zvICndLogicalCondition& condition) {
+        const zvCndChildren children = condition.children();
+        return {condition.getConditionType(), children.next, children.end};
+    }
 };
 
-// Trees up to this depth are evaluated without heap allocation.
-constexpr std::size_t usualDepth = 16;
+// A stack that allocates nothing for trees of a usual depth. Its array is deliberately uninitialised:
+// clearing it would take longer than the evaluation.
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
+class OpenConditions {
+public:
+    bool empty() const { return m_size == 0; }
+    void push(const OpenCondition& condition) {
+        if (m_size < usualDepth) {
+            m_usual[m_size] = condition;
+        } else {
+            m_deep.push_back(condition);
+        }
+        ++m_size;
+    }
+    OpenCondition pop() {
+        if (--m_size < usualDepth) {
+            return m_usual[m_size];
+        }
+        const OpenCondition last = m_deep.back();
+        m_deep.pop_back();
+        return last;
+    }
+
+private:
+    static constexpr std::size_t usualDepth = 16;
+
+    std::array<OpenCondition, usualDepth> m_usual;
+    std::vector<OpenCondition> m_deep;
+    std::size_t m_size = 0;
+};
 
 // The result before the first child is evaluated; final if there are no children, when AND is false too.
 bool initialResult(const OpenCondition& condition) {
-    return condition.type == zvCndConditionAnd && condition.rest.next != condition.rest.end;
+    return condition.type == zvCndConditionAnd && condition.next != condition.end;
 }
 
 // The short circuit: whether the last child's result decides the condition's.
 bool isDecided(const OpenCondition& condition, bool lastResult) {
-    return condition.rest.next == condition.rest.end ||
-           (condition.type == zvCndConditionAnd && !lastResult) ||
+    return condition.next == condition.end || (condition.type == zvCndConditionAnd && !lastResult) ||
            (condition.type == zvCndConditionOr && lastResult);
 }
 
@@ -87,30 +116,27 @@ zvICndLogicalCondition* zvICndLogicalCondition::from(const zvCndCondition& condi
 }
 
 bool zvICndLogicalCondition::evaluateTree(const zvCndContext& context) const {
-    // Deliberately uninitialised: clearing it would take longer than the evaluation.
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
-    alignas(OpenCondition) std::array<std::byte, usualDepth * sizeof(OpenCondition)> memory;
-    std::pmr::monotonic_buffer_resource resource(memory.data(), memory.size());
-    std::pmr::vector<OpenCondition> open(&resource);
-    open.reserve(usualDepth);
-    open.emplace_back(*this);
-    bool result = initialResult(open.back());
-    while (!open.empty()) {
-        OpenCondition& current = open.back();
+    OpenConditions outer;
+    OpenCondition current = OpenCondition::of(*this);
+    bool result = initialResult(current);
+    while (true) {
         if (isDecided(current, result)) {
             result = result != (current.type == zvCndConditionNot);
-            open.pop_back();
+            if (outer.empty()) {
+                return result;
+            }
+            current = outer.pop();
             continue;
         }
-        const zvCndCondition& child = *current.rest.next++;
-        if (const zvICndLogicalCondition* const logical = asPlain(*child.operator->())) {
-            open.emplace_back(*logical);
-            result = initialResult(open.back());
+        const zvICndCondition& child = *(current.next++)->operator->();
+        if (const zvICndLogicalCondition* const logical = asPlain(child)) {
+            outer.push(current);
+            current = OpenCondition::of(*logical);
+            result = initialResult(current);
         } else {
-            result = child->evaluate(context);
+            result = child.evaluate(context);
         }
     }
-    return result;
 }
 
 void zvICndLogicalCondition::release(std::vector<zvCndCondition>& conditions) {

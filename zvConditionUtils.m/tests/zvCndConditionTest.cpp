@@ -1,5 +1,6 @@
 #include "zvCndCondition.h"
 
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -171,6 +172,112 @@ TEST(zvCndContextTest, RefusesEmptyAndTakenNames) {
     attribute.setValue(zvValue(2));
     EXPECT_TRUE(context.getAttribute("a", attribute));
     EXPECT_EQ(1, attribute.getValue().getIntValue());
+}
+
+TEST(zvCndContextTest, SetsAttributesAgainAndBorrowsOthers) {
+    const zvString borrowed("borrowed");
+    const zvValue value(7);
+    zvAttribute found;
+    zvCndContext context;
+    context.reserve(-1);
+    EXPECT_FALSE(context.setAttribute("", "1", zvDataTypeInteger) || context.borrowAttribute("", value));
+    EXPECT_TRUE(context.borrowAttribute(borrowed, value));
+    EXPECT_FALSE(context.borrowAttribute(borrowed, value));
+    EXPECT_FALSE(context.setAttribute("borrowed", "1", zvDataTypeInteger));
+    found.setName("borrowed");
+    EXPECT_FALSE(context.addAttribute(found));
+    EXPECT_TRUE(context.getAttribute("borrowed", found));
+    EXPECT_EQ(narrow(found.getName()) + narrow(found.getValue().getValue()), "borrowed7");
+    const zvCndCondition rule = parse("{set} = '8' AND {borrowed} = '7'");
+    for (const auto& [text, type, outcome] :
+         {std::tuple("8", zvDataTypeString, true), std::tuple("8.9", zvDataTypeInteger, true),
+          std::tuple("8.9", zvDataTypeFloat, false),
+          std::tuple("a text that is longer", zvDataTypeString, false),
+          std::tuple("8", zvDataTypeString, true)}) {
+        EXPECT_TRUE(context.setAttribute("set", text, type));
+        EXPECT_EQ(rule->evaluate(context), outcome) << text;
+        EXPECT_EQ(rule->evaluate(zvCndContext(context)), outcome) << text << ", in a copy";
+    }
+    EXPECT_FALSE(context.borrowAttribute("set", value));
+}
+
+// Once with what an operand keeps of its text, and once with the value alone.
+TEST(zvCndOperandTest, AConstantComparesAsItsText) {
+    const char* const texts[] = {"12",
+                                 "-3",
+                                 "2.5",
+                                 "-2.5",
+                                 "2.50001",
+                                 "0",
+                                 "-0",
+                                 "1",
+                                 "007",
+                                 " 12",
+                                 "12 x",
+                                 "1e2",
+                                 "abc",
+                                 ".5",
+                                 "5.",
+                                 "True",
+                                 "--1",
+                                 "-",
+                                 "2147483648",
+                                 "999999999999999",
+                                 "9999999999999999",
+                                 "1.2.3"};
+    const zvValue values[] = {zvValue(12),    zvValue(-3),    zvValue(2),     zvValue(2.5F),
+                              zvValue(-2.5F), zvValue(0.5F),  zvValue(true),  zvValue(false),
+                              zvValue("12"),  zvValue("abc"), zvValue(100.0F)};
+    for (const zvValue& value : values) {
+        for (const char* const constant : texts) {
+            zvCndContext context;
+            add(context, "name", value);
+            const zvValue plain{zvString(constant)};
+            const bool isOrdered = value.getDataType() != zvDataTypeBoolean;
+            const auto compared = allComparisons(variable("name"), text(constant));
+            const bool expected[] = {value == plain,
+                                     value != plain,
+                                     isOrdered && value < plain,
+                                     isOrdered && value <= plain,
+                                     isOrdered && value > plain,
+                                     isOrdered && value >= plain};
+            for (std::size_t i = 0; i < (isOrdered ? compared.size() : 2); ++i) {
+                EXPECT_EQ(compared[i]->evaluate(context), expected[i])
+                    << narrow(value.getValue()) << " and " << constant << ", comparison " << i;
+            }
+        }
+    }
+}
+
+TEST(zvCndOperandTest, AChangedValueKeepsNothingOfItsText) {
+    const zvCndOperand operands[] = {text("12"), variable("12"), text("2.5"), variable("name")};
+    for (const zvCndOperand& operand : operands) {
+        zvValue value = operand.getValue();
+        value.setDataType(zvDataTypeInteger);
+        EXPECT_EQ(value.getIntValue(), -1);
+        value.setDataType(zvDataTypeFloat);
+        EXPECT_EQ(value.getFloatValue(), -1.0F);
+        value = operand.getValue();
+        value.setStrValue("7");
+        EXPECT_EQ(value.getIntValue(), 7);
+        EXPECT_EQ(value.getFloatValue(), 7.0F);
+        EXPECT_TRUE(value.getBoolValue());
+    }
+    zvCndContext context;
+    add(context, "12", zvValue("0"));
+    zvCndOperand operand = text("12");
+    const auto isEqual = [&operand, &context](const char* constant) {
+        return Factory::createEqualsCondition(operand, text(constant))->evaluate(context);
+    };
+    EXPECT_TRUE(isEqual("12") && !isEqual("0"));
+    operand.setValueType(zvOperandVariable);
+    EXPECT_TRUE(isEqual("0") && !isEqual("12"));
+    operand.setValue(zvValue(12));
+    EXPECT_TRUE(isEqual("0")) << "the name is the number's text";
+    operand.setValueType(zvOperandConstant);
+    EXPECT_TRUE(isEqual("12") && !isEqual("0"));
+    operand.setValueType(static_cast<zvOperandValueTypeEnum>(2));
+    EXPECT_FALSE(isEqual("12") || isEqual("0"));
 }
 
 // The results of = != < <= > >= as 1 or 0; "!" for one that throws.

@@ -87,7 +87,9 @@ zvResult zvCfgMgrXmlParser::parse(const zvString& source, bool isFile) {
 }
 
 zvResult zvCfgMgrXmlParser::parseDocument(const zvString& source, bool isFile) {
-    m_pParser = std::make_unique<zvXMLParser>(m_pFindings, zvXMLOptions::withoutExternalEntities());
+    zvXMLOptions options = zvXMLOptions::withoutExternalEntities();
+    options.onlyTextOf = u"MappingRule";
+    m_pParser = std::make_unique<zvXMLParser>(m_pFindings, options);
     if (!m_pParser->loadXMLFromString(source, isFile)) {
         return refuse(notLoadable, "Configuration file : \"", source, "\" not found!");
     }

@@ -1,17 +1,10 @@
 #include "zvCfgObject.h"
 
 #include "zvLogSource.h"
-#include "zvMapIndex.h"
 
 namespace {
 
 constexpr zvLogSource logger("zvConfigurationUtils.m/src/zvCfgObject");
-
-template <class Index>
-const zvCfgAttribute* findIn(const Index& index, const zvString& name) {
-    const auto* const attribute = zvMapFind(index, name);
-    return attribute == nullptr ? nullptr : *attribute;
-}
 
 }  // namespace
 
@@ -25,6 +18,7 @@ bool zvCfgObject::addAttribute(zvCfgAttribute* attribute) {
         return false;
     }
     m_attributes.add(attribute);
+    m_attributeGroup = 0;
     const zvString& localName = attribute->localName();
     const zvString& remoteName = attribute->remoteName();
     const zvString& key = attribute->keyName();
@@ -34,14 +28,14 @@ bool zvCfgObject::addAttribute(zvCfgAttribute* attribute) {
     }
     bool added = false;
     if (!localName.empty()) {
-        added = m_byLocalName.try_emplace(localName, attribute).second;
+        added = m_byLocalName.add(attribute->sharedLocalName(), attribute);
         if (!added) {
             logger.warn("Attribute with Local Name : ", localName,
                         " cannot be added to the object of local custom type : ", m_strLocalCustomType);
         }
     }
     if (!remoteName.empty()) {
-        added = m_byRemoteName.try_emplace(remoteName, attribute).second;
+        added = m_byRemoteName.add(attribute->sharedRemoteName(), attribute);
         if (!added) {
             logger.warn("Attribute with Remote name : ", remoteName,
                         " cannot be added to the object with local custom type : ", m_strLocalCustomType);
@@ -50,7 +44,7 @@ bool zvCfgObject::addAttribute(zvCfgAttribute* attribute) {
     if (key.empty()) {
         m_nonKeyAttributes.push_back(attribute);
     } else {
-        added = m_byKey.try_emplace(key, attribute).second;
+        added = m_byKey.add(attribute->sharedKeyName(), attribute);
         if (!added) {
             logger.warn("Attribute with Key : ", key,
                         " cannot be added to the object of local custom type : ", m_strLocalCustomType);
@@ -64,12 +58,9 @@ bool zvCfgObject::addAttribute(zvCfgAttribute* attribute) {
 
 const zvCfgAttribute* zvCfgObject::getAttribute(int i) const { return m_attributes.at(i); }
 
-int zvCfgObject::numKeyAttributes() const { return static_cast<int>(m_byKey.size()); }
+int zvCfgObject::numKeyAttributes() const { return m_byKey.size(); }
 
-const zvCfgAttribute* zvCfgObject::getKeyAttribute(int i) const {
-    const Index::value_type* const entry = zvMapEntryAt(m_byKey, i);
-    return entry == nullptr ? nullptr : entry->second;
-}
+const zvCfgAttribute* zvCfgObject::getKeyAttribute(int i) const { return m_byKey.at(i); }
 
 int zvCfgObject::numNonKeyAttributes() const { return static_cast<int>(m_nonKeyAttributes.size()); }
 
@@ -83,14 +74,12 @@ const zvCfgAttribute* zvCfgObject::getDefaultAttribute(int i) const {
     return zvCfgEntryAt(m_defaultAttributes, i);
 }
 
-const zvCfgAttribute* zvCfgObject::getAttributeByKey(const zvString& key) const {
-    return findIn(m_byKey, key);
-}
+const zvCfgAttribute* zvCfgObject::getAttributeByKey(const zvString& key) const { return m_byKey.find(key); }
 
 const zvCfgAttribute* zvCfgObject::getAttributeByLocalName(const zvString& name) const {
-    return findIn(m_byLocalName, name);
+    return m_byLocalName.find(name);
 }
 
 const zvCfgAttribute* zvCfgObject::getAttributeByRemoteName(const zvString& name) const {
-    return findIn(m_byRemoteName, name);
+    return m_byRemoteName.find(name);
 }

@@ -1,10 +1,10 @@
 #ifndef ZV_CFG_OBJECT_H
 #define ZV_CFG_OBJECT_H
 
-#include <map>
 #include <vector>
 
 #include "zvCfgAttribute.h"
+#include "zvCfgNameIndex.h"
 #include "zvCfgOwner.h"
 #include "zvCndCondition.h"
 #include "zvFinding.h"
@@ -27,6 +27,8 @@ public:
     void setRemoteCustomType(zvString type) { m_strRemoteCustomType.swap(type); }
     /// The condition under which the mapping applies; null if there is none.
     zvCndCondition getMappingRule() const { return m_mappingRule; }
+    /// The same by reference, owned by the object.
+    const zvCndCondition& mappingRule() const { return m_mappingRule; }
     void setMappingRule(const zvCndCondition& rule) { m_mappingRule = rule; }
     /// The rule's text in the file that it was read from, blanks included; empty if it was not read from one.
     zvString getMappingRuleText() const { return m_strMappingRuleText; }
@@ -66,21 +68,26 @@ public:
     const zvCfgAttribute* getAttributeByRemoteName(const zvString& name) const;
     /// @}
 
+    /// Objects of one group have the same attributes, by names and data types and in the same order. 0 for an
+    /// object that is in no group: it is not in the manager, or was given an attribute since.
+    int getAttributeGroup() const { return m_attributeGroup; }
+
 private:
-    using Index = std::map<zvString, zvCfgAttribute*>;
+    friend class zvCfgObjectConfig;
 
     zvString m_strOotbType;
     zvString m_strLocalCustomType;
     zvString m_strRemoteCustomType;
-    Index m_byKey;
-    Index m_byLocalName;
-    Index m_byRemoteName;
+    zvCfgNameIndex m_byKey;
+    zvCfgNameIndex m_byLocalName;
+    zvCfgNameIndex m_byRemoteName;
     std::vector<zvCfgAttribute*> m_nonKeyAttributes;
     std::vector<zvCfgAttribute*> m_defaultAttributes;
     zvCfgOwner<zvCfgAttribute> m_attributes;
     zvCndCondition m_mappingRule;
     zvString m_strMappingRuleText;
     zvTextPosition m_position;
+    int m_attributeGroup = 0;
 };
 
 #endif

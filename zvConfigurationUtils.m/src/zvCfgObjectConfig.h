@@ -22,11 +22,14 @@ public:
     const zvCfgObject* at(int i) const { return m_objects.at(i); }
 
 private:
+    static int groupOf(const zvCfgObject& object, const zvCfgObjectList& sameType);
+
     zvCfgTypeIndex<zvCfgObjectList> m_byOotbType;
     zvCfgTypeIndex<zvCfgObjectList> m_byLocalType;
     zvCfgTypeIndex<zvCfgObjectList> m_byRemoteType;
     zvCfgTypeIndex<zvCfgObjectList> m_byTypes;  // key: both names, concatenated
     zvCfgOwner<zvCfgObject> m_objects;
+    int m_lastGroup = 0;
 };
 
 #endif

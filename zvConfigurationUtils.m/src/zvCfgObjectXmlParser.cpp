@@ -1,6 +1,7 @@
 #include "zvCfgObjectXmlParser.h"
 
 #include <memory>
+#include <unordered_map>
 #include <vector>
 
 #include "zvCfgConfigManager.h"
@@ -32,10 +33,18 @@ constexpr TextField<zvCfgObject> objectFields[] = {
     {u"RemoteCustType", &zvCfgObject::setRemoteCustomType},
 };
 
+struct NameField {
+    View name;
+    void (zvCfgAttribute::*set)(zvCfgAttribute::SharedName);
+};
+
+constexpr NameField attributeNames[] = {
+    {u"LocalName", &zvCfgAttribute::setSharedLocalName},
+    {u"RemoteName", &zvCfgAttribute::setSharedRemoteName},
+    {u"Key", &zvCfgAttribute::setSharedKeyName},
+};
+
 constexpr TextField<zvCfgAttribute> attributeFields[] = {
-    {u"LocalName", &zvCfgAttribute::setLocalName},
-    {u"RemoteName", &zvCfgAttribute::setRemoteName},
-    {u"Key", &zvCfgAttribute::setKeyName},
     {u"DefaultValue", &zvCfgAttribute::setDefaultValue},
 };
 
@@ -70,6 +79,22 @@ const zvTransferModeEnum* findTransferMode(View text) {
     }
     return nullptr;
 }
+
+// The names of attributes, each of them once: the objects of a configuration repeat them.
+class NamePool {
+public:
+    /// The view borrows from a document that outlives the pool.
+    zvCfgAttribute::SharedName shared(View name) {
+        zvCfgAttribute::SharedName& known = m_names[name];
+        if (known == nullptr) {
+            known = zvCfgAttribute::toShared(toString(name));
+        }
+        return known;
+    }
+
+private:
+    std::unordered_map<View, zvCfgAttribute::SharedName> m_names;
+};
 
 // Reads the objects of a section. What is wrong is logged in the system's own words, and reported in plain
 // ones.
@@ -188,13 +213,25 @@ private:
         return zvCfgFindings::listOf(words);
     }
 
-    static std::unique_ptr<zvCfgAttribute> parseAttribute(const zvXMLElement& element) {
+    // False for a name that is none of an attribute's names.
+    bool setName(zvCfgAttribute& attribute, View name, View value) const {
+        for (const NameField& field : attributeNames) {
+            if (field.name == name) {
+                (attribute.*field.set)(m_names.shared(value));
+                return true;
+            }
+        }
+        return false;
+    }
+
+    std::unique_ptr<zvCfgAttribute> parseAttribute(const zvXMLElement& element) const {
         auto attribute = std::make_unique<zvCfgAttribute>();
         attribute->setDataType(zvDataTypeString);
         element.forEachAttribute([&](View name, View value) {
             if (name == u"DataType") {
                 attribute->setDataType(zvDataTypeWords::typeOf(value));
-            } else if (!setField(*attribute, attributeFields, name, value) &&
+            } else if (!setName(*attribute, name, value) &&
+                       !setField(*attribute, attributeFields, name, value) &&
                        !attribute->addOptionalAttribute(toString(name), toString(value))) {
                 logger.error("Error occured while adding optional attribute : ", toString(name));
             }
@@ -300,6 +337,7 @@ private:
 
     zvCfgFindings m_findings;
     zvCfgObjectXmlParser::InvalidRule m_invalidRule;
+    mutable NamePool m_names;
 };
 
 }  // namespace

@@ -63,6 +63,65 @@ TEST_F(zvConfigurationTest, AnObjectIndexesItsAttributes) {
     EXPECT_EQ(object.getAttributeByKey(""), nullptr);
 }
 
+TEST_F(zvConfigurationTest, AnIndexKeepsTheNamesThatAttributesHadWhenTheyWereAdded) {
+    zvCfgObject object;
+    zvCfgAttribute* const renamed = attribute("k", "b", "r");
+    EXPECT_TRUE(object.addAttribute(attribute("", "a", "")) && object.addAttribute(renamed));
+    renamed->setLocalName("z");
+    renamed->setKeyName("");
+    EXPECT_TRUE(object.addAttribute(attribute("", "c", "")));
+    EXPECT_EQ(object.getAttributeByLocalName("b"), renamed);
+    EXPECT_EQ(object.getAttributeByLocalName("z"), nullptr);
+    EXPECT_EQ(object.getAttributeByKey("k")->getLocalName(), "z");
+    EXPECT_FALSE(renamed->isKeyAttribute());
+    const zvCfgAttribute copy(*renamed);
+    renamed->setRemoteName("other");
+    EXPECT_EQ(copy.getRemoteName(), "r");
+}
+
+// More than an index keeps in a list.
+TEST_F(zvConfigurationTest, AnObjectWithManyAttributesFindsEachOfThem) {
+    constexpr int count = 200;
+    const auto name = [](int i) { return "n" + std::to_string(i * 7 % count + count); };
+    zvCfgObject object;
+    for (int i = 0; i < count; ++i) {
+        EXPECT_TRUE(object.addAttribute(attribute(name(i).c_str(), name(i).c_str(), "")));
+        EXPECT_FALSE(object.addAttribute(attribute(name(i / 2).c_str(), "", ""))) << i;
+    }
+    EXPECT_EQ(object.numKeyAttributes(), count);
+    for (int i = 0; i < count; ++i) {
+        EXPECT_EQ(object.getAttributeByLocalName(name(i).c_str())->getKeyName(), name(i).c_str());
+        EXPECT_EQ(object.getKeyAttribute(i)->getKeyName(), ("n" + std::to_string(i + count)).c_str());
+    }
+    EXPECT_EQ(object.getAttributeByLocalName("n"), nullptr);
+    EXPECT_EQ(object.getKeyAttribute(count), nullptr);
+}
+
+TEST_F(zvConfigurationTest, ObjectsOfATypeWithTheSameAttributesAreAGroup) {
+    const auto object = [](const char* local, const char* remote, const char* attributes) {
+        return std::string("<Object LocalCustType='") + local + "' RemoteCustType='" + remote + "'>" +
+               attributes + "</Object>";
+    };
+    const char* const two =
+        "<Attribute LocalName='a' RemoteName='r'/><Attribute LocalName='b' DataType='Float'/>";
+    ASSERT_TRUE(
+        parseObjects(object("Part", "1", two) + object("Part", "2", two) + object("Other", "2", two) +
+                     object("Part", "3", "<Attribute LocalName='a' RemoteName='r'/>") +
+                     object("Part", "3", "<Attribute LocalName='a' RemoteName='s'/>") +
+                     object("Part", "3", "<Attribute LocalName='a' RemoteName='s' Key='k'/>") +
+                     object("Part", "3", "<Attribute LocalName='a' RemoteName='s' DataType='Float'/>"))
+            .isOk());
+    std::vector<int> groups;
+    groups.reserve(static_cast<std::size_t>(manager().numObjects()));
+    for (int i = 0; i < manager().numObjects(); ++i) {
+        groups.push_back(manager().getObjectAt(i)->getAttributeGroup());
+    }
+    EXPECT_EQ(groups, (std::vector<int>{1, 1, 1, 2, 3, 3, 4}));
+    zvCfgObject* const changed = manager().getObjectsByLocalType("Part")->get(0);
+    changed->addAttribute(attribute("", "c", ""));
+    EXPECT_EQ(changed->getAttributeGroup(), 0);
+}
+
 TEST_F(zvConfigurationTest, ObjectsAreFoundByTheirTypes) {
     ASSERT_TRUE(parseObjects("<Object LocalCustType='Part' RemoteCustType='X'/>"
                              "<Object LocalCustType='Part' RemoteCustType='r'/><Other/>")

@@ -273,8 +273,16 @@ void zvXMLGuardedParser::endElement(const XMLElementDecl& declaration, const uns
 }
 
 void zvXMLGuardedParser::docCharacters(const XMLCh* const text, const XMLSize_t length, const bool isCData) {
-    DOMLSParserImpl::docCharacters(text, length, isCData);
+    if (keepsText()) {
+        DOMLSParserImpl::docCharacters(text, length, isCData);
+    }
     endPiece();
+}
+
+// Of the element that is being read.
+bool zvXMLGuardedParser::keepsText() const {
+    return m_options.onlyTextOf == nullptr || fCurrentParent == nullptr ||
+           XMLString::equals(fCurrentParent->getNodeName(), m_options.onlyTextOf);
 }
 
 void zvXMLGuardedParser::ignorableWhitespace(const XMLCh* const text, const XMLSize_t length,

@@ -69,6 +69,7 @@ protected:
 
 private:
     void endPiece();
+    bool keepsText() const;
     void countName(const XMLCh* pooledName);
     void countChecks(const xercesc::XMLElementDecl& declaration);
     void checkContentModel(const xercesc::DTDElementDecl& declaration);

@@ -12,6 +12,9 @@ struct zvXMLOptions {
     /// Values of an attribute whose values are enumerated.
     int mostEnumeratedValues = 1'000;
     int mostNotations = 1'000;
+    /// The one element whose text is kept, for large documents in which no other text is read, not even the
+    /// white space between elements; null keeps all.
+    const char16_t* onlyTextOf = nullptr;
 
     /// For documents that stand alone: nothing is read but the document.
     static zvXMLOptions withoutExternalEntities() {

@@ -136,6 +136,19 @@ TEST_F(zvXMLLimitsTest, WithoutExternalEntitiesNothingElseIsRead) {
     EXPECT_EQ("loaded in", outcome(inner, true, alone));
 }
 
+TEST_F(zvXMLLimitsTest, TheTextOfOneElementIsKept) {
+    zvXMLOptions options;
+    options.onlyTextOf = u"t";
+    zvXMLParser parser(nullptr, options);
+    ASSERT_TRUE(parser.loadXMLFromString(
+        "<r a=' v '>\n <t> a<!-- c --> <![CDATA[<b>]]>&lt;<u>no</u> c</t> no <t>\n</t>\n</r>\n", false));
+    zvString written;
+    ASSERT_TRUE(parser.writeTreeToString(written, "UTF-8"));
+    const std::string text = narrow(written);
+    EXPECT_EQ(text.substr(text.find("<r")),
+              "<r a=\" v \"><t> a<!-- c --> <![CDATA[<b>]]>&lt;<u/> c</t><t>\n</t></r>");
+}
+
 // Whoever may write to the folder puts a link in the place of the file, or of its folder, at the right
 // moment.
 TEST_F(zvXMLLimitsTest, LinksThatAreSwappedLeadNowhere) {

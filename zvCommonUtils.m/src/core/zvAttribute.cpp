@@ -21,3 +21,6 @@ zvString zvAttribute::getName() const { return m_strName; }
 void zvAttribute::setName(const zvString& name) { m_strName = name; }
 zvValue zvAttribute::getValue() const { return m_value; }
 void zvAttribute::setValue(const zvValue& value) { m_value = value; }
+void zvAttribute::setValue(const zvString& text, zvDataTypeEnum type, int precision) {
+    m_value.setValue(text, type, precision);
+}

@@ -20,6 +20,8 @@ public:
     void setName(const zvString& name);
     zvValue getValue() const;
     void setValue(const zvValue& value);
+    /// Sets the value from a text, as the same function of zvValue does.
+    void setValue(const zvString& text, zvDataTypeEnum type, int precision);
     /// The value by reference, owned by the attribute.
     const zvValue& value() const { return m_value; }
 

@@ -20,7 +20,22 @@ public:
     zvKeptString(const zvKeptString& other) : zvKeptString(static_cast<const zvString&>(other)) {}
     zvKeptString(zvKeptString&& other) noexcept : zvString(std::move(other)) {}
 
-    zvKeptString& operator=(zvKeptString other) noexcept {
+    /// Strong guarantee: a text that fits is copied into the buffer, another one into a new string first.
+    zvKeptString& operator=(const zvString& other) {
+        if (hasRoomFor(other.size())) {
+            zvString::operator=(other);
+        } else {
+            zvKeptString copy(other);
+            swap(copy);
+        }
+        return *this;
+    }
+    zvKeptString& operator=(const zvKeptString& other) { return *this = static_cast<const zvString&>(other); }
+    zvKeptString& operator=(zvString&& other) noexcept {
+        swap(other);
+        return *this;
+    }
+    zvKeptString& operator=(zvKeptString&& other) noexcept {
         swap(other);
         return *this;
     }

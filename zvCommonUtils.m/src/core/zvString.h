@@ -162,6 +162,10 @@ public:
     static void releaseUnicode(wchar16*& text);
     /// @}
 
+protected:
+    /// Whether a text of that length needs no other buffer.
+    bool hasRoomFor(int length) const { return m_capacity > length; }
+
 private:
     friend class zvCharString;
 

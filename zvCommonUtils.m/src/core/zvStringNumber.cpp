@@ -2,46 +2,17 @@
 
 #include <algorithm>
 #include <climits>
-#include <cstring>
 #include <cwchar>
 #include <cwctype>
 #include <memory>
 #include <new>
 
-#include "zvPlatform.h"
+#include "zvPlainNumber.h"
 
 namespace {
 
 // No locale has a space among ASCII's visible characters.
 bool isSpace(wchar16 unit) { return (unit <= u' ' || unit > u'~') && std::iswspace(unit) != 0; }
-
-// A decimal that needs no rounding but that of one division; false for every other text.
-bool readPlainNumber(const wchar16* text, std::size_t length, double& number) {
-    constexpr double powers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-    constexpr std::size_t mostDigits = 15;
-    if (length == 0 || length > mostDigits) {
-        return false;
-    }
-    long long digits = 0;
-    std::size_t decimals = 0;
-    bool hasPoint = false;
-    for (std::size_t i = 0; i < length; ++i) {
-        if (text[i] >= u'0' && text[i] <= u'9') {
-            digits = digits * 10 + (text[i] - u'0');
-            decimals += hasPoint ? 1 : 0;
-        } else if (text[i] == u'.' && !hasPoint && i > 0) {
-            hasPoint = true;
-        } else {
-            return false;
-        }
-    }
-    if (hasPoint && std::strcmp(zvPlatform::decimalPoint(), ".") != 0) {
-        return false;
-    }
-    number = static_cast<double>(digits) / powers[decimals];
-    return true;
-}
 
 // The length of the number's text: up to the white space behind it, which is all that can be told cheaply.
 std::size_t numberLength(const wchar16* text) {
@@ -86,7 +57,9 @@ zvString::zvString(long v) : zvString(formatted(L"%li", v)) {}
 
 zvString::zvString(double v) : zvString(formatted(L"%lf", v)) {}
 
-bool zvString::toBoolean() const { return equalsIgnoreCase("true") || equalsIgnoreCase("1"); }
+bool zvString::toBoolean() const {
+    return m_length == 1 ? *m_pBuffer == u'1' : m_length == 4 && equalsIgnoreCase("true");
+}
 
 int zvString::convertUnicodeToInt(const zvString& text) {
     if (text.empty()) {
@@ -112,12 +85,12 @@ double zvString::convertUnicodeToDouble(const zvString& text) {
     if (text.empty()) {
         return 0.0;
     }
+    const zvPlainNumber plain(text.m_pBuffer, static_cast<std::size_t>(text.m_length));
+    if (plain.isPlain() && (!plain.hasPoint() || zvPlainNumber::isPointOfLocale())) {
+        return plain.value();
+    }
     const wchar16* const number = skipWhiteSpace(text.m_pBuffer);
     const std::size_t length = numberLength(number);
-    double plain = 0.0;
-    if (readPlainNumber(number, length, plain)) {
-        return plain;
-    }
     constexpr std::size_t usualLength = 64;
     wchar_t usual[usualLength];
     std::unique_ptr<wchar_t[]> unusual;

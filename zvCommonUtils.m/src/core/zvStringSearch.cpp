@@ -7,6 +7,7 @@
 #include <new>
 
 #include "zvStringBuffer.h"
+#include "zvStringUnits.h"
 #include "zvStringView.h"
 
 namespace {
@@ -110,17 +111,18 @@ int countIn(View text, View pattern, int start, int end) {
 
 }  // namespace
 
-bool zvString::equals(const zvString& other) const {
-    return m_length == other.m_length && std::equal(m_pBuffer, m_pBuffer + m_length, other.m_pBuffer);
-}
+bool zvString::equals(const zvString& other) const { return zvStringUnits::areEqual(*this, other); }
 
 bool zvString::operator<(const zvString& other) const {
     // Maps spend their time here, and a view's own comparison looks at every unit twice.
     const int common = std::min(m_length, other.m_length);
-    if (common < unitsInOrder) {
-        return viewOf(*this) < viewOf(other);
-    }
     int i = 0;
+    if (common < unitsInOrder) {
+        while (i < common && m_pBuffer[i] == other.m_pBuffer[i]) {
+            ++i;
+        }
+        return i < common ? m_pBuffer[i] < other.m_pBuffer[i] : m_length < other.m_length;
+    }
     while (i + unitsInOrder < common &&
            std::memcmp(m_pBuffer + i, other.m_pBuffer + i, sizeof(std::uint64_t)) == 0) {
         i += unitsInOrder;

@@ -32,6 +32,8 @@ public:
     int size() const;
 
 private:
+    friend class zvCndContext;
+
     zvStringToAttrMapImpl* m_pImpl;
 };
 

@@ -7,8 +7,13 @@
 #include <utility>
 
 #include "zvDatePattern.h"
+#include "zvPlainNumber.h"
+#include "zvStringUnits.h"
 
 namespace {
+
+constexpr int unsetInteger = -1;
+constexpr float unsetFloat = -1.0F;
 
 constexpr char noOrderOfBooleans[] = "On boolean datatype only equal to and not equal to action happens";
 
@@ -79,9 +84,9 @@ zvValue::~zvValue() = default;
 
 // Strong guarantee: the only copy that may throw comes first.
 zvValue& zvValue::operator=(const zvValue& other) {
-    zvKeptString text(other.m_strValue);
-    m_strValue.swap(text);
+    m_strValue = other.m_strValue;
     m_bValue = other.m_bValue;
+    m_remembered = other.m_remembered;
     m_integer = other.m_integer;
     m_float = other.m_float;
     m_precision = other.m_precision;
@@ -92,46 +97,99 @@ zvValue& zvValue::operator=(const zvValue& other) {
 
 void zvValue::initialize() {
     m_bValue = false;
-    m_integer = -1;
-    m_float = -1.0F;
+    m_remembered = nothing;
+    m_integer = unsetInteger;
+    m_float = unsetFloat;
     m_precision = 3;
     m_dataType = zvDataTypeNone;
 }
 
 void zvValue::copy(const zvValue& other) { *this = other; }
 
+// The slots are as if they had never been used.
+void zvValue::forget() {
+    if (m_remembered != nothing) {
+        m_remembered = nothing;
+        m_integer = unsetInteger;
+        m_float = unsetFloat;
+    }
+}
+
+// What depends on the locale is left to be read when it is asked for: white space, and numbers that are no
+// plain decimals.
+void zvValue::rememberConstant() {
+    forget();
+    if (m_dataType != zvDataTypeString || m_strValue.empty() || m_integer != unsetInteger ||
+        m_float != unsetFloat) {
+        return;
+    }
+    m_remembered = textOfConstant;
+    const zvPlainNumber number(m_strValue.data(), static_cast<std::size_t>(m_strValue.size()));
+    if (number.isPlain()) {
+        m_integer = zvString::convertUnicodeToInt(m_strValue);
+        m_float = toFloat(number.value());
+        m_remembered = static_cast<unsigned char>(textOfConstant | integerOfText |
+                                                  (number.hasPoint() ? floatOfTextWithPoint : floatOfText));
+    }
+}
+
+void zvValue::rememberName() {
+    forget();
+    if (m_dataType == zvDataTypeString && m_integer == unsetInteger && m_float == unsetFloat) {
+        m_integer = static_cast<int>(zvStringUnits::hashOf(m_strValue));
+        m_remembered = hashOfText;
+    }
+}
+
+std::uint32_t zvValue::textHash() const {
+    return remembers(hashOfText) ? static_cast<std::uint32_t>(m_integer) : zvStringUnits::hashOf(m_strValue);
+}
+
+bool zvValue::remembersFloat() const {
+    return remembers(floatOfText) || (remembers(floatOfTextWithPoint) && zvPlainNumber::isPointOfLocale());
+}
+
 void zvValue::setBoolValue(bool value) {
+    forget();
     m_bValue = value;
     m_dataType = zvDataTypeBoolean;
 }
 
 void zvValue::setIntValue(int value) {
+    forget();
     m_integer = value;
     m_dataType = zvDataTypeInteger;
 }
 
 void zvValue::setFloatValue(float value, int precision) {
+    forget();
     m_float = value;
     m_precision = precision;
     m_dataType = zvDataTypeFloat;
 }
 
 void zvValue::setStrValue(const zvString& value) {
+    forget();
     m_strValue = value;
     m_dataType = zvDataTypeString;
 }
 
 void zvValue::setStrValue(zvString&& value) {
+    forget();
     m_strValue.swap(value);
     m_dataType = zvDataTypeString;
 }
 
 void zvValue::setDateValue(const zvDateTime& value) {
+    forget();
     m_dateValue = value;
     m_dataType = zvDataTypeDate;
 }
 
-void zvValue::setDataType(zvDataTypeEnum type) { m_dataType = type; }
+void zvValue::setDataType(zvDataTypeEnum type) {
+    forget();
+    m_dataType = type;
+}
 
 void zvValue::setValue(const zvString& text, zvDataTypeEnum type, int precision) {
     initialize();
@@ -157,6 +215,9 @@ void zvValue::setValue(const zvString& text, zvDataTypeEnum type, int precision)
 }
 
 bool zvValue::getBoolValue() const {
+    if (remembers(integerOfText)) {
+        return m_integer != 0;
+    }
     switch (m_dataType) {
         case zvDataTypeBoolean:
             return m_bValue;
@@ -168,6 +229,9 @@ bool zvValue::getBoolValue() const {
 }
 
 int zvValue::getIntValue() const {
+    if (remembers(integerOfText)) {
+        return m_integer;
+    }
     switch (m_dataType) {
         case zvDataTypeInteger:
             return m_integer;
@@ -181,6 +245,9 @@ int zvValue::getIntValue() const {
 }
 
 float zvValue::getFloatValue() const {
+    if (remembersFloat()) {
+        return m_float;
+    }
     switch (m_dataType) {
         case zvDataTypeFloat:
             return m_float;

@@ -1,6 +1,8 @@
 #ifndef ZV_VALUE_H
 #define ZV_VALUE_H
 
+#include <cstdint>
+
 #include "zvDateTime.h"
 #include "zvException.h"
 #include "zvKeptString.h"
@@ -101,10 +103,31 @@ protected:
     void copy(const zvValue& other);
 
 private:
+    friend class zvCndOperand;
+    friend class zvICndComparisonCondition;
+
     template <typename Compare>
     bool compareText(const zvValue& other, Compare compare) const;
 
+    // What a String of a condition remembers of its text, which is read for every evaluation, in slots that a
+    // String does not use. Every setter forgets it.
+    enum Remembered : unsigned char {
+        nothing = 0,
+        integerOfText = 1,
+        floatOfText = 2,
+        floatOfTextWithPoint = 4,  // in locales that have a point
+        hashOfText = 8,            // in the integer's slot: of a variable's name
+        textOfConstant = 16        // it is not empty
+    };
+    void rememberConstant();
+    void rememberName();
+    void forget();
+    bool remembers(unsigned what) const { return (m_remembered & what) != 0; }
+    std::uint32_t textHash() const;
+    bool remembersFloat() const;
+
     bool m_bValue = false;
+    unsigned char m_remembered = nothing;
     int m_integer = -1;
     float m_float = -1.0F;
     int m_precision = 3;

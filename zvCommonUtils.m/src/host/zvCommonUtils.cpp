@@ -72,5 +72,6 @@ void zvCommonUtils::adoptUserLocale() { zvPlatform::adoptUserLocale(); }
 void zvCommonUtils::adoptUtf8() { zvPlatform::adoptUtf8(); }
 
 bool zvCommonUtils::validBooleanValue(const zvString& text) {
-    return text.equalsIgnoreCase("true") || text.equalsIgnoreCase("false");
+    return text.size() == 4 ? text.equalsIgnoreCase("true")
+                            : text.size() == 5 && text.equalsIgnoreCase("false");
 }

@@ -24,6 +24,7 @@ struct zvIncomingObject {
 /// Maps an object by the configuration that the manager has, as an event does, and keeps what came of it.
 class zvMappingTrial {
 public:
+    /// The object has to outlive this one.
     explicit zvMappingTrial(const zvIncomingObject& object);
 
     const zvObjectMapping& mapping() const { return m_mapping; }

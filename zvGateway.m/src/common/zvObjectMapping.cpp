@@ -2,40 +2,26 @@
 
 #include <algorithm>
 #include <functional>
-#include <utility>
 
 #include "zvCfgAttribute.h"
 #include "zvTypedValue.h"
 
 namespace {
 
-// Whether the rules of both objects see the same attributes: objects of one type mostly do.
-bool areComparedAlike(const zvCfgObject& one, const zvCfgObject& other) {
-    const int count = one.numAttributes();
-    if (&one == &other) {
-        return true;
-    }
-    if (count != other.numAttributes()) {
-        return false;
-    }
-    for (int i = 0; i < count; ++i) {
-        const zvCfgAttribute& left = *one.getAttribute(i);
-        const zvCfgAttribute& right = *other.getAttribute(i);
-        if (left.getDataType() != right.getDataType() || left.localName() != right.localName() ||
-            left.remoteName() != right.remoteName()) {
-            return false;
-        }
-    }
-    return true;
+// Whether the rules of both objects see the same attributes.
+bool areSeenAlike(const zvCfgObject& one, const zvCfgObject& other) {
+    return &one == &other ||
+           (one.getAttributeGroup() != 0 && one.getAttributeGroup() == other.getAttributeGroup());
 }
 
 }  // namespace
 
-zvObjectMapping::zvObjectMapping(Direction direction, Values values)
-    : m_direction(direction), m_values(std::move(values)) {}
+zvObjectMapping::zvObjectMapping(Direction direction, const Values& values)
+    : m_direction(direction), m_values(values) {}
 
 bool zvObjectMapping::map(const zvCfgObjectList* candidates) {
     const int count = candidates == nullptr ? 0 : candidates->size();
+    m_passedOver.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
         const zvCfgObject& candidate = *candidates->get(i);
         m_passedOver.push_back(&candidate);
@@ -50,56 +36,88 @@ bool zvObjectMapping::map(const zvCfgObjectList* candidates) {
 }
 
 bool zvObjectMapping::applies(const zvCfgObject& object) const {
-    const zvCndCondition rule = object.getMappingRule();
+    const zvCndCondition& rule = object.mappingRule();
     return rule.IsNull() || rule->evaluate(contextFor(object));
 }
 
 const zvCndContext& zvObjectMapping::contextFor(const zvCfgObject& object) const {
-    if (m_pCompared == nullptr || !areComparedAlike(*m_pCompared, object)) {
-        m_context = zvCndContext();
-        fill(m_context, object);
+    View& view = viewOf(object);
+    if (!view.context.has_value()) {
+        fillContext(view);
     }
-    m_pCompared = &object;
-    return m_context;
+    return *view.context;
+}
+
+zvObjectMapping::View& zvObjectMapping::viewOf(const zvCfgObject& object) const {
+    if (m_view.object == nullptr || !areSeenAlike(*m_view.object, object)) {
+        m_view.object = &object;
+        m_view.given.clear();
+        m_view.typed.clear();
+        m_view.isWhole = false;
+        m_view.context.reset();
+        const int count = object.numAttributes();
+        m_view.given.reserve(static_cast<std::size_t>(count));
+        for (int i = 0; i < count; ++i) {
+            m_view.given.push_back(findValue(sourceName(*object.getAttribute(i))));
+        }
+    }
+    return m_view;
 }
 
 // A rule may name an attribute as either system does: it is written once for both directions.
-void zvObjectMapping::fill(zvCndContext& context, const zvCfgObject& object) const {
-    const auto add = [&context](const zvString& name, const zvValue& value) {
-        zvAttribute attribute(name, value);
-        context.addAttribute(attribute);
-    };
-    for (int i = 0; i < object.numAttributes(); ++i) {
-        const zvCfgAttribute& attribute = *object.getAttribute(i);
-        if (const zvString* const given = findValue(sourceName(attribute))) {
-            const zvValue value = toTypedValue(*given, attribute.getDataType());
-            add(sourceName(attribute), value);
-            add(targetName(attribute), value);
+void zvObjectMapping::fillContext(View& view) const {
+    const std::size_t count = view.given.size();
+    zvCndContext& context = view.context.emplace();
+    std::size_t seen = 0;                         // of the values
+    view.typed.reserve(count + m_values.size());  // they do not move any more
+    context.reserve(static_cast<int>(2 * count));
+    for (std::size_t i = 0; i < count; ++i) {
+        if (view.given[i] != nullptr) {
+            const zvCfgAttribute& attribute = *view.object->getAttribute(static_cast<int>(i));
+            view.typed.emplace_back();
+            setTypedValue(view.typed.back(), *view.given[i], attribute.getDataType());
+            seen += context.borrowAttribute(sourceName(attribute), view.typed.back()) ? 1 : 0;
+            context.borrowAttribute(targetName(attribute), view.typed.back());
         }
+    }
+    view.isWhole = seen == m_values.size();
+    if (view.isWhole) {
+        return;
     }
     for (const auto& [name, value] : m_values) {
         if (context.findValue(name) == nullptr) {
-            add(name, zvValue(value));
+            view.typed.emplace_back(value);
+            context.borrowAttribute(name, view.typed.back());
         }
     }
 }
 
 void zvObjectMapping::carry(const zvCfgObject& object) {
-    std::vector<const zvString*> carried;  // the values that have a place, by their addresses
-    m_attributes.reserve(static_cast<std::size_t>(object.numAttributes()));
-    for (int i = 0; i < object.numAttributes(); ++i) {
-        const zvCfgAttribute& attribute = *object.getAttribute(i);
-        const zvString& from = sourceName(attribute);
+    const View& view = viewOf(object);
+    bool isWhole = view.isWhole;
+    m_attributes.reserve(view.given.size());
+    for (std::size_t i = 0; i < view.given.size(); ++i) {
+        const zvCfgAttribute& attribute = *object.getAttribute(static_cast<int>(i));
+        const zvString* const given = view.given[i];
         const zvString& to = targetName(attribute);
-        const zvString* const given = findValue(from);
-        if (to.empty() || (given == nullptr && !attribute.isDefaultValueSpecified())) {
-            continue;
+        if (to.empty()) {
+            isWhole = false;
+        } else if (given != nullptr || attribute.isDefaultValueSpecified()) {
+            m_attributes.push_back({sourceName(attribute), to,
+                                    given == nullptr ? attribute.defaultValue() : *given,
+                                    attribute.getDataType(), given == nullptr});
         }
-        if (given != nullptr) {
-            carried.push_back(given);
-        }
-        m_attributes.push_back({from, to, given == nullptr ? attribute.getDefaultValue() : *given,
-                                attribute.getDataType(), given == nullptr});
+    }
+    if (!isWhole) {
+        noteUnmapped();
+    }
+}
+
+void zvObjectMapping::noteUnmapped() {
+    std::vector<const zvString*> carried;  // the values that have a place, by their addresses
+    carried.reserve(m_attributes.size());
+    for (const Attribute& attribute : m_attributes) {
+        carried.push_back(&attribute.value);
     }
     std::sort(carried.begin(), carried.end(), std::less<>());
     for (const auto& [name, value] : m_values) {

@@ -2,6 +2,7 @@
 #define ZV_OBJECT_MAPPING_H
 
 #include <map>
+#include <optional>
 #include <vector>
 
 #include "zvCfgConfigManager.h"
@@ -14,18 +15,22 @@ class zvObjectMapping {
 public:
     enum class Direction { localToRemote, remoteToLocal };
 
+    /// The texts are those of the configuration and of the object.
     struct Attribute {
-        zvString from;
-        zvString to;
-        zvString value;
+        const zvString& from;
+        const zvString& to;
+        const zvString& value;
         zvDataTypeEnum type;
         bool isDefault;
     };
 
     using Values = std::map<zvString, zvString>;
 
-    /// `values` are the object's attributes under their names in the system that it comes from.
-    zvObjectMapping(Direction direction, Values values);
+    /// `values`, which have to outlive this object, are the object's attributes under their names in the
+    /// system that it comes from.
+    zvObjectMapping(Direction direction, const Values& values);
+    zvObjectMapping(const zvObjectMapping&) = delete;
+    zvObjectMapping& operator=(const zvObjectMapping&) = delete;
 
     /// Maps by the first of `candidates`, which may be null, that has no mapping rule or one that holds.
     /// False without one. Throws the zvException of a rule that cannot be evaluated.
@@ -53,16 +58,25 @@ public:
     const std::vector<zvString>& unmapped() const { return m_unmapped; }
 
 private:
+    // What an object's attributes are given, and what its rule compares: the same for most objects of a type.
+    struct View {
+        const zvCfgObject* object = nullptr;
+        std::vector<const zvString*> given;  // for each attribute; null without a value
+        std::vector<zvValue> typed;
+        bool isWhole = false;                 // every value is known to be given to some attribute
+        std::optional<zvCndContext> context;  // once it was asked for; borrows names and typed values
+    };
+
     bool applies(const zvCfgObject& object) const;
-    void fill(zvCndContext& context, const zvCfgObject& object) const;
+    View& viewOf(const zvCfgObject& object) const;
+    void fillContext(View& view) const;
     void carry(const zvCfgObject& object);
+    void noteUnmapped();
 
     Direction m_direction;
-    Values m_values;
+    const Values& m_values;
     const zvCfgObject* m_pObject = nullptr;
-    // The object that contextFor() was asked for last, and its answer: that of most objects of the same type.
-    mutable const zvCfgObject* m_pCompared = nullptr;
-    mutable zvCndContext m_context;
+    mutable View m_view;  // of the object that was asked for last
     std::vector<const zvCfgObject*> m_passedOver;
     std::vector<Attribute> m_attributes;
     std::vector<zvString> m_unmapped;

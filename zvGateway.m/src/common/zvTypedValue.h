@@ -4,14 +4,21 @@
 #include "zvCommonUtils.h"
 #include "zvValue.h"
 
-/// The value of type `type` that a text from outside stands for. The library reads a Boolean as a number;
-/// people and other systems write "true" and "false" as well.
-inline zvValue toTypedValue(const zvString& text, zvDataTypeEnum type) {
+/// Sets `value` to that of type `type` which a text from outside stands for. The library reads a Boolean as a
+/// number; people and other systems write "true" and "false" as well.
+inline void setTypedValue(zvValue& value, const zvString& text, zvDataTypeEnum type) {
     constexpr int precision = 3;
     if (type == zvDataTypeBoolean && zvCommonUtils::validBooleanValue(text)) {
-        return zvValue(text.toBoolean());
+        value.setBoolValue(text.toBoolean());
+    } else {
+        value.setValue(text, type, precision);
     }
-    return {text, type, precision};
+}
+
+inline zvValue toTypedValue(const zvString& text, zvDataTypeEnum type) {
+    zvValue value;
+    setTypedValue(value, text, type);
+    return value;
 }
 
 #endif

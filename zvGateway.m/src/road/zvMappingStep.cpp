@@ -21,7 +21,10 @@ zvStepOutcome zvMappingStep::run() const {
     if (!reason.empty()) {
         return zvStepOutcome::leftOut(reason);
     }
-    const zvMappingTrial trial = mapObject();
+    const zvIncomingObject object = incomingObject();
+    const zvMappingTrial trial(object);
+    report(trial);
+    refuse(trial);
     show(trial);
     const zvString file = m_event.dataFile();
     zvMappedObjectFile::write(file, trial.mapping());
@@ -30,18 +33,19 @@ zvStepOutcome zvMappingStep::run() const {
     return zvStepOutcome::done(zvMappingReport::typesOf(trial.mapping().object()));
 }
 
-zvMappingTrial zvMappingStep::mapObject() const {
+zvIncomingObject zvMappingStep::incomingObject() const {
     zvIncomingObject object = m_object;
     object.values = attributeValues();
-    zvMappingTrial trial(object);
+    return object;
+}
+
+void zvMappingStep::report(const zvMappingTrial& trial) const {
     if (trial.candidates() != nullptr) {
         m_event.record->setObject(describeObject(trial.mapping(), *trial.candidates()->get(0)));
     }
     if (m_event.session.options.isDryRun) {
         zvMappingReport::print(zvMappingReport(trial).candidates());
     }
-    refuse(trial);
-    return trial;
 }
 
 void zvMappingStep::show(const zvMappingTrial& trial) const {

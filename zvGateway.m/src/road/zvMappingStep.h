@@ -20,7 +20,8 @@ public:
     zvStepOutcome run() const;
 
 private:
-    zvMappingTrial mapObject() const;
+    zvIncomingObject incomingObject() const;
+    void report(const zvMappingTrial& trial) const;
     std::string describeObject(const zvObjectMapping& mapping, const zvCfgObject& object) const;
     void show(const zvMappingTrial& trial) const;
     void refuse(const zvMappingTrial& trial) const;
