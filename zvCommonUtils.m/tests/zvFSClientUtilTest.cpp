@@ -33,13 +33,21 @@ protected:
         std::replace(text.begin() + 1, text.end(), '/', '\\');
         return text;
     }
+    /// The path with the system's separators, as the client gets it.
+    std::string local(const std::string& name) const {
+        return zvPlatform::textOf(pathOf(name).make_preferred());
+    }
+    fs::path pathOf(const std::string& name) const { return zvPlatform::pathOf(m_folder.file(name)); }
+    std::string urlOf(const std::string& name) const {
+        return (onWindows ? "url=file:///" : "url=file://") + pathOf(name).generic_string();
+    }
     std::string put(const std::string& name, const std::string& remote) const {
-        return "put(" + m_folder.file(name) + "," + remote + ")";
+        return "put(" + local(name) + "," + remote + ")";
     }
     std::string get(const std::string& remote, const std::string& name) const {
-        return "get(" + remote + "," + m_folder.file(name) + ")";
+        return "get(" + remote + "," + local(name) + ")";
     }
-    bool isThere(const std::string& name) const { return fs::exists(m_folder.path() / name); }
+    bool isThere(const std::string& name) const { return fs::exists(pathOf(name)); }
 
     zvEventArguments m_args;
     zvAttachmentList m_attachments;
@@ -103,9 +111,9 @@ TEST_F(zvFSClientUtilTest, UploadsEveryFileInItsOwnModeAndRemovesThem) {
     const zvResult result = zvFSClientUtil::uploadEventFiles(m_args, m_attachments, &observer);
     EXPECT_TRUE(result.isOk());
     EXPECT_TRUE(result.getAdditionalInformation().empty());
-    const std::string binaries = m_folder.file("root/1300/1300_data.xml") + " " +
-                                 m_folder.file("root/1300/1300_attachments.xml") + " " +
-                                 m_folder.file("b/picture") + " " + m_folder.file("b/twice");
+    const std::string binaries = local("root/1300/1300_data.xml") + " " +
+                                 local("root/1300/1300_attachments.xml") + " " + local("b/picture") + " " +
+                                 local("b/twice");
     const Lines expected = {"removeLeftovers(1300,java.util.ArrayList[" + binaries + "])",
                             "setFileTransferMode(0)",
                             put("root/1300/1300_data.xml", "1300/1300_data.xml"),
@@ -200,7 +208,8 @@ TEST_F(zvFSClientUtilTest, AFailureOnTheServerKeepsEveryLocalFileAndNamesTheOneT
         EXPECT_EQ(result.getResult(), -1);
         EXPECT_TRUE(zvResult::isFileTransferFailure(result.getFailureType()));
         EXPECT_EQ(result.getMessage(), c.message.c_str());
-        EXPECT_EQ(result.getAdditionalInformation().find("java.io.IOException: full\n"), 0);
+        EXPECT_EQ(result.getAdditionalInformation().find(zvString("java.io.IOException: full") + javaLineEnd),
+                  0);
         EXPECT_EQ(zvRecordingLogger::lines("error").back(), c.message);
         EXPECT_TRUE(isThere("a.txt"));
     }
@@ -250,7 +259,7 @@ TEST_F(zvFSClientUtilTest, RefusesWhatWouldLoseAFileBeforeAnythingMoves) {
 
 // With the real Java client, and without an encoding in the environment.
 TEST_F(zvFSClientUtilTest, AnEventGoesToTheFileServerAndBack) {
-    const zvScopedVariable classPath("CLASSPATH", ZV_CLIENT_JAR);
+    const zvScopedVariable classPath("CLASSPATH", deliveredClient);
     const zvScopedVariable all("LC_ALL", "");
     const zvScopedVariable language("LANG", "C");
     inProcessOfItsOwn([this] {
@@ -258,12 +267,12 @@ TEST_F(zvFSClientUtilTest, AnEventGoesToTheFileServerAndBack) {
         m_folder.write("server/other", "");
         m_folder.write("a/" + name, "some\ntext");
         attach(path("a/" + name), 1);
-        connect("url=file://" + m_folder.file("server"));
+        connect(urlOf("server"));
         EXPECT_TRUE(zvFSClientUtil::createNewShadowDir(m_args).isOk());
         EXPECT_EQ(zvFSClientUtil::createNewShadowDir(m_args).getResult(), zvFSClientUtil::directoryExists);
         EXPECT_TRUE(zvFSClientUtil::createShadowDir(m_args).isOk());
         m_folder.write("server/1300/.zv-0123456789abcdef0123456789abcdef.part", "");
-        connect("url=file://" + m_folder.file("server"));  // going on
+        connect(urlOf("server"));  // going on
         EXPECT_EQ(narrow(zvFSClientUtil::uploadEventFiles(m_args, m_attachments).getMessage()), "");
         EXPECT_FALSE(isThere("server/1300/.zv-0123456789abcdef0123456789abcdef.part"));
         EXPECT_FALSE(isThere("a/" + name));
@@ -275,10 +284,10 @@ TEST_F(zvFSClientUtilTest, AnEventGoesToTheFileServerAndBack) {
         m_args.setEventArgument("RootShadowDir", path("back").c_str());
         fs::create_directory(m_folder.path() / "back");
         EXPECT_TRUE(zvFSClientUtil::downloadEventFiles(m_args, m_attachments).isOk());
-        EXPECT_EQ(readAll(m_folder.file("back/1300/" + name)), "some\ntext");
-        EXPECT_EQ(readAll(m_folder.file("back/1300/1300_data.xml")), "<data/>");
+        EXPECT_EQ(readAll(pathOf("back/1300/" + name)), std::string("some") + javaLineEnd + "text");
+        EXPECT_EQ(readAll(pathOf("back/1300/1300_data.xml")), "<data/>");
 
-        fs::remove(m_folder.file("server/1300/" + name));
+        fs::remove(pathOf("server/1300/" + name));
         const zvResult gone = zvFSClientUtil::downloadEventFiles(m_args, m_attachments);
         EXPECT_TRUE(zvResult::isFileTransferFailure(gone.getFailureType()));
         EXPECT_NE(narrow(gone.getMessage()).find(name), std::string::npos);

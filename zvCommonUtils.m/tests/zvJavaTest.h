@@ -31,11 +31,31 @@ private:
     std::string m_before;
 };
 
+/// The delivered client with what it needs, which a cross-built jar does not name.
+inline const std::string deliveredClient =
+    std::string(ZV_CLIENT_JAR) + (onWindows ? ";" : ":") + ZV_COMMONS_NET_JAR;
+
+/// What Java ends lines with.
+constexpr const char* javaLineEnd = onWindows ? "\r\n" : "\n";
+
 /// A fixture with a real JVM that runs with -Xcheck:jni, and the recording file-server client.
 class zvJavaTest : public zvLoggedTest {
 protected:
-    zvJavaTest() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
+    zvJavaTest() {
+        GTEST_FLAG_SET(death_test_style, "threadsafe");
+        if (onWindows) {  // where no locale has the characters of the tests
+            zvPlatform::adoptUtf8();
+        }
+    }
     ~zvJavaTest() override { zvFSClient::destroyInstance(); }
+    void SetUp() override {
+        const std::string java = zvPlatform::environment("ZV_JAVA_OF_WINDOWS");
+        if (onWindows && java.empty()) {
+            GTEST_SKIP() << "a real Java virtual machine";
+        } else if (onWindows) {
+            zvPlatform::setEnvironment("JAVA_HOME", java.c_str());
+        }
+    }
 
     /// Writes a configuration file for the recording client.
     std::string configuration(const std::string& script = "") const {
@@ -53,6 +73,9 @@ protected:
         Lines lines;
         std::istringstream recorded(readAll(m_folder.file("client.properties.calls")));
         for (std::string line; std::getline(recorded, line);) {
+            if (onWindows && !line.empty() && line.back() == '\r') {
+                line.pop_back();
+            }
             lines.push_back(line);
         }
         return lines;
