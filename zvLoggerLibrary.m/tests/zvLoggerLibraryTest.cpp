@@ -299,7 +299,9 @@ TEST_F(zvLoggerLibraryTest, ManyProcessesShareARollingFile) {
     constexpr int processes = sizeof(void*) > 4 ? 100 : 20;
     constexpr int messages = 40;
     constexpr int linesAtExit = 3;
-    const std::string parameters = parameter("MaxFileSize", "1MB") + parameter("MaxBackupIndex", "12");
+    // Under wine a rollover, after which each of them opens the file anew, takes a hundred times as long.
+    const std::string parameters = parameter("MaxFileSize", onWindows && processes == 100 ? "4MB" : "1MB") +
+                                   parameter("MaxBackupIndex", "12");
     const std::string path = write("log4cxx.xml", configuration("info", parameters, "RollingFileAppender"));
     std::array<std::future<bool>, processes> running;
     for (std::size_t i = 0; i < processes; ++i) {
@@ -314,7 +316,7 @@ TEST_F(zvLoggerLibraryTest, ManyProcessesShareARollingFile) {
         ASSERT_EQ(found.count(line), 1U) << line.substr(0, 80);
     }
     EXPECT_EQ(found.size(), static_cast<std::size_t>(processes * (messages + linesAtExit)));
-    EXPECT_TRUE(fs::exists(m_folder / "logs" / (processes < 100 ? "out.log.1" : "out.log.7")));
+    EXPECT_TRUE(fs::exists(m_folder / "logs" / (onWindows ? "out.log.1" : "out.log.7")));
 }
 
 TEST_F(zvLoggerLibraryTest, ADeletedLogFolderIsRecreated) {
