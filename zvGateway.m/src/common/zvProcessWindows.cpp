@@ -178,12 +178,16 @@ std::atomic<int> noted{0};
 
 BOOL WINAPI note(DWORD event) {
     const bool isKey = event == CTRL_C_EVENT || event == CTRL_BREAK_EVENT;
-    const bool isFirst = noted.exchange(event == CTRL_C_EVENT ? SIGINT : SIGTERM) == 0;
-    if (isFirst && !isKey) {
+    const int signal = event == CTRL_C_EVENT ? SIGINT : SIGTERM;
+    if (noted.exchange(signal) != 0) {
+        // The exit code of the system's own handler may be 0.
+        ::TerminateProcess(::GetCurrentProcess(), static_cast<UINT>(128 + signal));
+    }
+    if (!isKey) {
         // The window is closed, or the system ends: the process has until this function returns.
         ::Sleep(INFINITE);
     }
-    return isFirst ? TRUE : FALSE;
+    return TRUE;
 }
 
 }  // namespace
