@@ -13,8 +13,10 @@ namespace {
 
 constexpr apr_interval_time_t longestWait = apr_time_from_sec(5);
 constexpr apr_interval_time_t firstPause = 50;  // microseconds
-// Many processes that wait must not keep the one busy that they wait for.
+// Many processes that wait must not keep the one busy that they wait for, and one that has waited long must
+// not come after those that have not.
 constexpr apr_interval_time_t longestPause = 20000;
+constexpr apr_interval_time_t latePause = 1000;
 constexpr apr_fileperms_t ownersAlone = APR_FPROT_UREAD | APR_FPROT_UWRITE;
 
 }  // namespace
@@ -46,7 +48,8 @@ bool zvLogFolderLock::try_lock() {
     bool isLocked = tryOnce();
     while (!isLocked && apr_time_now() < end) {
         apr_sleep(pause);
-        pause = std::min(2 * pause, longestPause);
+        const bool isLate = end - apr_time_now() < longestWait / 2;
+        pause = isLate ? latePause : std::min(2 * pause, longestPause);
         isLocked = tryOnce();
     }
     m_bMissed = !isLocked;
