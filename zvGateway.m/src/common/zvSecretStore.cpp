@@ -65,7 +65,8 @@ zvString toText(const std::string& bytes) {
 std::vector<fs::path> filesIn(const std::string& folder) {
     std::vector<fs::path> files;
     std::error_code error;
-    for (fs::directory_iterator entry(fs::u8path(folder), error), end; !error && entry != end; entry.increment(error)) {
+    for (fs::directory_iterator entry(fs::u8path(folder), error), end; !error && entry != end;
+         entry.increment(error)) {
         if (entry->path().filename().string().front() != '.' && !entry->is_directory()) {
             files.push_back(entry->path());
         }
