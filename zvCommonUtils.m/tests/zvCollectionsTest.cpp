@@ -157,6 +157,7 @@ TEST(zvStringToAttrMapTest, FindsManyKeysAndNoOthers) {
 TEST(zvNameTableTest, FindsNamesThatCollide) {
     constexpr std::uint32_t hash = 5;
     std::vector<zvString> names;
+    names.reserve(40);
     for (int i = 0; i < 40; ++i) {
         names.emplace_back(std::to_string(i).c_str());
     }
@@ -192,7 +193,8 @@ TEST(zvStringUnitsTest, TellsEveryUnitOfATextApart) {
         }
         EXPECT_TRUE(text < text + "a" && !(text + "a" < text) && text != text + "a");
     }
-    EXPECT_TRUE(zvString() == zvString("") && zvString() < zvString("a") && !(zvString() < zvString()));
+    EXPECT_EQ(zvString(), zvString(""));
+    EXPECT_TRUE(zvString() < zvString("a") && !(zvString() < zvString()));
 }
 
 TEST(zvTemplateMapTest, FirstValueWins) {

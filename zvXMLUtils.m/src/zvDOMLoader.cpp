@@ -34,7 +34,6 @@ using xercesc::DOMImplementationRegistry;
 using xercesc::DOMNode;
 using xercesc::OutOfMemoryException;
 using xercesc::XMLException;
-using xercesc::XMLPlatformUtils;
 using xercesc::XMLUni;
 using zvXMLText::toString;
 
