@@ -120,7 +120,7 @@ bool zvDirFileUtils::isAccessible(const zvString& path, int mode) {
 }
 
 zvString zvDirFileUtils::getAccessError(const zvString& path, int mode) {
-    const zvString fault = getNameError(path);
+    zvString fault = getNameError(path);
     if (!fault.empty()) {
         return fault;
     }
