@@ -62,8 +62,8 @@ struct CloseFile {
 using File = std::unique_ptr<std::FILE, CloseFile>;
 /// Opens a file for reading as text; null for a directory and on failure.
 File openForReading(const char* path);
-/// The same byte for byte.
-File openBytes(const char* path);
+/// Opens a regular file for reading, byte for byte; null for anything else and on failure.
+File openBytes(const std::filesystem::path& path);
 /// Opens a file for writing, byte for byte, and empties it; null, with errno set, on failure.
 File openForWriting(const char* path);
 /// Opens a directory, so that what is opened below it later is below this one, whatever its name leads to by

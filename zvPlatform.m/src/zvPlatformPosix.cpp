@@ -199,7 +199,7 @@ File openForReading(const char* path) {
     return isDirectory ? nullptr : std::move(file);
 }
 
-File openBytes(const char* path) { return openForReading(path); }
+File openBytes(const std::filesystem::path& path) { return regularFile(::open(path.c_str(), forReading)); }
 
 File openForWriting(const char* path) { return File(std::fopen(nativePath(path).c_str(), "wb")); }
 

@@ -169,8 +169,13 @@ bool isRegularFile(HANDLE handle) {
            (facts.dwFileAttributes & others) == 0;
 }
 
-File open(const char* path, const wchar_t* mode) {
-    return File(isNameable(widened(path).c_str()) ? ::_wfopen(unlimited(path).c_str(), mode) : nullptr);
+// Null, with errno set, on failure.
+File open(const std::wstring& path, const wchar_t* mode) {
+    if (!isNameable(path.c_str())) {
+        errno = EINVAL;
+        return nullptr;
+    }
+    return File(::_wfopen(unlimited(path).c_str(), mode));
 }
 
 }  // namespace
@@ -261,17 +266,11 @@ unsigned long accessError(const char* path, int mode) {
     return ::_waccess(unlimited(path).c_str(), mode) == 0 ? 0 : _doserrno;
 }
 
-File openForReading(const char* path) { return open(path, L"r"); }
+File openForReading(const char* path) { return open(widened(path), L"r"); }
 
-File openBytes(const char* path) { return open(path, L"rb"); }
+File openBytes(const std::filesystem::path& path) { return open(path.native(), L"rb"); }
 
-File openForWriting(const char* path) {
-    if (!isNameable(widened(path).c_str())) {
-        errno = EINVAL;
-        return nullptr;
-    }
-    return File(::_wfopen(unlimited(path).c_str(), L"wb"));
-}
+File openForWriting(const char* path) { return open(widened(path), L"wb"); }
 
 Handle openDirectory(const std::filesystem::path& path) {
     return handleOf(::CreateFileW(unlimited(path.native()).c_str(), FILE_READ_ATTRIBUTES, shared, nullptr,

@@ -12,7 +12,6 @@
 #include <xercesc/util/XMLException.hpp>
 #include <xercesc/util/XMLUni.hpp>
 
-#include "zvCharString.h"
 #include "zvDOMErrorHandler.h"
 #include "zvLogSource.h"
 #include "zvPlatform.h"
@@ -142,8 +141,7 @@ bool zvDOMLoader::parseFile(const char* location) {
         logger.raise("XML document refused: \"", location, "\" is not a name in this locale");
     }
     m_pTree = std::make_unique<Tree>(file.folder, file.size, m_options, m_pFindings);
-    return parseStream(path, zvXMLSource::streamOf(zvPlatform::openBytes(zvCharString(path).data())),
-                       nullptr);
+    return parseStream(path, zvXMLSource::streamOf(zvPlatform::openBytes(file.path)), nullptr);
 }
 
 template <typename Character>
