@@ -99,6 +99,9 @@ bool isPrivate(int descriptor);
 /// Creates the folder, and those above it, for this process's user alone. False if it cannot be made, is a
 /// link, or another user owns it or has a right to it; access lists say so on Windows.
 bool makePrivateFolder(const std::filesystem::path& folder);
+/// Reads at most `size` bytes into the block. The number of them, 0 at the end; -1, with errno set, on
+/// failure.
+long readSome(int descriptor, char* block, std::size_t size);
 /// Sets `content` to all that can be read from the descriptor, which is closed. More than `limit` bytes are
 /// an error.
 std::error_code readToEnd(int descriptor, std::size_t limit, std::string& content);

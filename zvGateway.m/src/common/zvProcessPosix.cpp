@@ -226,24 +226,8 @@ bool zvProcess::makePrivateFolder(const std::filesystem::path& folder) {
            (status.st_mode & (S_IRWXG | S_IRWXO)) == 0;
 }
 
-std::error_code zvProcess::readToEnd(int descriptor, std::size_t limit, std::string& content) {
-    constexpr std::size_t blockSize = 4096;
-    std::array<char, blockSize> block{};
-    std::error_code error;
-    content.clear();
-    for (ssize_t count = 1; count != 0 && !error;) {
-        count = ::read(descriptor, block.data(), block.size());
-        if (count > 0) {
-            content.append(block.data(), static_cast<std::size_t>(count));
-        } else if (count < 0 && errno != EINTR) {
-            error = {errno, std::generic_category()};
-        }
-        if (content.size() > limit) {
-            error = std::make_error_code(std::errc::file_too_large);
-        }
-    }
-    close(descriptor);
-    return error;
+long zvProcess::readSome(int descriptor, char* block, std::size_t size) {
+    return static_cast<long>(::read(descriptor, block, size));
 }
 
 void zvProcess::close(int descriptor) { ::close(descriptor); }

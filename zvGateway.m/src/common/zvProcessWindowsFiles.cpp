@@ -3,7 +3,6 @@
 #include <sys/stat.h>
 #include <windows.h>
 
-#include <array>
 #include <cerrno>
 #include <string>
 #include <vector>
@@ -227,24 +226,8 @@ bool zvProcess::makePrivateFolder(const std::filesystem::path& folder) {
     return std::filesystem::is_directory(folder, error);
 }
 
-std::error_code zvProcess::readToEnd(int descriptor, std::size_t limit, std::string& content) {
-    constexpr std::size_t blockSize = 4096;
-    std::array<char, blockSize> block{};
-    std::error_code error;
-    content.clear();
-    for (int count = 1; count != 0 && !error;) {
-        count = ::_read(descriptor, block.data(), static_cast<unsigned>(block.size()));
-        if (count > 0) {
-            content.append(block.data(), static_cast<std::size_t>(count));
-        } else if (count < 0) {
-            error = {errno, std::generic_category()};
-        }
-        if (content.size() > limit) {
-            error = std::make_error_code(std::errc::file_too_large);
-        }
-    }
-    close(descriptor);
-    return error;
+long zvProcess::readSome(int descriptor, char* block, std::size_t size) {
+    return ::_read(descriptor, block, static_cast<unsigned>(size));
 }
 
 void zvProcess::close(int descriptor) { ::_close(descriptor); }
