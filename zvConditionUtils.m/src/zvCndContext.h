@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "zvNamePositions.h"
 #include "zvStringToAttrMap.h"
 
 /// The attributes by name against which conditions are evaluated.
@@ -23,7 +24,11 @@ public:
     /// Adds an attribute without a copy: name and value have to outlive the context and its copies,
     /// unchanged. False, with nothing changed, for an empty and for a duplicate name.
     bool borrowAttribute(const zvString& name, const zvValue& value);
-    /// Makes room for `count` attributes in all.
+    /// Adds attributes without copies: under each of `names` the value at its position, unless that is null.
+    /// Both have to outlive the context and its copies, unchanged. Precondition: nothing was added before, and
+    /// `values` has an element for every position.
+    void borrowAttributes(const zvNamePositions& names, const zvValue* const* values);
+    /// Makes room for `count` attributes beside those.
     void reserve(int count);
     /// Copies the attribute `name` into `attribute`; false, with `attribute` unchanged, if it is missing.
     bool getAttribute(const zvString& name, zvAttribute& attribute) const;
@@ -35,8 +40,12 @@ private:
     friend class zvICndComparisonCondition;
 
     const zvValue* findValue(const zvString& name, std::uint32_t hash) const;
+    const zvValue* findBorrowed(const zvString& name, std::uint32_t hash) const;
+    const zvValue* findFurther(const zvString& name, std::uint32_t hash) const;
 
     zvStringToAttrMap m_attributes;
+    const zvNamePositions* m_pNames = nullptr;
+    const zvValue* const* m_pValues = nullptr;
 };
 
 #endif

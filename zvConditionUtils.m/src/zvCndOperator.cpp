@@ -6,21 +6,17 @@
 
 namespace {
 
-// clang-format mistakes "operator<" for the start of a template argument list.
-// clang-format off
 constexpr zvCndOperator operators[] = {
-    {zvCndConditionEquals, "Equals", "=", zvCndConditionPrecedenceNone, &zvValue::operator==},
-    {zvCndConditionNotEquals, "NotEquals", "!=", zvCndConditionPrecedenceNone, &zvValue::operator!=},
-    {zvCndConditionLessThan, "LessThan", "<", zvCndConditionPrecedenceNone, &zvValue::operator<},
-    {zvCndConditionLessThanEquals, "LessThanEquals", "<=", zvCndConditionPrecedenceNone, &zvValue::operator<=},
-    {zvCndConditionGreaterThan, "GreaterThan", ">", zvCndConditionPrecedenceNone, &zvValue::operator>},
-    {zvCndConditionGreaterThanEquals, "GreaterThanEquals", ">=", zvCndConditionPrecedenceNone,
-     &zvValue::operator>=},
-    {zvCndConditionAnd, "And", "AND", zvCndConditionPrecedenceAnd, nullptr},
-    {zvCndConditionOr, "Or", "OR", zvCndConditionPrecedenceOr, nullptr},
-    {zvCndConditionNot, "Not", "NOT", zvCndConditionPrecedenceNot, nullptr},
+    {zvCndConditionEquals, "Equals", "=", zvCndConditionPrecedenceNone},
+    {zvCndConditionNotEquals, "NotEquals", "!=", zvCndConditionPrecedenceNone},
+    {zvCndConditionLessThan, "LessThan", "<", zvCndConditionPrecedenceNone},
+    {zvCndConditionLessThanEquals, "LessThanEquals", "<=", zvCndConditionPrecedenceNone},
+    {zvCndConditionGreaterThan, "GreaterThan", ">", zvCndConditionPrecedenceNone},
+    {zvCndConditionGreaterThanEquals, "GreaterThanEquals", ">=", zvCndConditionPrecedenceNone},
+    {zvCndConditionAnd, "And", "AND", zvCndConditionPrecedenceAnd},
+    {zvCndConditionOr, "Or", "OR", zvCndConditionPrecedenceOr},
+    {zvCndConditionNot, "Not", "NOT", zvCndConditionPrecedenceNot},
 };
-// clang-format on
 
 constexpr int longestToken = sizeof(zvCndOperator::token) - 1;
 

@@ -3,19 +3,16 @@
 
 #include "zvCndConditionPrecedenceEnum.h"
 #include "zvICndCondition.h"
-#include "zvValue.h"
+#include "zvString.h"
 
 /// The properties of an operator of the condition language and its condition type.
 struct zvCndOperator {
-    using Compare = bool (zvValue::*)(const zvValue&) const;
-
     zvCndConditionTypeEnum type;
     const char* name;
     char token[4];
     zvCndConditionPrecedenceEnum precedence;  // None for a comparison
-    Compare compare;                          // null for a logical operator
 
-    bool isComparison() const { return compare != nullptr; }
+    bool isComparison() const { return precedence == zvCndConditionPrecedenceNone; }
 
     /// The operator of a condition type; null if there is none.
     static const zvCndOperator* of(zvCndConditionTypeEnum type);

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "zvCndContext.h"
-#include "zvCndOperator.h"
 
 namespace {
 
@@ -42,12 +41,10 @@ const zvValue* zvICndComparisonCondition::resolve(const zvCndOperand& operand, c
                                                       : resolveOther(operand, context);
 }
 
-bool zvICndComparisonCondition::compare(const zvCndContext& context) const {
+zvICndComparisonCondition::Values zvICndComparisonCondition::values(const zvCndContext& context) const {
     const zvValue* const left = resolve(m_lhsOperand, context);
     const zvValue* const right = left == nullptr ? nullptr : resolve(m_rhsOperand, context);
-    const zvCndOperator* const comparison =
-        right == nullptr ? nullptr : zvCndOperator::of(getConditionType());
-    return comparison != nullptr && comparison->isComparison() && (left->*comparison->compare)(*right);
+    return right == nullptr ? Values{nullptr, nullptr} : Values{left, right};
 }
 
 void zvICndComparisonCondition::setLHSOperand(const zvCndOperand& operand) { m_lhsOperand = operand; }

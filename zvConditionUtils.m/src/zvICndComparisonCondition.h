@@ -6,8 +6,8 @@
 #include "zvCndCondition.h"
 #include "zvCndOperand.h"
 
-/// The base of the six comparisons: two operands, compared with the zvValue operator of the condition's type,
-/// and so as the type of the left operand.
+/// The base of the six comparisons: two operands, compared with an operator of zvValue, and so as the type of
+/// the left operand.
 ///
 /// An operand is missing if it is a constant with an empty text form or a variable that the context does not
 /// contain. A comparison with a missing operand is false, even NotEquals.
@@ -39,9 +39,14 @@ protected:
     bool getOperandValue(const zvCndOperand& operand, const zvCndContext& context, zvValue& out) const;
     bool getLHSOperandValue(const zvCndContext& context, zvValue& out) const;
     bool getRHSOperandValue(const zvCndContext& context, zvValue& out) const;
-    /// Compares the operands' values with the zvValue operator of the condition's type; false for a missing
-    /// operand, and for a type that is no comparison.
-    bool compare(const zvCndContext& context) const;
+
+    /// Both null if one is missing.
+    struct Values {
+        const zvValue* left;
+        const zvValue* right;
+    };
+    /// The operands' values, borrowed from the condition or from the context.
+    Values values(const zvCndContext& context) const;
 
 private:
     static const zvValue* resolve(const zvCndOperand& operand, const zvCndContext& context);
@@ -51,7 +56,7 @@ private:
 };
 
 /// The comparison of one condition type.
-template <zvCndConditionTypeEnum Type>
+template <zvCndConditionTypeEnum Type, bool (zvValue::*Operator)(const zvValue&) const>
 class ZV_EXPORT zvICndComparisonOfType : public zvICndComparisonCondition {
 public:
     static constexpr zvCndConditionTypeEnum type = Type;
@@ -60,15 +65,23 @@ public:
     zvICndComparisonOfType(zvCndOperand&& lhs, zvCndOperand&& rhs)
         : zvICndComparisonCondition(Type, std::move(lhs), std::move(rhs)) {}
 
-    bool evaluate(const zvCndContext& context) const override { return compare(context); }
+    bool evaluate(const zvCndContext& context) const override {
+        const Values compared = values(context);
+        return compared.left != nullptr && (compared.left->*Operator)(*compared.right);
+    }
 };
 
-using zvICndEqualsCondition = zvICndComparisonOfType<zvCndConditionEquals>;
-using zvICndNotEqualsCondition = zvICndComparisonOfType<zvCndConditionNotEquals>;
-using zvICndLessThanCondition = zvICndComparisonOfType<zvCndConditionLessThan>;
-using zvICndLessThanEqualsCondition = zvICndComparisonOfType<zvCndConditionLessThanEquals>;
-using zvICndGreaterThanCondition = zvICndComparisonOfType<zvCndConditionGreaterThan>;
-using zvICndGreaterThanEqualsCondition = zvICndComparisonOfType<zvCndConditionGreaterThanEquals>;
+// clang-format mistakes "operator<" for the start of a template argument list.
+// clang-format off
+using zvICndEqualsCondition = zvICndComparisonOfType<zvCndConditionEquals, &zvValue::operator==>;
+using zvICndNotEqualsCondition = zvICndComparisonOfType<zvCndConditionNotEquals, &zvValue::operator!=>;
+using zvICndLessThanCondition = zvICndComparisonOfType<zvCndConditionLessThan, (&zvValue::operator<)>;
+using zvICndLessThanEqualsCondition =
+    zvICndComparisonOfType<zvCndConditionLessThanEquals, (&zvValue::operator<=)>;
+using zvICndGreaterThanCondition = zvICndComparisonOfType<zvCndConditionGreaterThan, (&zvValue::operator>)>;
+using zvICndGreaterThanEqualsCondition =
+    zvICndComparisonOfType<zvCndConditionGreaterThanEquals, (&zvValue::operator>=)>;
+// clang-format on
 
 using zvCndComparisonCondition = zvCndHandle<zvICndComparisonCondition>;
 using zvCndEqualsCondition = zvCndHandle<zvICndEqualsCondition>;

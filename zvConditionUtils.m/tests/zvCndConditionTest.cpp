@@ -201,6 +201,27 @@ TEST(zvCndContextTest, SetsAttributesAgainAndBorrowsOthers) {
     EXPECT_FALSE(context.borrowAttribute("set", value));
 }
 
+TEST(zvCndContextTest, BorrowsValuesByPosition) {
+    const auto name = [](const char* text) { return std::make_shared<const zvString>(text); };
+    zvNamePositions names;
+    EXPECT_TRUE(names.add(name("one"), 0) && names.add(name("first"), 0) && names.add(name("two"), 1));
+    EXPECT_FALSE(names.add(name("one"), 1) || names.add(name(""), 1) || names.add(nullptr, 1));
+    EXPECT_EQ(names.find("first"), 0);
+    EXPECT_EQ(names.find(""), -1);
+    const zvValue one(1);
+    const zvValue* const values[] = {&one, nullptr};
+    zvCndContext context;
+    context.borrowAttributes(names, values);
+    EXPECT_EQ(context.findValue("one"), &one);
+    EXPECT_EQ(context.findValue("first"), &one);
+    EXPECT_EQ(context.findValue("two"), nullptr);
+    EXPECT_FALSE(context.setAttribute("one", "2", zvDataTypeInteger));
+    const zvString first("first");
+    EXPECT_FALSE(context.borrowAttribute(first, one));
+    EXPECT_TRUE(context.setAttribute("two", "2", zvDataTypeInteger));
+    EXPECT_TRUE(parse("{one} = '1' AND {two} = '2'")->evaluate(zvCndContext(context)));
+}
+
 // Once with what an operand keeps of its text, and once with the value alone.
 TEST(zvCndOperandTest, AConstantComparesAsItsText) {
     const char* const texts[] = {"12",

@@ -19,6 +19,7 @@ bool zvCfgObject::addAttribute(zvCfgAttribute* attribute) {
     }
     m_attributes.add(attribute);
     m_attributeGroup = 0;
+    m_pAttributePositions = nullptr;
     const zvString& localName = attribute->localName();
     const zvString& remoteName = attribute->remoteName();
     const zvString& key = attribute->keyName();

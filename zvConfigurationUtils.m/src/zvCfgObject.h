@@ -8,6 +8,7 @@
 #include "zvCfgOwner.h"
 #include "zvCndCondition.h"
 #include "zvFinding.h"
+#include "zvNamePositions.h"
 
 /// A mapped object: a type of the local system, the corresponding type of the remote system, the mapped
 /// attributes and the rule for when the mapping applies.
@@ -71,6 +72,9 @@ public:
     /// Objects of one group have the same attributes, by names and data types and in the same order. 0 for an
     /// object that is in no group: it is not in the manager, or was given an attribute since.
     int getAttributeGroup() const { return m_attributeGroup; }
+    /// The positions of the attributes by their names in either system, owned by the manager; null for an
+    /// object that is alone in its group or in none, and where two attributes share a name.
+    const zvNamePositions* attributePositions() const { return m_pAttributePositions; }
 
 private:
     friend class zvCfgObjectConfig;
@@ -84,10 +88,12 @@ private:
     std::vector<zvCfgAttribute*> m_nonKeyAttributes;
     std::vector<zvCfgAttribute*> m_defaultAttributes;
     zvCfgOwner<zvCfgAttribute> m_attributes;
+    // What is read of every candidate, beside each other in the memory.
     zvCndCondition m_mappingRule;
+    const zvNamePositions* m_pAttributePositions = nullptr;
+    int m_attributeGroup = 0;
     zvString m_strMappingRuleText;
     zvTextPosition m_position;
-    int m_attributeGroup = 0;
 };
 
 #endif

@@ -1,5 +1,7 @@
 #include "zvCfgObjectConfig.h"
 
+#include <utility>
+
 namespace {
 
 bool areSame(const zvCfgAttribute::SharedName& left, const zvCfgAttribute::SharedName& right) {
@@ -23,6 +25,27 @@ bool haveSameAttributes(const zvCfgObject& one, const zvCfgObject& other) {
     return true;
 }
 
+// The last object of the type, with which the next one is compared for an event; null when they differ.
+zvCfgObject* lastIfAlike(const zvCfgObjectList& sameType, const zvCfgObject& object) {
+    zvCfgObject* const last = sameType.get(sameType.size() - 1);
+    return last != nullptr && last->getAttributeGroup() != 0 && haveSameAttributes(*last, object) ? last
+                                                                                                  : nullptr;
+}
+
+// Null where two attributes share a name.
+std::unique_ptr<zvNamePositions> positionsOf(const zvCfgObject& object) {
+    auto positions = std::make_unique<zvNamePositions>();
+    for (int i = 0; i < object.numAttributes(); ++i) {
+        const zvCfgAttribute& attribute = *object.getAttribute(i);
+        for (const auto& name : {attribute.sharedLocalName(), attribute.sharedRemoteName()}) {
+            if (name != nullptr && !positions->add(name, i) && positions->find(*name) != i) {
+                return nullptr;
+            }
+        }
+    }
+    return positions;
+}
+
 }  // namespace
 
 void zvCfgObjectConfig::add(zvCfgObject* object) {
@@ -31,11 +54,11 @@ void zvCfgObjectConfig::add(zvCfgObject* object) {
     const zvString remoteType = object->getRemoteCustomType();
     zvCfgObjectList& sameLocalType = m_byLocalType.at(localType);
     zvCfgObjectList& sameRemoteType = m_byRemoteType.at(remoteType);
-    object->m_attributeGroup = groupOf(*object, sameLocalType);
-    if (object->m_attributeGroup == 0) {
-        object->m_attributeGroup = groupOf(*object, sameRemoteType);
-    }
-    if (object->m_attributeGroup == 0) {
+    zvCfgObject* const sameAsLocal = lastIfAlike(sameLocalType, *object);
+    zvCfgObject* const same = sameAsLocal != nullptr ? sameAsLocal : lastIfAlike(sameRemoteType, *object);
+    if (same != nullptr) {
+        join(*object, *same);
+    } else {
         object->m_attributeGroup = ++m_lastGroup;
     }
     m_byOotbType.at(object->getOotbTypeStr()).add(object);
@@ -44,10 +67,16 @@ void zvCfgObjectConfig::add(zvCfgObject* object) {
     m_byTypes.at(localType + remoteType).add(object);
 }
 
-// That of the last object of the type, with which it is compared for an event; 0 when they differ.
-int zvCfgObjectConfig::groupOf(const zvCfgObject& object, const zvCfgObjectList& sameType) {
-    const zvCfgObject* const last = sameType.get(sameType.size() - 1);
-    return last != nullptr && haveSameAttributes(*last, object) ? last->getAttributeGroup() : 0;
+void zvCfgObjectConfig::join(zvCfgObject& object, zvCfgObject& member) {
+    if (member.m_pAttributePositions == nullptr) {
+        std::unique_ptr<zvNamePositions> positions = positionsOf(object);
+        member.m_pAttributePositions = positions.get();
+        if (positions != nullptr) {
+            m_positions.push_back(std::move(positions));
+        }
+    }
+    object.m_attributeGroup = member.m_attributeGroup;
+    object.m_pAttributePositions = member.m_pAttributePositions;
 }
 
 const zvCfgObjectList* zvCfgObjectConfig::byTypes(const zvString& localType,

@@ -1,6 +1,9 @@
 #ifndef ZV_CFG_OBJECT_CONFIG_H
 #define ZV_CFG_OBJECT_CONFIG_H
 
+#include <memory>
+#include <vector>
+
 #include "zvCfgObject.h"
 #include "zvCfgObjectList.h"
 #include "zvCfgTypeIndex.h"
@@ -22,7 +25,7 @@ public:
     const zvCfgObject* at(int i) const { return m_objects.at(i); }
 
 private:
-    static int groupOf(const zvCfgObject& object, const zvCfgObjectList& sameType);
+    void join(zvCfgObject& object, zvCfgObject& member);
 
     zvCfgTypeIndex<zvCfgObjectList> m_byOotbType;
     zvCfgTypeIndex<zvCfgObjectList> m_byLocalType;
@@ -30,6 +33,7 @@ private:
     zvCfgTypeIndex<zvCfgObjectList> m_byTypes;  // key: both names, concatenated
     zvCfgOwner<zvCfgObject> m_objects;
     int m_lastGroup = 0;
+    std::vector<std::unique_ptr<zvNamePositions>> m_positions;  // of the groups of several objects
 };
 
 #endif

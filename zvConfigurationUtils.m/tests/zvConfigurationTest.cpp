@@ -118,8 +118,15 @@ TEST_F(zvConfigurationTest, ObjectsOfATypeWithTheSameAttributesAreAGroup) {
     }
     EXPECT_EQ(groups, (std::vector<int>{1, 1, 1, 2, 3, 3, 4}));
     zvCfgObject* const changed = manager().getObjectsByLocalType("Part")->get(0);
+    const zvNamePositions* const positions = changed->attributePositions();
+    EXPECT_EQ(positions, manager().getObjectAt(2)->attributePositions());
+    ASSERT_NE(positions, nullptr);
+    EXPECT_EQ(positions->find("r"), 0);
+    EXPECT_EQ(positions->find("b"), 1);
+    EXPECT_EQ(manager().getObjectAt(3)->attributePositions(), nullptr);
     changed->addAttribute(attribute("", "c", ""));
     EXPECT_EQ(changed->getAttributeGroup(), 0);
+    EXPECT_EQ(changed->attributePositions(), nullptr);
 }
 
 TEST_F(zvConfigurationTest, ObjectsAreFoundByTheirTypes) {

@@ -52,7 +52,7 @@ zvDateTime toDate(const zvString& text) {
 
 }  // namespace
 
-zvValue::zvValue() { initialize(); }
+zvValue::zvValue() = default;
 
 zvValue::zvValue(bool value) : zvValue() { setBoolValue(value); }
 
@@ -62,7 +62,7 @@ zvValue::zvValue(float value) : zvValue() { setFloatValue(value, m_precision); }
 
 zvValue::zvValue(const zvString& value) : zvValue() { setStrValue(value); }
 
-zvValue::zvValue(zvString&& value) : m_strValue(std::move(value)), m_dataType(zvDataTypeString) {}
+zvValue::zvValue(zvString&& value) : m_dataType(zvDataTypeString), m_strValue(std::move(value)) {}
 
 zvValue::zvValue(const char* value) : zvValue(zvString(value)) {}
 

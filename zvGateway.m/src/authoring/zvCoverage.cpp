@@ -70,7 +70,7 @@ void zvCoverage::note(const zvMappingTrial& trial, bool isLocal) {
             continue;
         }
         const auto at = static_cast<std::size_t>(i);
-        if (mapping.findValue(mapping.sourceName(attribute)) != nullptr) {
+        if (mapping.findText(mapping.sourceName(attribute)) != nullptr) {
             trace.carried[at][direction] = true;
         } else if (attribute.isDefaultValueSpecified()) {
             trace.defaulted[at] = true;

@@ -65,7 +65,7 @@ std::vector<zvString> zvMappingAccount::withoutValue() const {
     for (int i = 0; mapping.hasObject() && i < mapping.object().numAttributes(); ++i) {
         const zvCfgAttribute& attribute = *mapping.object().getAttribute(i);
         const zvString& to = mapping.targetName(attribute);
-        if (!to.empty() && mapping.findValue(mapping.sourceName(attribute)) == nullptr &&
+        if (!to.empty() && mapping.findText(mapping.sourceName(attribute)) == nullptr &&
             !attribute.isDefaultValueSpecified()) {
             names.push_back(to);
         }

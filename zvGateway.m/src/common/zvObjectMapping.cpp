@@ -51,45 +51,85 @@ const zvCndContext& zvObjectMapping::contextFor(const zvCfgObject& object) const
 zvObjectMapping::View& zvObjectMapping::viewOf(const zvCfgObject& object) const {
     if (m_view.object == nullptr || !areSeenAlike(*m_view.object, object)) {
         m_view.object = &object;
-        m_view.given.clear();
-        m_view.typed.clear();
+        m_view.converted.clear();
         m_view.isWhole = false;
         m_view.context.reset();
-        const int count = object.numAttributes();
-        m_view.given.reserve(static_cast<std::size_t>(count));
-        for (int i = 0; i < count; ++i) {
-            m_view.given.push_back(findValue(sourceName(*object.getAttribute(i))));
-        }
+        findGiven(m_view);
     }
     return m_view;
 }
 
+void zvObjectMapping::findGiven(View& view) const {
+    const zvCfgObject& object = *view.object;
+    view.given.assign(static_cast<std::size_t>(object.numAttributes()), nullptr);
+    if (const zvNamePositions* const positions = object.attributePositions()) {
+        for (const auto& [name, value] : m_values) {
+            const int at = positions->find(name);
+            if (at >= 0 && sourceName(*object.getAttribute(at)) == name) {
+                view.given[static_cast<std::size_t>(at)] = &value;
+            }
+        }
+        return;
+    }
+    for (std::size_t i = 0; i < view.given.size(); ++i) {
+        view.given[i] = findValue(sourceName(*object.getAttribute(static_cast<int>(i))));
+    }
+}
+
 // A rule may name an attribute as either system does: it is written once for both directions.
 void zvObjectMapping::fillContext(View& view) const {
-    const std::size_t count = view.given.size();
     zvCndContext& context = view.context.emplace();
-    std::size_t seen = 0;                         // of the values
-    view.typed.reserve(count + m_values.size());  // they do not move any more
-    context.reserve(static_cast<int>(2 * count));
-    for (std::size_t i = 0; i < count; ++i) {
-        if (view.given[i] != nullptr) {
-            const zvCfgAttribute& attribute = *view.object->getAttribute(static_cast<int>(i));
-            view.typed.emplace_back();
-            setTypedValue(view.typed.back(), *view.given[i], attribute.getDataType());
-            seen += context.borrowAttribute(sourceName(attribute), view.typed.back()) ? 1 : 0;
-            context.borrowAttribute(targetName(attribute), view.typed.back());
-        }
-    }
+    view.converted.reserve(view.given.size());  // they do not move any more
+    const zvNamePositions* const positions = view.object->attributePositions();
+    const std::size_t seen = positions != nullptr ? borrowByPosition(view, *positions) : borrowByName(view);
     view.isWhole = seen == m_values.size();
     if (view.isWhole) {
         return;
     }
     for (const auto& [name, value] : m_values) {
         if (context.findValue(name) == nullptr) {
-            view.typed.emplace_back(value);
-            context.borrowAttribute(name, view.typed.back());
+            context.borrowAttribute(name, value);
         }
     }
+}
+
+// Both return how many of the values the rule sees under their own names.
+std::size_t zvObjectMapping::borrowByPosition(View& view, const zvNamePositions& positions) const {
+    std::size_t seen = 0;
+    view.compared.assign(view.given.size(), nullptr);
+    for (std::size_t i = 0; i < view.given.size(); ++i) {
+        if (view.given[i] != nullptr) {
+            view.compared[i] = &compared(view, i);
+            ++seen;
+        }
+    }
+    view.context->borrowAttributes(positions, view.compared.data());
+    return seen;
+}
+
+std::size_t zvObjectMapping::borrowByName(View& view) const {
+    zvCndContext& context = *view.context;
+    std::size_t seen = 0;
+    context.reserve(static_cast<int>(2 * view.given.size()));
+    for (std::size_t i = 0; i < view.given.size(); ++i) {
+        if (view.given[i] != nullptr) {
+            const zvCfgAttribute& attribute = *view.object->getAttribute(static_cast<int>(i));
+            const zvValue& value = compared(view, i);
+            seen += context.borrowAttribute(sourceName(attribute), value) ? 1 : 0;
+            context.borrowAttribute(targetName(attribute), value);
+        }
+    }
+    return seen;
+}
+
+const zvValue& zvObjectMapping::compared(View& view, std::size_t i) {
+    const zvDataTypeEnum type = view.object->getAttribute(static_cast<int>(i))->getDataType();
+    if (type == zvDataTypeString || type == zvDataTypeNone) {
+        return *view.given[i];
+    }
+    zvValue& value = view.converted.emplace_back();
+    setTypedValue(value, view.given[i]->text(), type);
+    return value;
 }
 
 void zvObjectMapping::carry(const zvCfgObject& object) {
@@ -98,14 +138,14 @@ void zvObjectMapping::carry(const zvCfgObject& object) {
     m_attributes.reserve(view.given.size());
     for (std::size_t i = 0; i < view.given.size(); ++i) {
         const zvCfgAttribute& attribute = *object.getAttribute(static_cast<int>(i));
-        const zvString* const given = view.given[i];
+        const zvValue* const given = view.given[i];
         const zvString& to = targetName(attribute);
         if (to.empty()) {
             isWhole = false;
         } else if (given != nullptr || attribute.isDefaultValueSpecified()) {
-            m_attributes.push_back({sourceName(attribute), to,
-                                    given == nullptr ? attribute.defaultValue() : *given,
-                                    attribute.getDataType(), given == nullptr});
+            m_attributes.emplace_back(sourceName(attribute), to,
+                                      given == nullptr ? attribute.defaultValue() : given->text(),
+                                      attribute.getDataType(), given == nullptr);
         }
     }
     if (!isWhole) {
@@ -121,15 +161,20 @@ void zvObjectMapping::noteUnmapped() {
     }
     std::sort(carried.begin(), carried.end(), std::less<>());
     for (const auto& [name, value] : m_values) {
-        if (!std::binary_search(carried.begin(), carried.end(), &value, std::less<>())) {
+        if (!std::binary_search(carried.begin(), carried.end(), &value.text(), std::less<>())) {
             m_unmapped.push_back(name);
         }
     }
 }
 
-const zvString* zvObjectMapping::findValue(const zvString& name) const {
+const zvValue* zvObjectMapping::findValue(const zvString& name) const {
     const auto found = m_values.find(name);
     return name.empty() || found == m_values.end() ? nullptr : &found->second;
+}
+
+const zvString* zvObjectMapping::findText(const zvString& name) const {
+    const zvValue* const value = findValue(name);
+    return value == nullptr ? nullptr : &value->text();
 }
 
 const zvString& zvObjectMapping::sourceName(const zvCfgAttribute& attribute) const {

@@ -17,6 +17,11 @@ public:
 
     /// The texts are those of the configuration and of the object.
     struct Attribute {
+        // Made where it stays.
+        Attribute(const zvString& source, const zvString& target, const zvString& given, zvDataTypeEnum dataType,
+                  bool isOfConfiguration)
+            : from(source), to(target), value(given), type(dataType), isDefault(isOfConfiguration) {}
+
         const zvString& from;
         const zvString& to;
         const zvString& value;
@@ -24,7 +29,8 @@ public:
         bool isDefault;
     };
 
-    using Values = std::map<zvString, zvString>;
+    /// Strings all of them: what a rule compares as a text is borrowed.
+    using Values = std::map<zvString, zvValue>;
 
     /// `values`, which have to outlive this object, are the object's attributes under their names in the
     /// system that it comes from.
@@ -41,8 +47,8 @@ public:
     const zvCfgObject& object() const { return *m_pObject; }
     /// The candidates whose rules do not hold, or cannot be evaluated.
     const std::vector<const zvCfgObject*>& passedOver() const { return m_passedOver; }
-    /// The value that the object has under this name; null if it has none.
-    const zvString* findValue(const zvString& name) const;
+    /// The text that the object has under this name; null if it has none.
+    const zvString* findText(const zvString& name) const;
     /// What a mapping rule of this object compares; valid until the next call.
     const zvCndContext& contextFor(const zvCfgObject& object) const;
 
@@ -61,15 +67,21 @@ private:
     // What an object's attributes are given, and what its rule compares: the same for most objects of a type.
     struct View {
         const zvCfgObject* object = nullptr;
-        std::vector<const zvString*> given;  // for each attribute; null without a value
-        std::vector<zvValue> typed;
+        std::vector<const zvValue*> given;     // for each attribute; null without a value
+        std::vector<zvValue> converted;        // those of a type other than String
+        std::vector<const zvValue*> compared;  // for each attribute, if their names have positions
         bool isWhole = false;                 // every value is known to be given to some attribute
-        std::optional<zvCndContext> context;  // once it was asked for; borrows names and typed values
+        std::optional<zvCndContext> context;  // once it was asked for; borrows names and values
     };
 
+    const zvValue* findValue(const zvString& name) const;
     bool applies(const zvCfgObject& object) const;
     View& viewOf(const zvCfgObject& object) const;
+    void findGiven(View& view) const;
     void fillContext(View& view) const;
+    std::size_t borrowByPosition(View& view, const zvNamePositions& positions) const;
+    std::size_t borrowByName(View& view) const;
+    static const zvValue& compared(View& view, std::size_t i);
     void carry(const zvCfgObject& object);
     void noteUnmapped();
 

@@ -160,7 +160,7 @@ public:
         for (int i = 0; i < object.numAttributes(); ++i) {
             const zvCfgAttribute& attribute = *object.getAttribute(i);
             const zvString& name = m_mapping.sourceName(attribute);
-            const zvString* const given = m_mapping.findValue(name);
+            const zvString* const given = m_mapping.findText(name);
             const bool isSent = !name.empty() && !m_mapping.targetName(attribute).empty();
             if (given == nullptr && attribute.isDefaultValueSpecified()) {
                 checkValue(attribute, attribute.getDefaultValue(), "the default value ");
@@ -177,7 +177,7 @@ public:
         const std::set<zvString> variables = variablesOf(object.getMappingRule());
         for (int i = 0; i < object.numAttributes(); ++i) {
             const zvCfgAttribute& attribute = *object.getAttribute(i);
-            const zvString* const given = m_mapping.findValue(m_mapping.sourceName(attribute));
+            const zvString* const given = m_mapping.findText(m_mapping.sourceName(attribute));
             if (given != nullptr &&
                 variables.count(attribute.localName()) + variables.count(attribute.remoteName()) > 0) {
                 checkValue(attribute, *given, "");

@@ -59,7 +59,7 @@ std::string zvMappingStep::describeObject(const zvObjectMapping& mapping, const 
     for (int i = 0; i < object.numAttributes(); ++i) {
         const zvCfgAttribute& attribute = *object.getAttribute(i);
         const zvString& name = mapping.sourceName(attribute);
-        const zvString* const value = attribute.isKeyAttribute() ? mapping.findValue(name) : nullptr;
+        const zvString* const value = attribute.isKeyAttribute() ? mapping.findText(name) : nullptr;
         if (value != nullptr && !value->empty()) {
             text.append(" ").append(zvConsole::printable(zvObjectAttribute::shownValue(name, *value)));
         }
