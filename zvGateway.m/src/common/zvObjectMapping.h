@@ -18,8 +18,8 @@ public:
     /// The texts are those of the configuration and of the object.
     struct Attribute {
         // Made where it stays.
-        Attribute(const zvString& source, const zvString& target, const zvString& given, zvDataTypeEnum dataType,
-                  bool isOfConfiguration)
+        Attribute(const zvString& source, const zvString& target, const zvString& given,
+                  zvDataTypeEnum dataType, bool isOfConfiguration)
             : from(source), to(target), value(given), type(dataType), isDefault(isOfConfiguration) {}
 
         const zvString& from;
@@ -70,8 +70,8 @@ private:
         std::vector<const zvValue*> given;     // for each attribute; null without a value
         std::vector<zvValue> converted;        // those of a type other than String
         std::vector<const zvValue*> compared;  // for each attribute, if their names have positions
-        bool isWhole = false;                 // every value is known to be given to some attribute
-        std::optional<zvCndContext> context;  // once it was asked for; borrows names and values
+        bool isWhole = false;                  // every value is known to be given to some attribute
+        std::optional<zvCndContext> context;   // once it was asked for; borrows names and values
     };
 
     const zvValue* findValue(const zvString& name) const;
