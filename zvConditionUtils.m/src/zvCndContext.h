@@ -24,9 +24,9 @@ public:
     /// Adds an attribute without a copy: name and value have to outlive the context and its copies,
     /// unchanged. False, with nothing changed, for an empty and for a duplicate name.
     bool borrowAttribute(const zvString& name, const zvValue& value);
-    /// Adds attributes without copies: under each of `names` the value at its position, unless that is null.
-    /// Both have to outlive the context and its copies, unchanged. Precondition: nothing was added before, and
-    /// `values` has an element for every position.
+    /// Adds attributes without copies: under each of `names` the value at its position in `values`, unless
+    /// that is null. Names, values and their array have to outlive the context and its copies, unchanged.
+    /// Precondition: nothing was added before, and there is an element for every position.
     void borrowAttributes(const zvNamePositions& names, const zvValue* const* values);
     /// Makes room for `count` attributes beside those.
     void reserve(int count);
