@@ -35,3 +35,27 @@ std::vector<zvCndCondition> zvConditionTree::childrenOf(const zvCndCondition& co
     }
     return children;
 }
+
+std::set<zvString> zvConditionTree::variablesOf(const zvCndCondition& condition) {
+    std::set<zvString> names;
+    std::vector<zvCndCondition> open{condition};
+    while (!open.empty()) {
+        const zvCndCondition part = open.back();
+        open.pop_back();
+        if (part.IsNull()) {
+            continue;
+        }
+        if (!isComparison(part->getConditionType())) {
+            const std::vector<zvCndCondition> children = childrenOf(part);
+            open.insert(open.end(), children.begin(), children.end());
+            continue;
+        }
+        const auto comparison = zvCndConditionFactory::getComparisonCondition(part);
+        for (const zvCndOperand* const operand : {&comparison->lhsOperand(), &comparison->rhsOperand()}) {
+            if (operand->getValueType() == zvOperandVariable) {
+                names.insert(operand->value().getValue());
+            }
+        }
+    }
+    return names;
+}

@@ -8,13 +8,11 @@
 #include <string_view>
 
 #include "zvCharString.h"
-#include "zvCndConditionFactory.h"
 #include "zvCommonUtils.h"
 #include "zvConditionTree.h"
 #include "zvConsole.h"
 #include "zvDataTypeWords.h"
 #include "zvDateTime.h"
-#include "zvICndComparisonCondition.h"
 #include "zvObjectAttribute.h"
 
 namespace {
@@ -127,31 +125,6 @@ std::string shown(const zvString& name, const zvString& value) {
     return "\"" + zvConsole::printable(isLong ? text.substr(0, longestShown) + "..." : text) + "\"";
 }
 
-// The names of the attributes that the rule compares.
-std::set<zvString> variablesOf(const zvCndCondition& rule) {
-    std::set<zvString> names;
-    std::vector<zvCndCondition> open{rule};
-    while (!open.empty()) {
-        const zvCndCondition condition = open.back();
-        open.pop_back();
-        if (condition.IsNull()) {
-            continue;
-        }
-        if (!zvConditionTree::isComparison(condition->getConditionType())) {
-            const std::vector<zvCndCondition> children = zvConditionTree::childrenOf(condition);
-            open.insert(open.end(), children.begin(), children.end());
-            continue;
-        }
-        const auto comparison = zvCndConditionFactory::getComparisonCondition(condition);
-        for (const zvCndOperand& operand : {comparison->getLHSOperand(), comparison->getRHSOperand()}) {
-            if (operand.getValueType() == zvOperandVariable) {
-                names.insert(operand.getValue().getValue());
-            }
-        }
-    }
-    return names;
-}
-
 class Check {
 public:
     explicit Check(const zvObjectMapping& mapping) : m_mapping(mapping) {}
@@ -174,7 +147,7 @@ public:
 
     // A rule names an attribute as either system does.
     void checkRule(const zvCfgObject& object) {
-        const std::set<zvString> variables = variablesOf(object.getMappingRule());
+        const std::set<zvString> variables = zvConditionTree::variablesOf(object.mappingRule());
         for (int i = 0; i < object.numAttributes(); ++i) {
             const zvCfgAttribute& attribute = *object.getAttribute(i);
             const zvString* const given = m_mapping.findText(m_mapping.sourceName(attribute));

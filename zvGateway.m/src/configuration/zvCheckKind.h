@@ -8,7 +8,8 @@
 namespace zvCheckKind {
 
 constexpr std::string_view unreachableObject = "unreachable-object";
-constexpr std::string_view shadowedType = "shadowed-type";  ///< not reached from one of its types alone
+constexpr std::string_view shadowedType = "shadowed-type";    ///< not reached from one of its types alone
+constexpr std::string_view ambiguousName = "ambiguous-name";  ///< in a rule: that of two attributes
 constexpr std::string_view untypedObject = "untyped-object";
 constexpr std::string_view unknownDataType = "unknown-data-type";
 constexpr std::string_view unusedExtension = "unused-extension";

@@ -6,6 +6,7 @@
 
 #include "zvCfgDescription.h"
 #include "zvCheckKind.h"
+#include "zvConditionTree.h"
 
 namespace {
 
@@ -137,6 +138,7 @@ void zvConfigurationCheck::checkObjects() {
         }
         shadows.add(object);
         checkAttributes(object);
+        checkRule(object);
     }
 }
 
@@ -147,6 +149,20 @@ void zvConfigurationCheck::checkAttributes(const zvCfgObject& object) {
             m_findings.push_back({error, zvCheckKind::unknownDataType, zvCfgDescription::ofObject(object),
                                   attribute.anyName(), attribute.getPosition(),
                                   "the DataType is none of Integer, Float, String, Date and Boolean"});
+        }
+    }
+}
+
+void zvConfigurationCheck::checkRule(const zvCfgObject& object) {
+    for (const zvString& name : zvConditionTree::variablesOf(object.mappingRule())) {
+        const zvCfgAttribute* const local = object.getAttributeByLocalName(name);
+        const zvCfgAttribute* const remote = object.getAttributeByRemoteName(name);
+        if (local != nullptr && remote != nullptr && local != remote) {
+            m_findings.push_back(
+                {warning, zvCheckKind::ambiguousName, zvCfgDescription::ofObject(object), name,
+                 object.getPosition(),
+                 "the mapping rule's name is the LocalName of one attribute and the RemoteName "
+                 "of another: the first one with a value is compared"});
         }
     }
 }

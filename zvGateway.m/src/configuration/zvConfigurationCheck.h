@@ -11,8 +11,9 @@
 ///
 /// Errors: an object that nothing reaches, because an earlier one of the same types has no mapping rule, and
 /// an attribute with an unknown data type. Warnings: an object that is not reached in one direction, or has
-/// no type to be found by; an extension that goes neither way, or that is written with other upper and lower
-/// case letters as well; a lifecycle state to which no transition leads from the first one.
+/// no type to be found by; a rule's name that two attributes have, one in each system; an extension that goes
+/// neither way, or that is written with other upper and lower case letters as well; a lifecycle state to
+/// which no transition leads from the first one.
 class zvConfigurationCheck {
 public:
     explicit zvConfigurationCheck(const zvCfgConfigManager& configuration);
@@ -26,6 +27,7 @@ private:
 
     void checkObjects();
     void checkAttributes(const zvCfgObject& object);
+    void checkRule(const zvCfgObject& object);
     void checkFiles();
     void checkFile(const zvCfgFile& file, Spellings& everywhere);
     void checkLifecycle(const zvCfgLcmGraph& lifecycle);
