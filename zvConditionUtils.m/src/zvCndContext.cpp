@@ -30,13 +30,11 @@ bool zvCndContext::setAttribute(const zvString& name, const zvString& text, zvDa
 }
 
 bool zvCndContext::borrowAttribute(const zvString& name, const zvValue& value) {
-    return !name.empty() && findBorrowed(name, zvStringUnits::hashOf(name)) == nullptr &&
-           m_attributes.m_pImpl->borrow(name, value);
+    return !name.empty() && m_attributes.m_pImpl->borrow(name, value);
 }
 
 void zvCndContext::borrowAttributes(const zvNamePositions& names, const zvValue* const* values) {
-    m_pNames = &names;
-    m_pValues = values;
+    m_attributes.m_pImpl->borrow(names, values);
 }
 
 void zvCndContext::reserve(int count) { m_attributes.m_pImpl->reserve(count); }
@@ -55,16 +53,5 @@ const zvValue* zvCndContext::findValue(const zvString& name) const {
 
 // An empty name is never added.
 const zvValue* zvCndContext::findValue(const zvString& name, std::uint32_t hash) const {
-    const zvValue* const borrowed = findBorrowed(name, hash);
-    return borrowed != nullptr ? borrowed : findFurther(name, hash);
-}
-
-// By itself, so that the usual look-up is short.
-[[gnu::noinline]] const zvValue* zvCndContext::findFurther(const zvString& name, std::uint32_t hash) const {
     return m_attributes.m_pImpl->findValue(name, hash);
-}
-
-const zvValue* zvCndContext::findBorrowed(const zvString& name, std::uint32_t hash) const {
-    const int position = m_pNames == nullptr ? -1 : m_pNames->find(name, hash);
-    return position < 0 ? nullptr : m_pValues[position];
 }

@@ -40,12 +40,8 @@ private:
     friend class zvICndComparisonCondition;
 
     const zvValue* findValue(const zvString& name, std::uint32_t hash) const;
-    const zvValue* findBorrowed(const zvString& name, std::uint32_t hash) const;
-    const zvValue* findFurther(const zvString& name, std::uint32_t hash) const;
 
     zvStringToAttrMap m_attributes;
-    const zvNamePositions* m_pNames = nullptr;
-    const zvValue* const* m_pValues = nullptr;
 };
 
 #endif

@@ -215,6 +215,7 @@ TEST(zvCndContextTest, BorrowsValuesByPosition) {
     EXPECT_EQ(context.findValue("one"), &one);
     EXPECT_EQ(context.findValue("first"), &one);
     EXPECT_EQ(context.findValue("two"), nullptr);
+    EXPECT_EQ(zvCndContext(context).findValue("one"), &one);
     EXPECT_FALSE(context.setAttribute("one", "2", zvDataTypeInteger));
     const zvString first("first");
     EXPECT_FALSE(context.borrowAttribute(first, one));

@@ -21,7 +21,7 @@ public:
     int find(const zvString& name) const;
 
 private:
-    friend class zvCndContext;
+    friend class zvStringToAttrMapImpl;
 
     int find(const zvString& name, std::uint32_t hash) const;
 

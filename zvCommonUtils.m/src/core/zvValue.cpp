@@ -62,7 +62,7 @@ zvValue::zvValue(float value) : zvValue() { setFloatValue(value, m_precision); }
 
 zvValue::zvValue(const zvString& value) : zvValue() { setStrValue(value); }
 
-zvValue::zvValue(zvString&& value) : m_dataType(zvDataTypeString), m_strValue(std::move(value)) {}
+zvValue::zvValue(zvString&& value) : m_strValue(std::move(value)), m_dataType(zvDataTypeString) {}
 
 zvValue::zvValue(const char* value) : zvValue(zvString(value)) {}
 

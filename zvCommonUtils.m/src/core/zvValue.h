@@ -126,8 +126,6 @@ private:
     std::uint32_t textHash() const;
     bool remembersFloat() const;
 
-    // What a comparison reads comes first, beside each other in the memory.
-    zvDataTypeEnum m_dataType = zvDataTypeNone;
     bool m_bValue = false;
     unsigned char m_remembered = nothing;
     int m_integer = -1;
@@ -135,6 +133,7 @@ private:
     int m_precision = 3;
     zvKeptString m_strValue;
     zvDateTime m_dateValue;
+    zvDataTypeEnum m_dataType = zvDataTypeNone;
 };
 
 #endif

@@ -6,6 +6,7 @@
 #include "zvAttribute.h"
 #include "zvCharString.h"
 #include "zvCndCondition.h"
+#include "zvCndContext.h"
 #include "zvCndOperand.h"
 #include "zvDateTime.h"
 #include "zvEventArguments.h"
@@ -16,6 +17,7 @@
 #include "zvResult.h"
 #include "zvString.h"
 #include "zvStringList.h"
+#include "zvStringToAttrMap.h"
 #include "zvStringTokeniser.h"
 #include "zvValue.h"
 
@@ -95,6 +97,8 @@ ZV_SIZE(zvCndOperand, 96);
 ZV_PLACE(zvCndOperand, m_value, 4);
 ZV_PLACE(zvCndOperand, m_valueType, 92);
 
+ZV_SIZE(zvStringToAttrMap, 8);
+ZV_SIZE(zvCndContext, 12);
 ZV_SIZE(zvCndCondition, 4);
 ZV_SIZE(zvICndCondition, 12);
 ZV_PLACE(zvICndCondition, m_conditionType, 8);
