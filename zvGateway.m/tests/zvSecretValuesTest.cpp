@@ -58,6 +58,15 @@ TEST_F(zvSecretValuesTest, EveryFormOfASecretIsMasked) {
               "p w&");
 }
 
+TEST_F(zvSecretValuesTest, ASecretOfBackslashesIsMaskedAsItIsAndDoubled) {
+    const std::string secret(200, '\\');
+    m_args.setEventArgument("LoginPassword", (secret + "x").c_str());
+    const zvSecretValues secrets(m_args, "http://host/");
+    EXPECT_EQ(secrets.masked(secret + "x.", 500), "********.");
+    EXPECT_EQ(secrets.masked(secret + secret + "x.", 500), "********.");
+    EXPECT_EQ(secrets.masked(secret + ".", 500), secret + ".");
+}
+
 TEST_F(zvSecretValuesTest, NoPartOfASecretIsLeftAtTheLimit) {
     const std::string secret = "abcdefghijklmnop";
     m_args.setEventArgument("LoginPassword", secret.c_str());

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstddef>
 
 #include "zvSecrets.h"
 #include "zvSpelledCharacter.h"
@@ -72,11 +73,25 @@ bool isCutOff(std::string_view rest) {
                             std::all_of(rest.begin(), rest.end(), maySpell));
 }
 
-// Where the secret that begins at `begin` ends, by its longest spelling; 0 if there is none.
+// Of the places where the characters so far may end, the nearest two and the farthest two: a server spells a
+// character alike throughout, and a run of backslashes, single or doubled, has as many ends as characters.
+void keepTelling(std::vector<std::size_t>& ends) {
+    constexpr std::ptrdiff_t ofEach = 2;
+    std::sort(ends.begin(), ends.end());
+    ends.erase(std::unique(ends.begin(), ends.end()), ends.end());
+    if (static_cast<std::ptrdiff_t>(ends.size()) > 2 * ofEach) {
+        ends.erase(ends.begin() + ofEach, ends.end() - ofEach);
+    }
+}
+
+// Where the secret that begins at `begin` ends, by its longest spelling; 0 if there is none, as at most
+// places, which allocate nothing.
 std::size_t endOf(const std::u32string& secret, std::string_view text, std::size_t begin) {
-    std::vector<std::size_t> ends{begin};
+    std::vector<std::size_t> ends;
     std::vector<std::size_t> next;
-    for (std::size_t i = 0; i < secret.size(); ++i) {
+    zvSpelledCharacter::appendEnds(text, begin, secret.front(), ends);
+    keepTelling(ends);
+    for (std::size_t i = 1; i < secret.size() && !ends.empty(); ++i) {
         next.clear();
         for (const std::size_t end : ends) {
             zvSpelledCharacter::appendEnds(text, end, secret[i], next);
@@ -84,14 +99,10 @@ std::size_t endOf(const std::u32string& secret, std::string_view text, std::size
         if (next.empty() && i >= tellingCharacters && isCutOff(text.substr(ends.back()))) {
             return text.size();
         }
-        std::sort(next.begin(), next.end());
-        next.erase(std::unique(next.begin(), next.end()), next.end());
+        keepTelling(next);
         ends.swap(next);
-        if (ends.empty()) {
-            return 0;
-        }
     }
-    return ends.back();
+    return ends.empty() ? 0 : ends.back();
 }
 
 // Not within a character of UTF-8.

@@ -130,26 +130,40 @@ void zvSpelledCharacter::appendEnds(std::string_view text, std::size_t at, char3
     const auto addText = [&](std::string_view spelling) {
         add(startsWith(rest, spelling) ? spelling.size() : 0);
     };
+    const auto addEscapes = [&](std::string_view introduction) {
+        add(character < firstBeyondLatin1 ? lengthOfEscape(rest, introduction, 2, character) : 0);
+    };
     addText(bytes);
-    add(lengthOfPercentEncoded(rest, bytes, "%"));
-    add(lengthOfPercentEncoded(rest, bytes, "%25"));
-    add(lengthOfReference(rest, character));
-    add(lengthOfUnicodeEscape(rest, character));
     for (const auto& name : names) {
         if (name.character == character) {
             addText(name.text);
         }
     }
-    if (character < firstBeyondAscii) {
-        addText("\\" + bytes);
-    } else {
+    if (character >= firstBeyondAscii) {
         addText(encodedTwice(bytes));
         addText("?");
         addText("\xEF\xBF\xBD");
     }
     if (character < firstBeyondLatin1) {
-        add(lengthOfEscape(rest, "\\x", 2, character));
-        add(lengthOfEscape(rest, "%", 2, character));
         addText(std::string(1, static_cast<char>(character)));
+    }
+    switch (rest.empty() ? '\0' : rest.front()) {
+        case '%':
+            add(lengthOfPercentEncoded(rest, bytes, "%"));
+            add(lengthOfPercentEncoded(rest, bytes, "%25"));
+            addEscapes("%");
+            break;
+        case '&':
+            add(lengthOfReference(rest, character));
+            break;
+        case '\\':
+            add(lengthOfUnicodeEscape(rest, character));
+            addEscapes("\\x");
+            if (character < firstBeyondAscii) {
+                addText("\\" + bytes);
+            }
+            break;
+        default:
+            break;
     }
 }
