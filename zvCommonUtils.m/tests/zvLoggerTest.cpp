@@ -103,6 +103,22 @@ TEST_F(zvLoggerTest, HasNoLoggerForCallsDuringItsCreation) {
     EXPECT_TRUE(zvRecordingLogger::events().empty());
 }
 
+TEST_F(zvLoggerTest, CallsAPieceForAMessageThatIsRead) {
+    zvLogSource("a/b").info(
+        "call ", [] { return zvString(1); }, ".");
+    EXPECT_EQ(zvRecordingLogger::lines(), std::vector<std::string>{"info: call 1."});
+}
+
+TEST_F(zvLoggerTest, CallsNoPieceForAMessageThatNobodyReads) {
+    zvRecordingLogger::onInitialize([](const std::string&) { return false; });
+    bool called = false;
+    zvLogSource("a/b").info("call ", [&called] {
+        called = true;
+        return zvString(1);
+    });
+    EXPECT_FALSE(called);
+}
+
 TEST_F(zvLoggerTest, RaisesWhatItLogs) {
     constexpr zvLogSource source("zvModule.m/src/zvThing");
     EXPECT_EQ(messageThrownBy([&] { source.raise("number ", 7, " of ", zvString("x")); }), "number 7 of x");

@@ -262,7 +262,8 @@ int operatorEnd(const zvString& text, int begin) {
 }
 
 Reading read(const zvString& text) {
-    logger.info("zvCndParsingUtils::createConditionStructure - ", zvSecrets::maskedArgument(text));
+    logger.info("zvCndParsingUtils::createConditionStructure - ",
+                [&text] { return zvSecrets::maskedArgument(text); });
     return Reader(text).read();
 }
 

@@ -2,6 +2,7 @@
 #define ZV_LOG_SOURCE_H
 
 #include <new>
+#include <type_traits>
 
 #include "zvException.h"
 #include "zvLogLevel.h"
@@ -27,7 +28,8 @@ struct zvLogHead {
 
 /// The logger of one source file: it is constructed with the file's name and then logs messages in pieces,
 /// `logger.error("Error in opening file : \"", path, "\"")`. The pieces, each a zvString, a narrow string or
-/// an int, are concatenated only if the message will be read.
+/// an int, are concatenated only if the message will be read; a piece may also be a function that returns
+/// one, and is called only then.
 class zvLogSource {
 public:
     explicit constexpr zvLogSource(const char* file) : m_pFile(file) {}
@@ -70,9 +72,18 @@ private:
             return;
         }
         try {
-            zvLogSink::write(level, zvTextBuilder::concat(head.text, rest...), m_pFile, head.line);
+            zvLogSink::write(level, zvTextBuilder::concat(head.text, textOf(rest)...), m_pFile, head.line);
         } catch (const std::bad_alloc&) {
             // Logging never fails towards the caller: without memory the message is lost.
+        }
+    }
+
+    template <typename Piece>
+    static decltype(auto) textOf(const Piece& piece) {
+        if constexpr (std::is_invocable_v<const Piece&>) {
+            return piece();
+        } else {
+            return (piece);
         }
     }
 

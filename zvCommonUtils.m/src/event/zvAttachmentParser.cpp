@@ -71,7 +71,8 @@ int zvAttachmentParser::parseAttachment(zvAttachmentList* list) {
         report(zvFinding::Severity::warning, zvFindingKind::missingPath, zvString(), skipped);
         return 0;
     }
-    logger.debug("Parsed attachment ", attachment->toString(), "]");
+    logger.debug(
+        "Parsed attachment ", [&attachment] { return attachment->toString(); }, "]");
     list->addAttachment(attachment.release());
     return 0;
 }

@@ -192,7 +192,7 @@ zvEventArguments* zvEventArguments::parseEventArguments(int argc, char** argv) {
     logger.info("Command Line arguments recieved : ");
     for (int i = 1; i < argc; ++i) {
         zvString argument(argv[i]);
-        logger.info("> ", zvSecrets::maskedArgument(argument));
+        logger.info("> ", [&argument] { return zvSecrets::maskedArgument(argument); });
         if (argument.empty()) {
             logger.warn("Empty Argument received");
         } else if (argument.find("=") != -1 && !addKeyValueToEventArgument(argument, args.get())) {

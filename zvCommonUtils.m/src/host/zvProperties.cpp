@@ -65,7 +65,7 @@ bool zvProperties::addPropertyToMap(const zvString& line) {
     if (line.empty() || line[0] == commentMark) {
         return true;
     }
-    logger.info("Processing string :", zvSecrets::maskedUrl(line));
+    logger.info("Processing string :", [&line] { return zvSecrets::maskedUrl(line); });
     const wchar16* const end = line.data() + line.size();
     const auto separator = static_cast<int>(std::find(line.data(), end, wchar16{u'='}) - line.data());
     if (separator < 1 || separator == line.size()) {

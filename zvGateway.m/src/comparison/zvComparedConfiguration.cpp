@@ -17,8 +17,19 @@ zvComparedPart namedPart(std::string_view kind, std::string_view property, const
     return part;
 }
 
-zvString wordOf(zvDataTypeEnum type) {
-    return type == zvDataTypeNone ? zvString("unknown") : zvString(zvDataTypeWords::wordOf(type).data());
+// By the types.
+std::vector<zvComparedPart::SharedText> dataTypeWords() {
+    std::vector<zvComparedPart::SharedText> words{zvComparedPart::toShared("unknown")};
+    for (int type = zvDataTypeNone + 1; type <= zvDataTypeBoolean; ++type) {
+        words.push_back(
+            zvComparedPart::toShared(zvDataTypeWords::wordOf(static_cast<zvDataTypeEnum>(type)).data()));
+    }
+    return words;
+}
+
+const zvComparedPart::SharedText& wordOf(zvDataTypeEnum type) {
+    static const auto words = dataTypeWords();
+    return words[type];
 }
 
 zvString wordOf(bool isAllowed) { return isAllowed ? "True" : "False"; }
@@ -113,12 +124,12 @@ zvComparedPart zvComparedConfiguration::attributePart(const zvCfgAttribute& attr
     part.kind = "attribute";
     part.position = attribute.getPosition();
     part.properties.reserve(5);
-    part.add("LocalName", attribute.localName());
-    part.add("RemoteName", attribute.remoteName());
-    part.add("Key", attribute.keyName());
+    part.add("LocalName", attribute.sharedLocalName());
+    part.add("RemoteName", attribute.sharedRemoteName());
+    part.add("Key", attribute.sharedKeyName());
     part.numNames = 3;
     part.add("DataType", wordOf(attribute.getDataType()));
-    part.add("DefaultValue", attribute.getDefaultValue());
+    part.add("DefaultValue", attribute.defaultValue());
     attribute.optionalAttributes().forEach([&](const zvString& name, const zvString& value) {
         part.add(*m_furtherNames.insert(zvUtf8::encode(name)).first, value);
     });

@@ -8,19 +8,28 @@ zvString toText(std::string_view word) { return {word.data(), static_cast<int>(w
 
 }  // namespace
 
+const zvString& zvComparedPart::Property::value() const {
+    static const zvString none;
+    return text == nullptr ? none : *text;
+}
+
+zvComparedPart::SharedText zvComparedPart::toShared(zvString value) {
+    return value.empty() ? nullptr : std::make_shared<const zvString>(std::move(value));
+}
+
 zvString zvComparedPart::title() const {
     if (!ownTitle.empty()) {
         return ownTitle;
     }
     const auto named = std::find_if(properties.begin(), properties.end(),
-                                    [](const Property& property) { return !property.value.empty(); });
-    return toText(kind) + " \"" + (named == properties.end() ? zvString() : named->value) + "\"";
+                                    [](const Property& property) { return !property.value().empty(); });
+    return toText(kind) + " \"" + (named == properties.end() ? zvString() : named->value()) + "\"";
 }
 
 const zvString* zvComparedPart::find(std::string_view name) const {
     const auto found = std::find_if(properties.begin(), properties.end(),
                                     [name](const Property& property) { return property.name == name; });
-    return found == properties.end() ? nullptr : &found->value;
+    return found == properties.end() ? nullptr : &found->value();
 }
 
 zvString zvComparedPart::description() const {
@@ -29,8 +38,8 @@ zvString zvComparedPart::description() const {
         return text;  // its title says all
     }
     for (const Property& property : properties) {
-        if (!property.value.empty()) {
-            text += (text.empty() ? "" : ", ") + toText(property.name) + " \"" + property.value + "\"";
+        if (!property.value().empty()) {
+            text += (text.empty() ? "" : ", ") + toText(property.name) + " \"" + property.value() + "\"";
         }
     }
     return text;

@@ -2,7 +2,9 @@
 #define ZV_COMPARED_PART_H
 
 #include <cstddef>
+#include <memory>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "zvCndCondition.h"
@@ -11,11 +13,17 @@
 
 /// A part of a configuration, as in an object, an attribute or a state, as far as it is compared.
 struct zvComparedPart {
+    /// The attributes of a configuration repeat their names and words, which are shared.
+    using SharedText = std::shared_ptr<const zvString>;
+
     struct Property {
         std::string_view name;  // the configuration file's word
-        zvString value;
+        SharedText text;        // null for an empty one
 
-        bool operator==(const Property& other) const { return name == other.name && value == other.value; }
+        const zvString& value() const;
+        bool operator==(const Property& other) const {
+            return name == other.name && value() == other.value();
+        }
     };
 
     /// What a person calls it, as in `attribute "rev"`.
@@ -24,7 +32,9 @@ struct zvComparedPart {
     const zvString* find(std::string_view name) const;
     /// All properties that have a value, as in `DataType "Float", Key "Mass"`.
     zvString description() const;
-    void add(std::string_view name, const zvString& value) { properties.push_back({name, value}); }
+    void add(std::string_view name, SharedText text) { properties.push_back({name, std::move(text)}); }
+    void add(std::string_view name, zvString value) { add(name, toShared(std::move(value))); }
+    static SharedText toShared(zvString value);
 
     std::string_view kind;
     /// Instead of one made of the kind and the first name.

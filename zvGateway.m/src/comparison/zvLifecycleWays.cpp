@@ -10,7 +10,7 @@ constexpr std::size_t mostStates = 500;
 
 using Names = std::set<zvString>;
 
-const zvString& nameOf(const zvComparedPart& state) { return state.properties.front().value; }
+const zvString& nameOf(const zvComparedPart& state) { return state.properties.front().value(); }
 
 class Ways {
 public:

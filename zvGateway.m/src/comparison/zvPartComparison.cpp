@@ -88,14 +88,14 @@ private:
         }
         for (const zvComparedPart::Property& property : after.properties) {
             const zvString* const was = before.find(property.name);
-            if (was == nullptr ? !property.value.empty() : *was != property.value) {
+            if (was == nullptr ? !property.value().empty() : *was != property.value()) {
                 addProperty(before, after, path, toText(property.name), was == nullptr ? zvString() : *was,
-                            property.value);
+                            property.value());
             }
         }
         for (const zvComparedPart::Property& property : before.properties) {
-            if (!property.value.empty() && after.find(property.name) == nullptr) {
-                addProperty(before, after, path, toText(property.name), property.value, zvString());
+            if (!property.value().empty() && after.find(property.name) == nullptr) {
+                addProperty(before, after, path, toText(property.name), property.value(), zvString());
             }
         }
     }

@@ -24,7 +24,7 @@ std::u16string contentOf(const zvComparedPart& object) {
     for (const zvComparedPart& part : object.parts) {
         for (const zvComparedPart::Property& property : part.properties) {
             content.append(property.name.begin(), property.name.end());
-            append(content, property.value);
+            append(content, property.value());
         }
     }
     return content;
@@ -48,6 +48,13 @@ std::u16string typesOf(const zvComparedPart& object) {
 
 std::u16string typedContentOf(const zvComparedPart& object, const std::u16string& type) {
     return type.empty() ? type : type + contentOf(object);
+}
+
+bool haveSameNames(const zvComparedPart& left, const zvComparedPart& right) {
+    const auto names = left.properties.begin();
+    return left.kind == right.kind &&
+           std::equal(names, names + static_cast<std::ptrdiff_t>(left.numNames), right.properties.begin(),
+                      [](const auto& one, const auto& other) { return one.value() == other.value(); });
 }
 
 }  // namespace
@@ -83,15 +90,7 @@ void zvPartMatching::matchBy(KeyOf keyOf) {
 
 // Most parts of most configurations: nothing was added, removed, moved or renamed.
 bool zvPartMatching::isSameSequence() const {
-    return std::equal(
-        m_before.begin(), m_before.end(), m_after.begin(), m_after.end(),
-        [](const zvComparedPart& left, const zvComparedPart& right) {
-            return left.kind == right.kind &&
-                   std::equal(left.properties.begin(),
-                              left.properties.begin() + static_cast<std::ptrdiff_t>(left.numNames),
-                              right.properties.begin(),
-                              [](const auto& one, const auto& other) { return one.value == other.value; });
-        });
+    return std::equal(m_before.begin(), m_before.end(), m_after.begin(), m_after.end(), haveSameNames);
 }
 
 void zvPartMatching::matchByNames() {
@@ -104,9 +103,9 @@ void zvPartMatching::matchByNames() {
     for (std::size_t i = 0; i < mostNames; ++i) {
         matchBy([i](const zvComparedPart& part) {
             std::u16string key;
-            if (i < part.numNames && !part.properties[i].value.empty()) {
+            if (i < part.numNames && !part.properties[i].value().empty()) {
                 key.assign(part.kind.begin(), part.kind.end());
-                append(key, part.properties[i].value);
+                append(key, part.properties[i].value());
             }
             return key;
         });
