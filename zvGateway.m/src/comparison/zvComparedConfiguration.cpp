@@ -29,7 +29,7 @@ std::vector<zvComparedPart::SharedText> dataTypeWords() {
 
 const zvComparedPart::SharedText& wordOf(zvDataTypeEnum type) {
     static const auto words = dataTypeWords();
-    return words[type];
+    return words[static_cast<std::size_t>(type)];
 }
 
 zvString wordOf(bool isAllowed) { return isAllowed ? "True" : "False"; }
