@@ -17,7 +17,7 @@ zvComparedPart namedPart(std::string_view kind, std::string_view property, const
     return part;
 }
 
-// By the types.
+// Indexed by zvDataTypeEnum.
 std::vector<zvComparedPart::SharedText> dataTypeWords() {
     std::vector<zvComparedPart::SharedText> words{zvComparedPart::toShared("unknown")};
     for (int type = zvDataTypeNone + 1; type <= zvDataTypeBoolean; ++type) {
