@@ -45,6 +45,7 @@ public:
     void setSharedRemoteName(SharedName name) { m_pRemoteName = std::move(name); }
     /// A name that is shared with copies of the attribute alone.
     static SharedName toShared(zvString&& name);
+    static const zvString& textOf(const SharedName& name) { return name == nullptr ? noName() : *name; }
     /// @}
 
     bool isKeyAttribute() const { return m_pKeyName != nullptr; }
@@ -64,7 +65,6 @@ public:
     void setPosition(zvTextPosition position) { m_position = position; }
 
 private:
-    static const zvString& textOf(const SharedName& name) { return name == nullptr ? noName() : *name; }
     static const zvString& noName();
 
     SharedName m_pKeyName;

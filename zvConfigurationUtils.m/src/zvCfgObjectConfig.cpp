@@ -1,7 +1,5 @@
 #include "zvCfgObjectConfig.h"
 
-#include <utility>
-
 namespace {
 
 bool areSame(const zvCfgAttribute::SharedName& left, const zvCfgAttribute::SharedName& right) {
@@ -68,15 +66,13 @@ void zvCfgObjectConfig::add(zvCfgObject* object) {
 }
 
 void zvCfgObjectConfig::join(zvCfgObject& object, zvCfgObject& member) {
-    if (member.m_pAttributePositions == nullptr) {
-        std::unique_ptr<zvNamePositions> positions = positionsOf(object);
-        member.m_pAttributePositions = positions.get();
-        if (positions != nullptr) {
-            m_positions.push_back(std::move(positions));
-        }
+    const auto [entry, isNew] = m_positions.try_emplace(member.m_attributeGroup);
+    if (isNew) {
+        entry->second = positionsOf(object);
+        member.m_pAttributePositions = entry->second.get();
     }
     object.m_attributeGroup = member.m_attributeGroup;
-    object.m_pAttributePositions = member.m_pAttributePositions;
+    object.m_pAttributePositions = entry->second.get();
 }
 
 const zvCfgObjectList* zvCfgObjectConfig::byTypes(const zvString& localType,

@@ -1,8 +1,8 @@
 #ifndef ZV_CFG_OBJECT_CONFIG_H
 #define ZV_CFG_OBJECT_CONFIG_H
 
+#include <map>
 #include <memory>
-#include <vector>
 
 #include "zvCfgObject.h"
 #include "zvCfgObjectList.h"
@@ -33,7 +33,8 @@ private:
     zvCfgTypeIndex<zvCfgObjectList> m_byTypes;  // key: both names, concatenated
     zvCfgOwner<zvCfgObject> m_objects;
     int m_lastGroup = 0;
-    std::vector<std::unique_ptr<zvNamePositions>> m_positions;  // of the groups of several objects
+    // Of the groups of several objects; null where two attributes share a name.
+    std::map<int, std::unique_ptr<zvNamePositions>> m_positions;
 };
 
 #endif

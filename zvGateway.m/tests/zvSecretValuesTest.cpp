@@ -67,6 +67,20 @@ TEST_F(zvSecretValuesTest, ASecretOfBackslashesIsMaskedAsItIsAndDoubled) {
     EXPECT_EQ(secrets.masked(secret + ".", 500), secret + ".");
 }
 
+TEST_F(zvSecretValuesTest, AFewBackslashesAreMaskedHoweverEachIsSpelled) {
+    m_args.setEventArgument("LoginPassword", R"(a\\\b)");
+    const zvSecretValues secrets(m_args, "http://host/");
+    const char* const spellings[] = {R"(\)", R"(\\)", "%5C", "&#92;", R"(\x5c)", R"(\u005C)"};
+    for (const std::string first : spellings) {
+        for (const std::string second : spellings) {
+            for (const std::string third : spellings) {
+                const std::string text = "a" + first + second + third + "b";
+                EXPECT_EQ(secrets.masked(text + ".", 100), "********.") << text;
+            }
+        }
+    }
+}
+
 TEST_F(zvSecretValuesTest, NoPartOfASecretIsLeftAtTheLimit) {
     const std::string secret = "abcdefghijklmnop";
     m_args.setEventArgument("LoginPassword", secret.c_str());

@@ -15,7 +15,7 @@ zvNamePositions::zvNamePositions() : m_pImplementation(std::make_unique<Implemen
 zvNamePositions::~zvNamePositions() = default;
 
 bool zvNamePositions::add(std::shared_ptr<const zvString> name, int position) {
-    if (name == nullptr || name->empty()) {
+    if (name == nullptr || name->empty() || find(*name) >= 0) {
         return false;
     }
     Implementation& own = *m_pImplementation;

@@ -87,9 +87,7 @@ void zvObjectMapping::fillContext(View& view) const {
         return;
     }
     for (const auto& [name, value] : m_values) {
-        if (context.findValue(name) == nullptr) {
-            context.borrowAttribute(name, value);
-        }
+        context.borrowAttribute(name, value);  // unless an attribute has the name
     }
 }
 
@@ -99,7 +97,7 @@ std::size_t zvObjectMapping::borrowByPosition(View& view, const zvNamePositions&
     view.compared.assign(view.given.size(), nullptr);
     for (std::size_t i = 0; i < view.given.size(); ++i) {
         if (view.given[i] != nullptr) {
-            view.compared[i] = &compared(view, i);
+            view.compared[i] = &valueToCompare(view, i);
             ++seen;
         }
     }
@@ -114,7 +112,7 @@ std::size_t zvObjectMapping::borrowByName(View& view) const {
     for (std::size_t i = 0; i < view.given.size(); ++i) {
         if (view.given[i] != nullptr) {
             const zvCfgAttribute& attribute = *view.object->getAttribute(static_cast<int>(i));
-            const zvValue& value = compared(view, i);
+            const zvValue& value = valueToCompare(view, i);
             seen += context.borrowAttribute(sourceName(attribute), value) ? 1 : 0;
             context.borrowAttribute(targetName(attribute), value);
         }
@@ -122,7 +120,7 @@ std::size_t zvObjectMapping::borrowByName(View& view) const {
     return seen;
 }
 
-const zvValue& zvObjectMapping::compared(View& view, std::size_t i) {
+const zvValue& zvObjectMapping::valueToCompare(View& view, std::size_t i) {
     const zvDataTypeEnum type = view.object->getAttribute(static_cast<int>(i))->getDataType();
     if (type == zvDataTypeString || type == zvDataTypeNone) {
         return *view.given[i];

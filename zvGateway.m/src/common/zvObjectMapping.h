@@ -81,7 +81,7 @@ private:
     void fillContext(View& view) const;
     std::size_t borrowByPosition(View& view, const zvNamePositions& positions) const;
     std::size_t borrowByName(View& view) const;
-    static const zvValue& compared(View& view, std::size_t i);
+    static const zvValue& valueToCompare(View& view, std::size_t i);
     void carry(const zvCfgObject& object);
     void noteUnmapped();
 

@@ -19,11 +19,11 @@ zvComparedPart namedPart(std::string_view kind, std::string_view property, const
 
 // Indexed by zvDataTypeEnum.
 std::vector<zvComparedPart::SharedText> dataTypeWords() {
-    std::vector<zvComparedPart::SharedText> words{zvComparedPart::toShared("unknown")};
-    for (int type = zvDataTypeNone + 1; type <= zvDataTypeBoolean; ++type) {
-        words.push_back(
-            zvComparedPart::toShared(zvDataTypeWords::wordOf(static_cast<zvDataTypeEnum>(type)).data()));
+    std::vector<zvComparedPart::SharedText> words;
+    for (const std::u16string_view word : zvDataTypeWords::words) {
+        words.push_back(zvCfgAttribute::toShared(word.data()));
     }
+    words[zvDataTypeNone] = zvCfgAttribute::toShared("unknown");
     return words;
 }
 

@@ -8,15 +8,6 @@ zvString toText(std::string_view word) { return {word.data(), static_cast<int>(w
 
 }  // namespace
 
-const zvString& zvComparedPart::Property::value() const {
-    static const zvString none;
-    return text == nullptr ? none : *text;
-}
-
-zvComparedPart::SharedText zvComparedPart::toShared(zvString value) {
-    return value.empty() ? nullptr : std::make_shared<const zvString>(std::move(value));
-}
-
 zvString zvComparedPart::title() const {
     if (!ownTitle.empty()) {
         return ownTitle;

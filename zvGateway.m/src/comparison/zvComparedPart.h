@@ -2,11 +2,11 @@
 #define ZV_COMPARED_PART_H
 
 #include <cstddef>
-#include <memory>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include "zvCfgAttribute.h"
 #include "zvCndCondition.h"
 #include "zvFinding.h"
 #include "zvString.h"
@@ -14,13 +14,13 @@
 /// A part of a configuration, as in an object, an attribute or a state, as far as it is compared.
 struct zvComparedPart {
     /// The attributes of a configuration repeat their names and words, which are shared.
-    using SharedText = std::shared_ptr<const zvString>;
+    using SharedText = zvCfgAttribute::SharedName;
 
     struct Property {
         std::string_view name;  // the configuration file's word
         SharedText text;        // null for an empty one
 
-        const zvString& value() const;
+        const zvString& value() const { return zvCfgAttribute::textOf(text); }
         bool operator==(const Property& other) const {
             return name == other.name && value() == other.value();
         }
@@ -33,8 +33,7 @@ struct zvComparedPart {
     /// All properties that have a value, as in `DataType "Float", Key "Mass"`.
     zvString description() const;
     void add(std::string_view name, SharedText text) { properties.push_back({name, std::move(text)}); }
-    void add(std::string_view name, zvString value) { add(name, toShared(std::move(value))); }
-    static SharedText toShared(zvString value);
+    void add(std::string_view name, zvString value) { add(name, zvCfgAttribute::toShared(std::move(value))); }
 
     std::string_view kind;
     /// Instead of one made of the kind and the first name.

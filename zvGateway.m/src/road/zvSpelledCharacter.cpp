@@ -130,7 +130,7 @@ void zvSpelledCharacter::appendEnds(std::string_view text, std::size_t at, char3
     const auto addText = [&](std::string_view spelling) {
         add(startsWith(rest, spelling) ? spelling.size() : 0);
     };
-    const auto addEscapes = [&](std::string_view introduction) {
+    const auto addEscape = [&](std::string_view introduction) {
         add(character < firstBeyondLatin1 ? lengthOfEscape(rest, introduction, 2, character) : 0);
     };
     addText(bytes);
@@ -151,14 +151,14 @@ void zvSpelledCharacter::appendEnds(std::string_view text, std::size_t at, char3
         case '%':
             add(lengthOfPercentEncoded(rest, bytes, "%"));
             add(lengthOfPercentEncoded(rest, bytes, "%25"));
-            addEscapes("%");
+            addEscape("%");
             break;
         case '&':
             add(lengthOfReference(rest, character));
             break;
         case '\\':
             add(lengthOfUnicodeEscape(rest, character));
-            addEscapes("\\x");
+            addEscape("\\x");
             if (character < firstBeyondAscii) {
                 addText("\\" + bytes);
             }
