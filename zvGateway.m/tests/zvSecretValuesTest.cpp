@@ -71,10 +71,11 @@ TEST_F(zvSecretValuesTest, AFewBackslashesAreMaskedHoweverEachIsSpelled) {
     m_args.setEventArgument("LoginPassword", R"(a\\\b)");
     const zvSecretValues secrets(m_args, "http://host/");
     const char* const spellings[] = {R"(\)", R"(\\)", "%5C", "&#92;", R"(\x5c)", R"(\u005C)"};
-    for (const std::string first : spellings) {
-        for (const std::string second : spellings) {
-            for (const std::string third : spellings) {
-                const std::string text = "a" + first + second + third + "b";
+    for (const char* const first : spellings) {
+        for (const char* const second : spellings) {
+            for (const char* const third : spellings) {
+                const std::string text =
+                    std::string("a").append(first).append(second).append(third).append("b");
                 EXPECT_EQ(secrets.masked(text + ".", 100), "********.") << text;
             }
         }
