@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "zvFSClient.h"
+#include "zvJavaMachine.h"
 #include "zvPlatform.h"
 #include "zvRecordingLogger.h"
 #include "zvTestSupport.h"
@@ -89,6 +90,8 @@ protected:
     static void inProcessOfItsOwn(const std::function<void()>& test) {
         const auto run = [&] {
             test();
+            // While its threads run, Windows may stop them in the middle of anything, which its end may meet.
+            zvJavaMachine::end();
             std::exit(testing::Test::HasFailure() ? 1 : 0);
         };
         EXPECT_EXIT(run(), testing::ExitedWithCode(0), "");

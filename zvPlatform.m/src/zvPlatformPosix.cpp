@@ -305,6 +305,8 @@ const char* decimalPoint() { return nl_langinfo(RADIXCHAR); }
 
 unsigned long processId() { return static_cast<unsigned long>(::getpid()); }
 
+bool areOtherThreadsStopped() { return false; }
+
 void sleep(unsigned long milliseconds) {
     std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
 }

@@ -386,6 +386,13 @@ const char* decimalPoint() { return std::localeconv()->decimal_point; }
 
 unsigned long processId() { return ::GetCurrentProcessId(); }
 
+bool areOtherThreadsStopped() {
+    using Ask = BOOLEAN(WINAPI*)();
+    const auto ask = reinterpret_cast<Ask>(
+        findFunction(::GetModuleHandleW(L"ntdll.dll"), "RtlDllShutdownInProgress"));
+    return ask != nullptr && ask() != FALSE;
+}
+
 void sleep(unsigned long milliseconds) { ::Sleep(milliseconds); }
 
 zvInt64 currentTime() { return ::_time64(nullptr); }

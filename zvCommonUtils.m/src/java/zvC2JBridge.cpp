@@ -1,5 +1,6 @@
 #include "zvC2JBridge.h"
 
+#include <atomic>
 #include <clocale>
 #include <cstdio>
 #include <string>
@@ -50,14 +51,21 @@ private:
     const std::string m_value;
 };
 
-// A thread that was attached to the JVM has to be detached before it ends.
+// The JVM, of which a process has one, for threads that end. Not a member of AttachedThread: MinGW frees a thread's
+// objects before it calls their destructors.
+std::atomic<JavaVM*> attachedMachine{nullptr};
+
+// A thread that was attached to the JVM has to be detached before it ends. Where the JVM's own threads are no more, it
+// would wait for them.
 struct AttachedThread {
+    AttachedThread() = default;
+    AttachedThread(const AttachedThread&) = delete;
+    AttachedThread& operator=(const AttachedThread&) = delete;
     ~AttachedThread() {
-        if (machine != nullptr) {
-            machine->DetachCurrentThread();
+        if (!zvPlatform::areOtherThreadsStopped()) {
+            attachedMachine.load()->DetachCurrentThread();
         }
     }
-    JavaVM* machine = nullptr;
 };
 
 template <typename Function>
@@ -123,8 +131,9 @@ JNIEnv* zvC2JBridge::getEnv() const {
     void* env = nullptr;
     if (m_pMachine->GetEnv(&env, jniVersion) == JNI_EDETACHED &&
         m_pMachine->AttachCurrentThread(&env, nullptr) == JNI_OK) {
-        thread_local AttachedThread thread;
-        thread.machine = m_pMachine;
+        attachedMachine = m_pMachine;
+        thread_local const AttachedThread thread;
+        static_cast<void>(thread);
     }
     return static_cast<JNIEnv*>(env);
 }
