@@ -229,11 +229,8 @@ int runProgram(const std::vector<std::string>& arguments) {
                                                               : showing.run());
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    const std::vector<std::string> arguments = zvProcess::takeArguments(argc, argv);
-    zvProcess::reportFullFiles();
+// The exit code; every failure has been told.
+int runGuarded(const std::vector<std::string>& arguments) {
     try {
         zvHomeSettings::adoptSecretKeys();
         zvShownArguments::setCommandLine(arguments);
@@ -255,4 +252,12 @@ int main(int argc, char** argv) {
     } catch (const std::exception& exception) {
         return fail({zvExitCode::unexpected, "unexpected", "", zvConsole::printable(exception.what())});
     }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const std::vector<std::string> arguments = zvProcess::takeArguments(argc, argv);
+    zvProcess::reportFullFiles();
+    zvProcess::end(runGuarded(arguments));
 }

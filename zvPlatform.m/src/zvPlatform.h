@@ -118,8 +118,8 @@ const char* decimalPoint();
 /// The process identifier.
 unsigned long processId();
 
-/// Whether the process is ending and its other threads are stopped, wherever they were: Windows does so before
-/// it calls the destructors of a dynamic library. Always false elsewhere.
+/// Whether the process is ending and its other threads are stopped, wherever they were: Windows does so
+/// before it calls the destructors of a dynamic library. Always false elsewhere.
 bool areOtherThreadsStopped();
 
 /// Blocks the calling thread.

@@ -388,8 +388,8 @@ unsigned long processId() { return ::GetCurrentProcessId(); }
 
 bool areOtherThreadsStopped() {
     using Ask = BOOLEAN(WINAPI*)();
-    const auto ask = reinterpret_cast<Ask>(
-        findFunction(::GetModuleHandleW(L"ntdll.dll"), "RtlDllShutdownInProgress"));
+    const auto ask =
+        reinterpret_cast<Ask>(findFunction(::GetModuleHandleW(L"ntdll.dll"), "RtlDllShutdownInProgress"));
     return ask != nullptr && ask() != FALSE;
 }
 

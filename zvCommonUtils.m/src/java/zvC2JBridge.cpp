@@ -51,12 +51,12 @@ private:
     const std::string m_value;
 };
 
-// The JVM, of which a process has one, for threads that end. Not a member of AttachedThread: MinGW frees a thread's
-// objects before it calls their destructors.
+// The JVM, of which a process has one, for threads that end. Not a member of AttachedThread: MinGW frees a
+// thread's objects before it calls their destructors.
 std::atomic<JavaVM*> attachedMachine{nullptr};
 
-// A thread that was attached to the JVM has to be detached before it ends. Where the JVM's own threads are no more, it
-// would wait for them.
+// A thread that was attached to the JVM has to be detached before it ends. Where the JVM's own threads are no
+// more, it would wait for them.
 struct AttachedThread {
     AttachedThread() = default;
     AttachedThread(const AttachedThread&) = delete;

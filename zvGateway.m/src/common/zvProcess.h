@@ -22,6 +22,13 @@ std::vector<std::string> takeArguments(int argc, char** argv);
 /// Writes text for people to a standard stream as it can be read there: on a Windows console as wide text.
 void write(std::FILE* stream, const std::string& text);
 
+/// Ends the process; for the end of main(). Exit handlers and destructors run, but on Windows, where it is
+/// endAtOnce(): exit() there stops the threads of a Java machine wherever they are, and then tells every
+/// library, which may wait for what such a thread holds.
+[[noreturn]] void end(int exitCode);
+/// Ends the process with what it wrote to its streams, and does nothing else.
+[[noreturn]] void endAtOnce(int exitCode);
+
 /// The system's words for an error.
 std::string messageOf(const std::error_code& error);
 

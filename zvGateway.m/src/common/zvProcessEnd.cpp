@@ -1,11 +1,10 @@
 #include "zvProcessEnd.h"
 
-#include <cstdio>
 #include <cstdlib>
 #include <utility>
 #include <vector>
 
-#include "zvConsole.h"
+#include "zvProcess.h"
 
 namespace {
 
@@ -35,7 +34,5 @@ void zvProcessEnd::notify() {
         exitCode = objects.back()->m_atEnd();
     }
     // Nothing of the program has to be cleaned up, and what it would meet is half done.
-    zvConsole::flush();
-    std::fflush(nullptr);
-    std::_Exit(static_cast<int>(exitCode));
+    zvProcess::endAtOnce(static_cast<int>(exitCode));
 }

@@ -29,6 +29,13 @@ std::vector<std::string> zvProcess::takeArguments(int argc, char** argv) {
 
 void zvProcess::write(std::FILE* stream, const std::string& text) { std::fputs(text.c_str(), stream); }
 
+void zvProcess::end(int exitCode) { std::exit(exitCode); }
+
+void zvProcess::endAtOnce(int exitCode) {
+    std::fflush(nullptr);
+    std::_Exit(exitCode);
+}
+
 std::string zvProcess::messageOf(const std::error_code& error) { return error.message(); }
 
 unsigned long zvProcess::id() { return static_cast<unsigned long>(::getpid()); }

@@ -67,6 +67,14 @@ void zvProcess::write(std::FILE* stream, const std::string& text) {
 }
 
 // The standard library's text is in the code page.
+void zvProcess::end(int exitCode) { endAtOnce(exitCode); }
+
+void zvProcess::endAtOnce(int exitCode) {
+    std::fflush(nullptr);
+    ::TerminateProcess(::GetCurrentProcess(), static_cast<UINT>(exitCode));
+    std::abort();
+}
+
 std::string zvProcess::messageOf(const std::error_code& error) {
     wchar_t* text = nullptr;
     if (error.category() == std::system_category()) {
