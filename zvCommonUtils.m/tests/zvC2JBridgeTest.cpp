@@ -2,6 +2,7 @@
 
 #include <clocale>
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <thread>
 
