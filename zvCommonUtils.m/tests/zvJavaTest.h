@@ -39,6 +39,14 @@ inline const std::string deliveredClient =
 /// What Java ends lines with.
 constexpr const char* javaLineEnd = onWindows ? "\r\n" : "\n";
 
+/// Ends the tests' JVM before the process: while its threads run, Windows would stop them in the middle of
+/// anything, which the end of the process may then meet.
+class zvJavaEnd : public testing::Environment {
+public:
+    void TearDown() override { zvJavaMachine::end(); }
+};
+inline testing::Environment* const javaEnd = testing::AddGlobalTestEnvironment(new zvJavaEnd);
+
 /// A fixture with a real JVM that runs with -Xcheck:jni, and the recording file-server client.
 class zvJavaTest : public zvLoggedTest {
 protected:
@@ -90,7 +98,6 @@ protected:
     static void inProcessOfItsOwn(const std::function<void()>& test) {
         const auto run = [&] {
             test();
-            // While its threads run, Windows may stop them in the middle of anything, which its end may meet.
             zvJavaMachine::end();
             std::exit(testing::Test::HasFailure() ? 1 : 0);
         };
