@@ -66,7 +66,6 @@ void zvProcess::write(std::FILE* stream, const std::string& text) {
     }
 }
 
-// The standard library's text is in the code page.
 void zvProcess::end(int exitCode) { endAtOnce(exitCode); }
 
 void zvProcess::endAtOnce(int exitCode) {
@@ -75,6 +74,7 @@ void zvProcess::endAtOnce(int exitCode) {
     std::abort();
 }
 
+// The standard library's text is in the code page.
 std::string zvProcess::messageOf(const std::error_code& error) {
     wchar_t* text = nullptr;
     if (error.category() == std::system_category()) {

@@ -19,9 +19,6 @@ constexpr struct {
     {0xA0, "&nbsp;"}, {U' ', "&nbsp;"}, {U' ', "+"},
 };
 
-// No letter has a name, and most characters of a secret are letters.
-constexpr bool mayHaveName(char32_t character) { return character <= U'>' || character == 0xA0; }
-
 bool startsWith(std::string_view text, std::string_view beginning) {
     return text.substr(0, beginning.size()) == beginning;
 }
@@ -137,18 +134,18 @@ void zvSpelledCharacter::appendEnds(std::string_view text, std::size_t at, char3
         add(character < firstBeyondLatin1 ? lengthOfEscape(rest, introduction, 2, character) : 0);
     };
     addText(bytes);
-    if (mayHaveName(character)) {
-        for (const auto& name : names) {
-            addText(name.character == character ? name.text : std::string_view());
+    for (const auto& name : names) {
+        if (name.character == character) {
+            addText(name.text);
         }
     }
     if (character >= firstBeyondAscii) {
         addText(encodedTwice(bytes));
         addText("?");
         addText("\xEF\xBF\xBD");
-        add(character < firstBeyondLatin1 && !rest.empty() && rest.front() == static_cast<char>(character)
-                ? 1
-                : 0);
+        if (character < firstBeyondLatin1) {
+            addText(std::string(1, static_cast<char>(character)));
+        }
     }
     switch (rest.empty() ? '\0' : rest.front()) {
         case '%':
