@@ -118,6 +118,11 @@ TEST(zvCollectionFaultTest, AMapIsUnchanged) {
     wholeOrNotAtAll<zvStringToAttrMap>(attributesOfOne, [](zvStringToAttrMap& map) {
         map.updateAttr(first, zvAttribute(third, zvValue(third)));
     });
+    wholeOrNotAtAll<zvStringToAttrMap>(attributesOfOne, [](zvStringToAttrMap& map) {
+        zvStringToAttrMap other(map);
+        other.addAttr(third, zvAttribute(third, zvValue(second)));
+        map = other;
+    });
 }
 
 TEST(zvCollectionFaultTest, AValueIsUnchangedOrEmpty) {

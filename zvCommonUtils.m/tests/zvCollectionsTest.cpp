@@ -1,6 +1,7 @@
 #include <ctime>
 #include <iterator>
 #include <map>
+#include <memory>
 #include <random>
 #include <string>
 #include <vector>
@@ -195,6 +196,58 @@ TEST(zvStringUnitsTest, TellsEveryUnitOfATextApart) {
     }
     EXPECT_EQ(zvString(), zvString(""));
     EXPECT_TRUE(zvString() < zvString("a") && !(zvString() < zvString()));
+}
+
+TEST(zvStringToStringMapTest, AnAssignedMapHasEntriesOfItsOwn) {
+    zvStringToStringMap map;
+    map.add("k", "1");
+    zvStringToStringMap other;
+    other.add("gone", "");
+    other = map;
+    const zvStringToStringMap& same = other;
+    other = same;
+    map.setValue("k", "2");
+    map.add("l", "3");
+    EXPECT_EQ(other.size(), 1);
+    EXPECT_EQ(other.getValue("k"), "1");
+    EXPECT_TRUE(other.getValue("gone").empty());
+}
+
+// A map finds its attributes by a table of pointers to them, which must not be the other map's.
+TEST(zvStringToAttrMapTest, CopiesHaveAttributesOfTheirOwn) {
+    zvStringToAttrMap assigned;
+    assigned.addAttr("gone", zvAttribute("gone", zvValue(0)));
+    zvString name;
+    EXPECT_TRUE(assigned.getAttrName(0, name));
+    std::unique_ptr<const zvStringToAttrMap> copy;
+    {
+        zvStringToAttrMap map;
+        for (const char* const key : {"b", "a", ""}) {
+            EXPECT_TRUE(map.addAttr(key, zvAttribute(key, zvValue(1))));
+        }
+        assigned = map;
+        copy = std::make_unique<const zvStringToAttrMap>(map);
+        EXPECT_NE(map.findAttr("a"), assigned.findAttr("a"));
+        map.updateAttr("a", zvAttribute("a", zvValue(2)));
+        map.updateAttr("c", zvAttribute("c", zvValue(2)));
+    }
+    const zvStringToAttrMap& same = assigned;
+    assigned = same;
+    EXPECT_EQ(assigned.findAttr("gone"), nullptr);
+    EXPECT_FALSE(assigned.addAttr("b", zvAttribute("b", zvValue(3))));
+    for (const zvStringToAttrMap* const map : {static_cast<const zvStringToAttrMap*>(&assigned), copy.get()}) {
+        EXPECT_EQ(map->size(), 3);
+        ASSERT_NE(map->findAttr("a"), nullptr);
+        EXPECT_EQ(map->findAttr("a")->value().getValue(), "1");
+        EXPECT_EQ(map->findAttr("c"), nullptr);
+        EXPECT_TRUE(map->getAttrName(0, name));
+        EXPECT_EQ(name, "");
+        EXPECT_TRUE(map->getAttrName(2, name));
+        EXPECT_EQ(name, "b");
+    }
+    assigned.updateAttr("a", zvAttribute("a", zvValue(4)));
+    EXPECT_EQ(assigned.findAttr("a")->value().getValue(), "4");
+    EXPECT_EQ(copy->findAttr("a")->value().getValue(), "1");
 }
 
 TEST(zvTemplateMapTest, FirstValueWins) {

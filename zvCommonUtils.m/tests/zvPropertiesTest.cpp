@@ -57,9 +57,12 @@ TEST_F(zvPropertiesTest, TakesValuesExactlyAndReplacesThemByTheNextFile) {
     EXPECT_EQ(properties.getPropertyValue("u"), "a=b");
     EXPECT_TRUE(properties.getPropertyValue("").empty() && properties.getPropertyValue("x").empty());
     const zvProperties copy(properties);
+    zvProperties assigned;
+    assigned = properties;
     EXPECT_TRUE(properties.parse(m_folder.write("2", "c=3\n").c_str()).isOk());
     EXPECT_EQ(namesOf(properties), Lines{"c"});
-    EXPECT_EQ(namesOf(copy).size(), 2U);
+    EXPECT_EQ(namesOf(copy), (Lines{"b ", "u"}));
+    EXPECT_EQ(namesOf(assigned), namesOf(copy));
     EXPECT_EQ(properties.parse(m_folder.file("missing").c_str()).getResult(), -1);
     EXPECT_EQ(properties.parse("").getResult(), -1);
     EXPECT_TRUE(namesOf(properties).empty());

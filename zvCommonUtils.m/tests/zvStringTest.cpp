@@ -227,6 +227,10 @@ TEST(zvStringTest, InsertsAndRepeatsTheTailInABufferWithRoom) {
     zvString longInsert = withRoom("abc", 20);
     EXPECT_TRUE(longInsert.insert("12345", 1));
     EXPECT_EQ(longInsert, "a12345bc");
+    zvString none;
+    EXPECT_FALSE(none.insert("x", 1));
+    EXPECT_TRUE(none.insert("x", 0));
+    EXPECT_EQ(none, "x");
     zvString text("ab");
     EXPECT_TRUE(text.insert("c", 2));
     EXPECT_FALSE(text.insert("x", 4) || text.insert("x", -1) || text.insert("", 0) || text.insert(text, 0));

@@ -441,6 +441,71 @@ TEST(zvICndLogicalConditionTest, CallsAnEvaluateOfItsOwnAnywhere) {
     }
 }
 
+TEST(zvICndConditionTest, CopiesOfConditionsAreConditionsOfTheirOwn) {
+    const zvCndLessThanCondition less = Factory::createLessThanCondition(variable("n"), text("5"));
+    const zvCndLessThanCondition lessCopy(new zvICndLessThanCondition(*less.operator->()));
+    const zvCndNotCondition none = Factory::createNotCondition();
+    EXPECT_TRUE(none->setCondition(Factory::getCondition(less)));
+    const zvCndNotCondition noneCopy(new zvICndNotCondition(*none.operator->()));
+    EXPECT_EQ(owners(lessCopy), 1);
+    EXPECT_EQ(owners(noneCopy), 1);
+    zvCndContext four;
+    add(four, "n", zvValue(zvString("4")));
+    less->setRHSOperand(text("3"));
+    EXPECT_FALSE(less->evaluate(four));
+    EXPECT_TRUE(lessCopy->evaluate(four));
+    EXPECT_TRUE(none->evaluate(four));
+    EXPECT_TRUE(noneCopy->evaluate(four)) << "it has the same child, which was changed";
+    EXPECT_TRUE(none->setCondition(fixed(true)));
+    EXPECT_FALSE(none->evaluate(four));
+    EXPECT_TRUE(noneCopy->evaluate(four));
+
+    *lessCopy.operator->() = *less.operator->();
+    *noneCopy.operator->() = *none.operator->();
+    EXPECT_FALSE(lessCopy->evaluate(four));
+    EXPECT_FALSE(noneCopy->evaluate(four));
+    EXPECT_EQ(owners(lessCopy), 1);
+    EXPECT_EQ(write(Factory::getCondition(lessCopy)), "{n} < '3'");
+}
+
+TEST(zvCndContextTest, CopiesHaveAttributesOfTheirOwnAndShareBorrowedOnes) {
+    const zvString lent("lent");
+    const zvValue lentValue(7);
+    zvCndContext context;
+    add(context, "own", zvValue(1));
+    EXPECT_TRUE(context.borrowAttribute(lent, lentValue));
+    const zvCndContext copy(context);
+    zvCndContext assigned;
+    add(assigned, "gone", zvValue(0));
+    assigned = context;
+    EXPECT_TRUE(context.setAttribute("own", "2", zvDataTypeInteger));
+    for (const zvCndContext* const other : {&copy, static_cast<const zvCndContext*>(&assigned)}) {
+        ASSERT_NE(other->findValue("own"), nullptr);
+        EXPECT_EQ(other->findValue("own")->getValue(), "1");
+        EXPECT_EQ(other->findValue(lent), &lentValue);
+        EXPECT_EQ(other->findValue("gone"), nullptr);
+    }
+    EXPECT_FALSE(assigned.borrowAttribute(lent, lentValue)) << "it is there";
+    EXPECT_FALSE(assigned.setAttribute(lent, "8", zvDataTypeInteger)) << "a lent value is another's";
+}
+
+TEST(zvCndConditionResultMapTest, CopiesHaveResultsOfTheirOwn) {
+    const zvCndCondition known = fixed(true);
+    const zvCndCondition later = fixed(true);
+    zvCndConditionResultMap results;
+    EXPECT_TRUE(results.addConditionResult(known, Factory::createOrCondition()));
+    const zvCndConditionResultMap copy(results);
+    zvCndConditionResultMap assigned;
+    EXPECT_TRUE(assigned.addConditionResult(later, Factory::createOrCondition()));
+    assigned = results;
+    EXPECT_TRUE(results.addConditionResult(later, Factory::createOrCondition()));
+    for (const zvCndConditionResultMap* const other :
+         {&copy, static_cast<const zvCndConditionResultMap*>(&assigned)}) {
+        EXPECT_EQ(other->getConditionResult(known).operator->(), results.getConditionResult(known).operator->());
+        EXPECT_TRUE(other->getConditionResult(later).IsNull());
+    }
+}
+
 TEST(zvICndConditionTest, ACopySharesTheChildrenAndHasNoOwnersYet) {
     const zvCndAndCondition original = andOf({fixed(true)});
     const zvCndAndCondition copy(new zvICndAndCondition(*original.operator->()));

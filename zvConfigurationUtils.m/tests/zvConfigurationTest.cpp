@@ -1,9 +1,12 @@
+#include <memory>
+
 #include "zvCfgAttribute.h"
 #include "zvCfgFile.h"
 #include "zvCfgFileExtension.h"
 #include "zvCfgFileList.h"
 #include "zvCfgObject.h"
 #include "zvCfgObjectList.h"
+#include "zvCfgTransition.h"
 #include "zvCfgView.h"
 #include "zvCfgViewList.h"
 #include "zvConfigurationTestSupport.h"
@@ -184,6 +187,106 @@ TEST_F(zvConfigurationTest, FilesAreObjectsWithExtensions) {
     const Lines errors = zvRecordingLogger::lines("error");
     ASSERT_GE(errors.size(), 2U);
     EXPECT_EQ(errors[0], "FileExtn Name not found for FileObject with LocalCustType : F");
+}
+
+// Attributes share their names with their copies, until one is given another.
+TEST_F(zvConfigurationTest, CopiesOfPartsArePartsOfTheirOwn) {
+    const std::unique_ptr<zvCfgAttribute> original(attribute("k", "l", "r", "d"));
+    EXPECT_TRUE(original->addOptionalAttribute("extra", "1"));
+    zvCfgAttribute assigned;
+    EXPECT_TRUE(assigned.addOptionalAttribute("gone", "2"));
+    assigned = *original;
+    const zvCfgAttribute copy(*original);
+    original->setLocalName("other");
+    original->setKeyName("");
+    original->setDefaultValue("");
+    EXPECT_TRUE(original->addOptionalAttribute("later", "3"));
+    for (const zvCfgAttribute* const other : {&copy, static_cast<const zvCfgAttribute*>(&assigned)}) {
+        EXPECT_TRUE(other->isKeyAttribute() && other->isDefaultValueSpecified());
+        EXPECT_EQ(other->getKeyName(), "k");
+        EXPECT_EQ(other->getLocalName(), "l");
+        EXPECT_EQ(other->getRemoteName(), "r");
+        EXPECT_EQ(other->getOptionalAttribute("extra"), "1");
+        EXPECT_TRUE(other->getOptionalAttribute("later").empty());
+        EXPECT_TRUE(other->getOptionalAttribute("gone").empty());
+    }
+    EXPECT_EQ(original->sharedRemoteName(), copy.sharedRemoteName());
+
+    zvCfgView view;
+    view.setNetworkName("n");
+    view.setLocalName("l");
+    view.setRemoteName("r");
+    view.setIndex(3);
+    const zvCfgView sameView(view);
+    zvCfgView nextView;
+    nextView = view;
+    view.setLocalName("other");
+    for (const zvCfgView* const other : {&sameView, static_cast<const zvCfgView*>(&nextView)}) {
+        EXPECT_EQ(other->getNetworkName() + other->getLocalName() + other->getRemoteName(), "nlr");
+        EXPECT_EQ(other->getIndex(), 3);
+    }
+    zvCfgTransition transition(zvCfgTransitionDemote, "DRAFT");
+    const zvCfgTransition sameTransition(transition);
+    transition = zvCfgTransition(zvCfgTransitionPromote, "FINAL");
+    EXPECT_EQ(sameTransition.getType(), zvCfgTransitionDemote);
+    EXPECT_EQ(sameTransition.getToState(), "DRAFT");
+    EXPECT_EQ(transition.getType(), zvCfgTransitionPromote);
+    EXPECT_EQ(transition.getToState(), "FINAL");
+}
+
+// The lists are copied and what is in them is not: it is the manager's.
+TEST_F(zvConfigurationTest, CopiesOfListsHaveTheSameParts) {
+    zvCfgObject object;
+    zvCfgObjectList objects;
+    objects.add(&object);
+    const zvCfgObjectList sameObjects(objects);
+    zvCfgObjectList nextObjects;
+    nextObjects = objects;
+    objects.add(nullptr);
+    EXPECT_TRUE(sameObjects.size() == 1 && sameObjects.get(0) == &object);
+    EXPECT_TRUE(nextObjects.size() == 1 && nextObjects.get(0) == &object);
+
+    zvCfgFile file;
+    zvCfgFileList files;
+    files.addFile(&file);
+    const zvCfgFileList sameFiles(files);
+    zvCfgFileList nextFiles;
+    nextFiles = files;
+    files.addFile(nullptr);
+    EXPECT_TRUE(sameFiles.size() == 1 && sameFiles.getFile(0) == &file);
+    EXPECT_TRUE(nextFiles.size() == 1 && nextFiles.getFile(0) == &file);
+
+    zvCfgView view;
+    zvCfgViewList views;
+    views.add(&view);
+    const zvCfgViewList sameViews(views);
+    zvCfgViewList nextViews;
+    nextViews = views;
+    views.add(nullptr);
+    EXPECT_TRUE(sameViews.size() == 1 && sameViews.get(0) == &view);
+    EXPECT_TRUE(nextViews.size() == 1 && nextViews.get(0) == &view);
+
+    zvCfgLcmState from;
+    zvCfgLcmState to;
+    const zvCfgTransition transition(zvCfgTransitionPromote, "TO");
+    zvCfgTransitionPath path(&from);
+    const zvCfgTransitionPath empty(path);
+    path.add(&transition, &to);
+    zvCfgTransitionPathList paths;
+    paths.add(path);
+    const zvCfgTransitionPathList samePaths(paths);
+    zvCfgTransitionPathList nextPaths;
+    nextPaths = paths;
+    paths.clear();
+    path = empty;
+    EXPECT_TRUE(path.size() == 0 && path.getStateAt(0) == &from && path.getStateAt(1) == nullptr);
+    for (const zvCfgTransitionPathList* const other :
+         {&samePaths, static_cast<const zvCfgTransitionPathList*>(&nextPaths)}) {
+        ASSERT_EQ(other->size(), 1);
+        EXPECT_EQ(other->get(0)->getStateAt(1), &to);
+        EXPECT_EQ(other->get(0)->getTransitionAt(0), &transition);
+        EXPECT_EQ(other->get(1), nullptr);
+    }
 }
 
 TEST_F(zvConfigurationTest, EveryFailureHasItsCode) {
