@@ -501,7 +501,8 @@ TEST(zvCndConditionResultMapTest, CopiesHaveResultsOfTheirOwn) {
     EXPECT_TRUE(results.addConditionResult(later, Factory::createOrCondition()));
     for (const zvCndConditionResultMap* const other :
          {&copy, static_cast<const zvCndConditionResultMap*>(&assigned)}) {
-        EXPECT_EQ(other->getConditionResult(known).operator->(), results.getConditionResult(known).operator->());
+        EXPECT_EQ(other->getConditionResult(known).operator->(),
+                  results.getConditionResult(known).operator->());
         EXPECT_TRUE(other->getConditionResult(later).IsNull());
     }
 }
