@@ -4,6 +4,7 @@
 #include <memory>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "zvNameTable.h"
@@ -235,8 +236,7 @@ TEST(zvStringToAttrMapTest, CopiesHaveAttributesOfTheirOwn) {
     assigned = same;
     EXPECT_EQ(assigned.findAttr("gone"), nullptr);
     EXPECT_FALSE(assigned.addAttr("b", zvAttribute("b", zvValue(3))));
-    for (const zvStringToAttrMap* const map :
-         {static_cast<const zvStringToAttrMap*>(&assigned), copy.get()}) {
+    for (const zvStringToAttrMap* const map : {&std::as_const(assigned), copy.get()}) {
         EXPECT_EQ(map->size(), 3);
         ASSERT_NE(map->findAttr("a"), nullptr);
         EXPECT_EQ(map->findAttr("a")->value().getValue(), "1");

@@ -479,7 +479,7 @@ TEST(zvCndContextTest, CopiesHaveAttributesOfTheirOwnAndShareBorrowedOnes) {
     add(assigned, "gone", zvValue(0));
     assigned = context;
     EXPECT_TRUE(context.setAttribute("own", "2", zvDataTypeInteger));
-    for (const zvCndContext* const other : {&copy, static_cast<const zvCndContext*>(&assigned)}) {
+    for (const zvCndContext* const other : {&copy, &std::as_const(assigned)}) {
         ASSERT_NE(other->findValue("own"), nullptr);
         EXPECT_EQ(other->findValue("own")->getValue(), "1");
         EXPECT_EQ(other->findValue(lent), &lentValue);
@@ -499,8 +499,7 @@ TEST(zvCndConditionResultMapTest, CopiesHaveResultsOfTheirOwn) {
     EXPECT_TRUE(assigned.addConditionResult(later, Factory::createOrCondition()));
     assigned = results;
     EXPECT_TRUE(results.addConditionResult(later, Factory::createOrCondition()));
-    for (const zvCndConditionResultMap* const other :
-         {&copy, static_cast<const zvCndConditionResultMap*>(&assigned)}) {
+    for (const zvCndConditionResultMap* const other : {&copy, &std::as_const(assigned)}) {
         EXPECT_EQ(other->getConditionResult(known).operator->(),
                   results.getConditionResult(known).operator->());
         EXPECT_TRUE(other->getConditionResult(later).IsNull());

@@ -1,4 +1,5 @@
 #include <memory>
+#include <utility>
 
 #include "zvCfgAttribute.h"
 #include "zvCfgFile.h"
@@ -176,7 +177,7 @@ TEST_F(zvConfigurationTest, FilesAreObjectsWithExtensions) {
                     .isOk());
     EXPECT_EQ(manager().numObjects(), 1);
     const zvCfgFile& file = *manager().getFilesByLocalType("F")->getFile(0);
-    EXPECT_EQ(static_cast<const zvCfgObject*>(&file), manager().getObjectAt(0));
+    EXPECT_EQ(&std::as_const(file), manager().getObjectAt(0));
     EXPECT_EQ(file.numAllowedFileExtensions(), 2);
     EXPECT_EQ(file.getFileExtension(0)->getName(), "DWG") << "in the order of the names";
     EXPECT_FALSE(manager().isFileAllowedForImport("pdf")) << "only True allows";
@@ -201,7 +202,7 @@ TEST_F(zvConfigurationTest, CopiesOfPartsArePartsOfTheirOwn) {
     original->setKeyName("");
     original->setDefaultValue("");
     EXPECT_TRUE(original->addOptionalAttribute("later", "3"));
-    for (const zvCfgAttribute* const other : {&copy, static_cast<const zvCfgAttribute*>(&assigned)}) {
+    for (const zvCfgAttribute* const other : {&copy, &std::as_const(assigned)}) {
         EXPECT_TRUE(other->isKeyAttribute() && other->isDefaultValueSpecified());
         EXPECT_EQ(other->getKeyName(), "k");
         EXPECT_EQ(other->getLocalName(), "l");
@@ -221,7 +222,7 @@ TEST_F(zvConfigurationTest, CopiesOfPartsArePartsOfTheirOwn) {
     zvCfgView nextView;
     nextView = view;
     view.setLocalName("other");
-    for (const zvCfgView* const other : {&sameView, static_cast<const zvCfgView*>(&nextView)}) {
+    for (const zvCfgView* const other : {&sameView, &std::as_const(nextView)}) {
         EXPECT_EQ(other->getNetworkName() + other->getLocalName() + other->getRemoteName(), "nlr");
         EXPECT_EQ(other->getIndex(), 3);
     }
@@ -234,37 +235,26 @@ TEST_F(zvConfigurationTest, CopiesOfPartsArePartsOfTheirOwn) {
     EXPECT_EQ(transition.getToState(), "FINAL");
 }
 
-// The lists are copied and what is in them is not: it is the manager's.
+// A copy of a list keeps its length when the list grows, and has the same part: it is the manager's.
+template <class List, class Part>
+void expectCopies(void (List::*add)(Part*), Part* (List::*get)(int) const) {
+    Part part;
+    List list;
+    (list.*add)(&part);
+    const List copy(list);
+    List assigned;
+    assigned = list;
+    (list.*add)(nullptr);
+    for (const List* const other : {&copy, &std::as_const(assigned)}) {
+        EXPECT_EQ(other->size(), 1);
+        EXPECT_EQ((other->*get)(0), &part);
+    }
+}
+
 TEST_F(zvConfigurationTest, CopiesOfListsHaveTheSameParts) {
-    zvCfgObject object;
-    zvCfgObjectList objects;
-    objects.add(&object);
-    const zvCfgObjectList sameObjects(objects);
-    zvCfgObjectList nextObjects;
-    nextObjects = objects;
-    objects.add(nullptr);
-    EXPECT_TRUE(sameObjects.size() == 1 && sameObjects.get(0) == &object);
-    EXPECT_TRUE(nextObjects.size() == 1 && nextObjects.get(0) == &object);
-
-    zvCfgFile file;
-    zvCfgFileList files;
-    files.addFile(&file);
-    const zvCfgFileList sameFiles(files);
-    zvCfgFileList nextFiles;
-    nextFiles = files;
-    files.addFile(nullptr);
-    EXPECT_TRUE(sameFiles.size() == 1 && sameFiles.getFile(0) == &file);
-    EXPECT_TRUE(nextFiles.size() == 1 && nextFiles.getFile(0) == &file);
-
-    zvCfgView view;
-    zvCfgViewList views;
-    views.add(&view);
-    const zvCfgViewList sameViews(views);
-    zvCfgViewList nextViews;
-    nextViews = views;
-    views.add(nullptr);
-    EXPECT_TRUE(sameViews.size() == 1 && sameViews.get(0) == &view);
-    EXPECT_TRUE(nextViews.size() == 1 && nextViews.get(0) == &view);
+    expectCopies(&zvCfgObjectList::add, &zvCfgObjectList::get);
+    expectCopies(&zvCfgFileList::addFile, &zvCfgFileList::getFile);
+    expectCopies(&zvCfgViewList::add, &zvCfgViewList::get);
 
     zvCfgLcmState from;
     zvCfgLcmState to;
@@ -280,8 +270,7 @@ TEST_F(zvConfigurationTest, CopiesOfListsHaveTheSameParts) {
     paths.clear();
     path = empty;
     EXPECT_TRUE(path.size() == 0 && path.getStateAt(0) == &from && path.getStateAt(1) == nullptr);
-    for (const zvCfgTransitionPathList* const other :
-         {&samePaths, static_cast<const zvCfgTransitionPathList*>(&nextPaths)}) {
+    for (const zvCfgTransitionPathList* const other : {&samePaths, &std::as_const(nextPaths)}) {
         ASSERT_EQ(other->size(), 1);
         EXPECT_EQ(other->get(0)->getStateAt(1), &to);
         EXPECT_EQ(other->get(0)->getTransitionAt(0), &transition);
